@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_READER_H
+#define SMILPARSER_READER_H
+
+class QBuffer;
+class QDomDocument;
+class QString;
+
+/**
+ * QDomDocument::setContent() on @p buffer without namespaces, made the same on every Qt: silent, and leaving the buffer
+ * at its end. The pointers are written by Qt alone, only when it returns false; none may be null.
+ */
+bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn);
+
+#endif

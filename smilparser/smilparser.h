@@ -1,0 +1,329 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_H
+#define SMILPARSER_H
+
+#include <smilparser/smilparser_export.h>
+
+#include <QtCore/QBuffer>
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtXml/QDomDocument>
+
+/**
+ * @file
+ * The whole interface of the library: the model of a presentation (SmilUnit and the records up to SmilDocument) and
+ * SmilParser, which reads SMIL text into the model and renders the model as a DOM.
+ *
+ * The model types are plain values. Copies share their text and lists with the source until one of the two is changed,
+ * so that a copy costs the same however much it holds; each copy behaves as independent. Every field may be set to
+ * anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types of
+ * the fields and the numbers of the enumerators are part of the binary interface and do not change.
+ *
+ * The host program must define the flag that switches the library's debug messages:
+ * @code
+ * class Q_DECL_EXPORT MMSLogger
+ * {
+ * public:
+ *     static bool qdebugEnabled;
+ * };
+ * bool MMSLogger::qdebugEnabled = false;
+ * @endcode
+ */
+
+/**
+ * A size, position or duration: a number and the unit it was written in. Values are never converted between units.
+ * The default is the invalid measure: not #valid, #NoUnit, 0.
+ */
+class SMILPARSER_EXPORT SmilUnit
+{
+public:
+    /** The units. The text of a measure is its number followed by the suffix given here. */
+    enum Unit {
+        Pt = 0, ///< points, "pt"
+        In = 1, ///< inches, "in"
+        Cm = 2, ///< centimetres, "cm"
+        Px = 3, ///< pixels, "px"; also a number with no suffix
+        Percent = 4, ///< percent of the surrounding size, "%"
+        Sec = 5, ///< seconds, "s"
+        NoUnit = 6 ///< no suffix; the unit of a measure that was not understood
+    };
+
+    /** The invalid measure. */
+    SmilUnit()
+        : valid(false)
+        , unit(NoUnit)
+        , value(0.0)
+    {
+    }
+
+    /**
+     * The measure that @p text states, by the rules of convert(); the invalid measure when the text is null, empty or
+     * not understood. Cost: linear in the length of the text.
+     */
+    explicit SmilUnit(const QString &text)
+        : valid(false)
+        , unit(NoUnit)
+        , value(0.0)
+    {
+        valid = convert(text);
+    }
+
+    /**
+     * Reads a number with an optional unit from @p text into #unit and #value; #valid is neither read nor changed.
+     *
+     * The suffixes "pt", "in", "cm", "px", "%" and "s" are looked for in this order, case-sensitively; the first in
+     * the list that occurs anywhere in the text gives the unit, wherever others stand. What precedes its first
+     * occurrence is the number, what follows is ignored. With none of them the whole text is the number, in pixels.
+     * The number is a C-locale decimal with optional sign and exponent, a full stop as decimal point.
+     *
+     * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", infinite or
+     * beyond the range of a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
+     * and returns false.
+     *
+     * Cost: linear in the length of the text.
+     */
+    bool convert(const QString &text);
+
+    /**
+     * The measure as text: the number in its shortest form of at most six significant digits, then the unit's suffix.
+     * A null string when #valid is false or #unit is not one of #Unit.
+     *
+     * "010px" comes back as "10px", "33.333333%" as "33.3333%", "20000000s" as "2e+07s". A #value that is not finite
+     * is written as "inf" or "nan", which convert() does not read.
+     */
+    QString toString() const;
+
+    bool valid; ///< whether the text was understood; rendering writes a measure only when this is true
+    int unit; ///< a #Unit; a valid measure of any other kind is rendered as an empty attribute
+    double value; ///< the number, in #unit
+};
+Q_DECLARE_TYPEINFO(SmilUnit, Q_MOVABLE_TYPE);
+
+/** One media reference of the timeline: a picture, text, sound or film that plays in a region. */
+class SMILPARSER_EXPORT SmilRef
+{
+public:
+    /** The kinds of media, by element. */
+    enum Type {
+        Text = 0, ///< "text"
+        Img = 1, ///< "img"
+        Audio = 2, ///< "audio"
+        Video = 3, ///< "video"
+        Ref = 4 ///< "ref", media of any kind
+    };
+
+    /** A reference of kind @p kind, taken as it is, with no #src and no #region. */
+    explicit SmilRef(int kind)
+        : type(kind)
+    {
+    }
+
+    int type; ///< a #Type; a reference of any other kind is left out when rendered
+    QString src; ///< attribute "src", verbatim: where the media is; null when absent, not written when empty
+    QString region; ///< attribute "region", verbatim: the SmilRegion::id to play in, existing or not; as #src
+};
+Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
+
+/**
+ * One element of the timeline, "par" (its contents play together) or "seq" (one after another). Nested elements and
+ * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs.
+ *
+ * Destroying a tree takes one call level per level of nesting; so does rendering it. 
+ */
+class SMILPARSER_EXPORT SmilNode
+{
+public:
+    /** The kinds of timeline elements. */
+    enum Type {
+        Seq = 1, ///< "seq"
+        Par = 2 ///< "par"
+    };
+
+    /** A node of kind @p kind, taken as it is, with an invalid #dur, no #children and no #refs. */
+    explicit SmilNode(int kind = Par)
+        : type(kind)
+    {
+    }
+
+    QList<SmilNode> children; ///< the nested "par" and "seq" elements, in document order
+    int type; ///< a #Type; any other kind is rendered as "par"
+    SmilUnit dur; ///< attribute "dur"; invalid when absent or not understood ("5000ms", "indefinite")
+    QList<SmilRef> refs; ///< the media directly inside this element, in document order
+};
+Q_DECLARE_TYPEINFO(SmilNode, Q_MOVABLE_TYPE);
+
+/** The timeline, element "body". */
+class SMILPARSER_EXPORT SmilBody
+{
+public:
+    QString spare1; ///< free for the host; null by default, copied with the record, never read or written here
+    QString spare2; ///< as #spare1
+    QString spare3; ///< as #spare1
+    QString spare4; ///< as #spare1
+
+    /**
+     * The timeline's root, a SmilNode::Par standing for "body" itself. Parsing fills its SmilNode::dur and, from media
+     * directly inside "body", its SmilNode::refs; rendering writes its SmilNode::children only.
+     */
+    SmilNode root;
+};
+Q_DECLARE_TYPEINFO(SmilBody, Q_MOVABLE_TYPE);
+
+/** One named piece of information about the presentation, element "meta". */
+class SMILPARSER_EXPORT SmilMeta
+{
+public:
+    QString id; ///< attribute "id", verbatim; null when absent, not written when empty
+    QString name; ///< attribute "name"; as #id
+    QString content; ///< attribute "content"; as #id
+};
+Q_DECLARE_TYPEINFO(SmilMeta, Q_MOVABLE_TYPE);
+
+/**
+ * A rectangle of the screen that media play in, element "region". Its measures are invalid when the attribute is
+ * absent or not understood, and an invalid one is not written.
+ */
+class SMILPARSER_EXPORT SmilRegion
+{
+public:
+    QString id; ///< attribute "id", verbatim: what SmilRef::region names; null when absent, not written when empty
+    SmilUnit width; ///< attribute "width"
+    SmilUnit height; ///< attribute "height"
+    SmilUnit bottom; ///< attribute "bottom": distance from the lower edge of the root layout
+    SmilUnit top; ///< attribute "top": distance from its upper edge
+    SmilUnit left; ///< attribute "left": distance from its left edge
+    SmilUnit right; ///< attribute "right": distance from its right edge
+    QString fit; ///< attribute "fit", verbatim ("meet", "scroll", "hidden" or anything else); as #id
+};
+Q_DECLARE_TYPEINFO(SmilRegion, Q_MOVABLE_TYPE);
+
+/**
+ * Where things are shown, element "layout". All four measures are invalid by default. Rendering writes one
+ * "root-layout" whose size is the *top* layout's: a host that wants the size it read kept copies it over.
+ */
+class SMILPARSER_EXPORT SmilLayout
+{
+public:
+    SmilUnit rootLayoutWidth; ///< attribute "width" of "root-layout"; read, never written
+    SmilUnit rootLayoutHeight; ///< attribute "height" of "root-layout"; read, never written
+    SmilUnit topLayoutWidth; ///< attribute "width" of "topLayout" when read, of "root-layout" when written
+    SmilUnit topLayoutHeight; ///< attribute "height" of "topLayout" when read, of "root-layout" when written
+    QList<SmilRegion> regions; ///< every "region", in document order, those of equal SmilRegion::id too
+};
+Q_DECLARE_TYPEINFO(SmilLayout, Q_MOVABLE_TYPE);
+
+/** What precedes the timeline, element "head". */
+class SMILPARSER_EXPORT SmilHeader
+{
+public:
+    /** A header whose title is @p text, which may be null; everything else is empty. */
+    explicit SmilHeader(const QString &text = QString())
+        : title(text)
+    {
+    }
+
+    QString id; ///< attribute "id", verbatim; null when absent, not written when empty
+    QString className; ///< attribute "class"; as #id
+    QString title; ///< attribute "title"; as #id
+    QString spare; ///< free for the host; null by default, copied with the record, never read or written here
+    QList<SmilMeta> metas; ///< every "meta", in document order, those of equal SmilMeta::name too
+    SmilLayout layout; ///< the element "layout"
+};
+Q_DECLARE_TYPEINFO(SmilHeader, Q_MOVABLE_TYPE);
+
+/** A whole presentation: element "smil". */
+class SMILPARSER_EXPORT SmilDocument
+{
+public:
+    /** An empty presentation: empty text and lists, invalid measures, a SmilNode::Par as the timeline's root. */
+    SmilDocument();
+
+    SmilBody body; ///< the timeline
+    SmilHeader header; ///< what precedes it
+};
+Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
+
+class QIODevice;
+
+/**
+ * Reads one presentation, or writes one.
+ *
+ * To read, construct a parser from a device or from bytes, call parse() once and take the model it returns. To write,
+ * construct it from a model and call getContent() as often as wanted. The references that both return are to members
+ * of the parser and live as long as it does. A parser cannot be copied, and it and its DOM are used by one thread at a
+ * time; different parsers share nothing.
+ *
+ * Nothing is thrown except by a failing allocation inside Qt. Warnings go through qWarning(), always; the debug lines
+ * through qDebug(), each only while the host's MMSLogger::qdebugEnabled is true. The walks (the operations that take an
+ * element) and the renderers are public so that a host can work on a piece, or with a DOM of its own.
+ */
+class SMILPARSER_EXPORT SmilParser
+{
+public:
+    /**
+     * A parser of all that one QIODevice::readAll() on @p device gives: from its position to its end. The device is
+     * not opened, moved back, closed or kept. Null, not open or at its end: no input. Cost: one copy of the input.
+     */
+    explicit SmilParser(QIODevice *device);
+
+    /** A parser of @p bytes, which are shared, not copied. Null or empty: no input. */
+    explicit SmilParser(const QByteArray &bytes);
+
+    /** A parser that holds a copy of @p model, for getContent(). It has no input: parse() fails and keeps it. */
+    explicit SmilParser(const SmilDocument &model);
+
+    /**
+     * Reads the input into the model, and returns the model whatever happens:
+     *
+     * | The input                            | Warning                                           | The model       |
+     * |--------------------------------------|---------------------------------------------------|-----------------|
+     * | is not well-formed XML, or empty     | "Fail to parse SMIL document: '%s' at (%d,%d)!"   | unchanged       |
+     * | has no "smil" root element           | "Fail to find SMIL document!"                     | default         |
+     * | has no "head" in it                  | "Fail to find SMIL head!"                         | default         |
+     * | has no "body" in it                  | "Fail to find SMIL body!"                         | only the header |
+     * | is complete                          | none                                              | filled          |
+     *
+     * The warning of the first row carries the XML reader's message, line and column. The reader writes them to
+     * @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in all other rows they are left
+     * alone. Elements and attributes that the model has no place for are ignored, and so is an attribute that is
+     * absent or not understood: none of this is an error.
+     *
+     * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
+     *
+     * Cost: what QDomDocument::setContent() costs for the input, and a walk linear in the number of its nodes.
+     */
+    SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);
+
+    /**
+     * Reads the first "head" child of @p smil, then the first "body" child, into the model, in this order whichever
+     * comes first. The model is not cleared first. The element and its tree are not changed; they need not be
+     * parse()'s.
+     *
+     * @return whether both were found and read. If not, there is one warning as of parse() ; without a head, the body is not looked
+     * for. A null element has neither.
+     *
+     * With MMSLogger::qdebugEnabled it says "Begin to parse smil document. ", then "Smil document have a head. " and
+     * "Smil document have a body. " as each has been read.
+     */
+    bool parseSmilDocument(QDomElement &smil);
+
+    /**
+     * Reads the attributes of @p head, its "meta" children and its first "layout" child into the model's header.
+     * Metas and regions are appended to those there; attributes replace, also with nothing when they are absent. The
+     * element is not changed; a null one counts as one without attributes and children. Always true.
+     */
+    bool parseSmilHead(QDomElement &head);
+
+    /** Reads @p body into the root of the model's timeline. */
+    bool parseSmilBody(QDomElement &body);
+
+private:
+    QBuffer buffer;
+    SmilDocument document;
+    QDomDocument domDocument;
+};
+
+#endif
