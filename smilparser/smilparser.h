@@ -317,6 +317,13 @@ public:
      */
     bool parseSmilHead(QDomElement &head);
 
+    /**
+     * Reads the first "root-layout", the first "topLayout" and every "region" child of @p layout into the model's
+     * layout. Regions are appended to those there; a missing "root-layout" or "topLayout" leaves its two measures
+     * alone. The element is not changed; a null one counts as empty. Always true.
+     */
+    bool parseLayout(QDomElement &layout);
+
     /** Reads @p body into the root of the model's timeline. */
     bool parseSmilBody(QDomElement &body);
 
