@@ -131,7 +131,8 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
  * One element of the timeline, "par" (its contents play together) or "seq" (one after another). Nested elements and
  * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs.
  *
- * Destroying a tree takes one call level per level of nesting; so does rendering it. 
+ * Destroying a tree takes one call level per level of nesting; so does rendering it. Trees made by parsing are never
+ * deeper than SmilParser::MaxDepth.
  */
 class SMILPARSER_EXPORT SmilNode
 {
@@ -263,6 +264,12 @@ class QIODevice;
 class SMILPARSER_EXPORT SmilParser
 {
 public:
+    /** Bounds on what is read. */
+    enum Limit {
+        /** The deepest `depth` that parseSmilNodes() accepts: levels of "par" and "seq" below "body". */
+        MaxDepth = 512
+    };
+
     /**
      * A parser of all that one QIODevice::readAll() on @p device gives: from its position to its end. The device is
      * not opened, moved back, closed or kept. Null, not open or at its end: no input. Cost: one copy of the input.
@@ -302,8 +309,8 @@ public:
      * comes first. The model is not cleared first. The element and its tree are not changed; they need not be
      * parse()'s.
      *
-     * @return whether both were found and read. If not, there is one warning as of parse() ; without a head, the body is not looked
-     * for. A null element has neither.
+     * @return whether both were found and read. If not, there is one warning as of parse() (none when parseSmilNodes()
+     * refused the body); without a head, the body is not looked for. A null element has neither.
      *
      * With MMSLogger::qdebugEnabled it says "Begin to parse smil document. ", then "Smil document have a head. " and
      * "Smil document have a body. " as each has been read.
@@ -324,8 +331,22 @@ public:
      */
     bool parseLayout(QDomElement &layout);
 
-    /** Reads @p body into the root of the model's timeline. */
+    /** Reads @p body into the root of the model's timeline: parseSmilNodes() with it, that root and depth 0. */
     bool parseSmilBody(QDomElement &body);
+
+    /**
+     * Reads the timeline inside @p element into @p node: replaces its SmilNode::dur and appends a node for each "par"
+     * and "seq" child and a reference for each "text", "img", "audio", "video" and "ref" child, the names in any
+     * letter case. Other children are skipped with all they hold. Neither the SmilNode::type of @p node nor the element
+     * is changed, and no member of the parser is used; a null element counts as empty.
+     *
+     * @param depth how deep @p element is nested: 0 for "body"; a negative one allows for that many levels more
+     * @return false, silently, when @p depth is above #MaxDepth, and then @p node is not touched; or when it is for a
+     * nested element: that one and the elements around it up to @p element are left out, what precedes them is kept.
+     *
+     * Cost: linear in the number of nodes walked, one call level per level of nesting.
+     */
+    bool parseSmilNodes(QDomElement &element, SmilNode &node, int depth);
 
 private:
     QBuffer buffer;

@@ -3,7 +3,45 @@
 
 #include <smilparser/smilparser.h>
 
-bool SmilParser::parseSmilBody(QDomElement &)
+#include "smilparser/model/elements.h"
+
+#include <utility>
+
+static SmilRef readRef(const QDomElement &element, int type)
 {
+    SmilRef ref(type);
+    ref.region = element.attribute(QStringLiteral("region"));
+    ref.src = element.attribute(QStringLiteral("src"));
+    return ref;
+}
+
+bool SmilParser::parseSmilBody(QDomElement &body)
+{
+    return parseSmilNodes(body, document.body.root, 0);
+}
+
+bool SmilParser::parseSmilNodes(QDomElement &element, SmilNode &node, int depth)
+{
+    if (depth > MaxDepth) {
+        return false;
+    }
+    node.dur = SmilUnit(element.attribute(QStringLiteral("dur")));
+
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const SmilElement *const known = findElement(child.tagName());
+        if (!known) {
+            continue;
+        }
+        if (known->record == SmilElement::Ref) {
+            node.refs.append(readRef(child, known->type));
+            continue;
+        }
+        // Appended only when complete, so that a list never shows a node half read.
+        SmilNode nested(known->type);
+        if (!parseSmilNodes(child, nested, depth + 1)) {
+            return false;
+        }
+        node.children.append(std::move(nested));
+    }
     return true;
 }

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_ELEMENTS_H
+#define SMILPARSER_ELEMENTS_H
+
+#include <QtCore/QString>
+
+/** An element of the timeline: its name, and the record that stands for it. */
+struct SmilElement {
+    enum Record { Node, Ref };
+
+    QString name;
+    Record record;
+    int type; ///< a SmilNode::Type or SmilRef::Type
+};
+
+/** The element of that name, in any letter case; null when there is none. */
+const SmilElement *findElement(const QString &name);
+
+/** The name of the element for that record; null when there is none. */
+QString elementName(SmilElement::Record record, int type);
+
+#endif
