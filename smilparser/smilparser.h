@@ -348,6 +348,15 @@ public:
      */
     bool parseSmilNodes(QDomElement &element, SmilNode &node, int depth);
 
+    /**
+     * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends
+     * it where it belongs. The element is of the parser's own document, which getContent() drops. The record is not
+     * changed. The result is "smil", "head", "layout" and so on, never null except for a SmilRef of unknown kind.
+     */
+    QDomElement render(SmilBody &body); ///< @copydoc render(SmilDocument&)
+    QDomElement render(SmilNode &node); ///< @copydoc render(SmilDocument&)
+    QDomElement render(SmilRef &ref); ///< @copydoc render(SmilDocument&)
+
 private:
     QBuffer buffer;
     SmilDocument document;

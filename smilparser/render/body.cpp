@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "attributes.h"
+
+#include "smilparser/model/elements.h"
+
+// These take their records as const: walking a list through a non-const one would copy what the host shares with it.
+
+static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)
+{
+    const QString name = elementName(SmilElement::Ref, ref.type);
+    if (name.isNull()) {
+        return QDomElement();
+    }
+    QDomElement element = dom.createElement(name);
+    write(element, QStringLiteral("src"), ref.src);
+    write(element, QStringLiteral("region"), ref.region);
+    return element;
+}
+
+static QDomElement renderNode(QDomDocument &dom, const SmilNode &node)
+{
+    const int type = node.type == SmilNode::Seq ? SmilNode::Seq : SmilNode::Par;
+    QDomElement element = dom.createElement(elementName(SmilElement::Node, type));
+    write(element, QStringLiteral("dur"), node.dur);
+    for (const SmilNode &child : node.children) {
+        element.appendChild(renderNode(dom, child));
+    }
+    for (const SmilRef &ref : node.refs) {
+        element.appendChild(renderRef(dom, ref)); // null for an unknown kind, and that appends nothing
+    }
+    return element;
+}
+
+QDomElement SmilParser::render(SmilBody &body)
+{
+    QDomElement element = domDocument.createElement(QStringLiteral("body"));
+    for (const SmilNode &node : std::as_const(body.root.children)) {
+        element.appendChild(renderNode(domDocument, node));
+    }
+    return element;
+}
+
+QDomElement SmilParser::render(SmilNode &node)
+{
+    return renderNode(domDocument, node);
+}
+
+QDomElement SmilParser::render(SmilRef &ref)
+{
+    return renderRef(domDocument, ref);
+}
