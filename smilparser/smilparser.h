@@ -349,10 +349,23 @@ public:
     bool parseSmilNodes(QDomElement &element, SmilNode &node, int depth);
 
     /**
+     * Renders the model as a DOM document with the root element "smil", and returns that. What an earlier call or
+     * parse() left in the document is dropped; a copy of it keeps the earlier tree. The model is not changed, and
+     * every model renders: empty texts and invalid measures are left out, the rest is written verbatim. There is no
+     * XML declaration, document type or namespace. How the document is turned into text is up to the host.
+     *
+     * Cost: linear in the size of the model.
+     */
+    QDomDocument &getContent();
+
+    /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends
      * it where it belongs. The element is of the parser's own document, which getContent() drops. The record is not
      * changed. The result is "smil", "head", "layout" and so on, never null except for a SmilRef of unknown kind.
      */
+    QDomElement render(SmilDocument &model);
+    QDomElement render(SmilHeader &header); ///< @copydoc render(SmilDocument&)
+    QDomElement render(SmilLayout &layout); ///< @copydoc render(SmilDocument&)
     QDomElement render(SmilBody &body); ///< @copydoc render(SmilDocument&)
     QDomElement render(SmilNode &node); ///< @copydoc render(SmilDocument&)
     QDomElement render(SmilRef &ref); ///< @copydoc render(SmilDocument&)

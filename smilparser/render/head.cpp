@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "attributes.h"
+
+static void writeMeta(QDomElement &element, const SmilMeta &meta)
+{
+    write(element, QStringLiteral("id"), meta.id);
+    write(element, QStringLiteral("name"), meta.name);
+    write(element, QStringLiteral("content"), meta.content);
+}
+
+static void writeRegion(QDomElement &element, const SmilRegion &region)
+{
+    write(element, QStringLiteral("id"), region.id);
+    write(element, QStringLiteral("width"), region.width);
+    write(element, QStringLiteral("height"), region.height);
+    write(element, QStringLiteral("top"), region.top);
+    write(element, QStringLiteral("bottom"), region.bottom);
+    write(element, QStringLiteral("left"), region.left);
+    write(element, QStringLiteral("right"), region.right);
+    write(element, QStringLiteral("fit"), region.fit);
+}
+
+QDomElement SmilParser::render(SmilHeader &header)
+{
+    QDomElement head = domDocument.createElement(QStringLiteral("head"));
+    write(head, QStringLiteral("id"), header.id);
+    write(head, QStringLiteral("title"), header.title);
+    write(head, QStringLiteral("class"), header.className);
+
+    for (const SmilMeta &record : std::as_const(header.metas)) {
+        QDomElement meta = domDocument.createElement(QStringLiteral("meta"));
+        writeMeta(meta, record);
+        head.appendChild(meta);
+    }
+    head.appendChild(render(header.layout));
+    return head;
+}
+
+QDomElement SmilParser::render(SmilLayout &layout)
+{
+    QDomElement element = domDocument.createElement(QStringLiteral("layout"));
+    QDomElement root = domDocument.createElement(QStringLiteral("root-layout"));
+    // The top layout's size, not the root layout's: what is written is the size that the whole is shown in.
+    write(root, QStringLiteral("width"), layout.topLayoutWidth);
+    write(root, QStringLiteral("height"), layout.topLayoutHeight);
+    element.appendChild(root);
+
+    for (const SmilRegion &record : std::as_const(layout.regions)) {
+        QDomElement region = domDocument.createElement(QStringLiteral("region"));
+        writeRegion(region, record);
+        element.appendChild(region);
+    }
+    return element;
+}
