@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+// Lists what plays on each slide of the message on standard input.
+
+#include <smilparser/smilparser.h>
+
+#include <QtCore/QDebug>
+#include <QtCore/QFile>
+
+#include <cstdio>
+
+class Q_DECL_EXPORT MMSLogger
+{
+public:
+    static bool qdebugEnabled;
+};
+bool MMSLogger::qdebugEnabled = false;
+
+int main()
+{
+    QFile file;
+    file.open(stdin, QIODevice::ReadOnly);
+    const QByteArray bytes = file.readAll();
+    //! [read]
+    SmilParser parser(bytes);
+    QString error;
+    int line = 0;
+    int column = 0;
+    const SmilDocument &message = parser.parse(&error, &line, &column);
+    for (const SmilNode &slide : message.body.root.children) {
+        qInfo() << "slide," << slide.dur.toString();
+        for (const SmilRef &ref : slide.refs) {
+            qInfo() << "  " << ref.src << "in" << ref.region;
+        }
+    }
+    //! [read]
+    return error.isEmpty() ? 0 : 1;
+}

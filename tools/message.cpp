@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "message.h"
+#include "text.h"
+
+#include <QtCore/QFile>
+
+#include <cstdio>
+
+// A presentation takes a few kilobytes; what is larger than this is no message, and may have no end.
+static const qint64 largestMessage = 16 * 1024 * 1024;
+
+static QString lastWarning;
+
+void complain(const QString &text)
+{
+    std::fprintf(stderr, "%s\n", printable(text).toLocal8Bit().constData());
+}
+
+static void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtDebugMsg) {
+        complain(text.trimmed());
+    } else {
+        lastWarning = text;
+    }
+}
+
+static bool readFile(const QString &name, QByteArray &bytes)
+{
+    QFile file(name);
+    const bool opened =
+        name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    if (opened) {
+        bytes = file.read(largestMessage + 1);
+    }
+    if (!opened || file.error() != QFileDevice::NoError) {
+        complain(name + QLatin1String(": ") + file.errorString());
+        return false;
+    }
+    if (bytes.size() > largestMessage) {
+        complain(name + QStringLiteral(": larger than %1 MiB").arg(largestMessage / (1024 * 1024)));
+        return false;
+    }
+    return true;
+}
+
+bool readMessage(const QString &file, SmilDocument &document)
+{
+    QByteArray bytes;
+    if (!readFile(file, bytes)) {
+        return false;
+    }
+    lastWarning.clear();
+    const QtMessageHandler earlier = qInstallMessageHandler(handleMessage);
+    SmilParser parser(bytes);
+    QString error;
+    int line = -1;
+    int column = -1;
+    document = parser.parse(&error, &line, &column);
+    qInstallMessageHandler(earlier);
+
+    const bool wellFormed = line == -1;
+    if (!wellFormed) {
+        complain(QStringLiteral("%1:%2:%3: %4").arg(file).arg(line).arg(column).arg(error));
+    } else if (!lastWarning.isEmpty()) {
+        complain(file + QLatin1String(": ") + lastWarning);
+    }
+    return wellFormed && lastWarning.isEmpty();
+}

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_MESSAGE_H
+#define SMILTOOL_MESSAGE_H
+
+#include <smilparser/smilparser.h>
+
+/**
+ * Reads the message part @p file ("-" is standard input) into @p document. If it cannot be read, is not well formed or
+ * lacks smil, head or body, says so in one line on standard error and returns false.
+ */
+bool readMessage(const QString &file, SmilDocument &document);
+
+/** Writes a line to standard error, as printable(). */
+void complain(const QString &text);
+
+#endif

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "commands.h"
+#include "text.h"
+
+#include <QtCore/QIODevice>
+
+namespace
+{
+/** The lines of an outline. */
+class Outline
+{
+public:
+    explicit Outline(QIODevice &device)
+        : out(device)
+    {
+    }
+
+    void line(int level, const QString &text)
+    {
+        // A bound on the indentation keeps the output in proportion to the input, however deep that is nested.
+        out.write(QByteArray(2 * qMin(level, 40), ' ') + text.toUtf8() + '\n');
+    }
+
+    void text(int level, QLatin1String label, const QString &value)
+    {
+        if (!value.isEmpty()) {
+            line(level, label + QLatin1Char(' ') + quoted(value));
+        }
+    }
+
+private:
+    QIODevice &out;
+};
+}
+
+static QString size(const SmilUnit &width, const SmilUnit &height)
+{
+    if (!width.valid && !height.valid) {
+        return QStringLiteral("no size");
+    }
+    if (!width.valid) {
+        return QStringLiteral("height ") + height.toString();
+    }
+    if (!height.valid) {
+        return QStringLiteral("width ") + width.toString();
+    }
+    return width.toString() + QLatin1String(" x ") + height.toString();
+}
+
+static QString position(QLatin1String edge, const SmilUnit &distance)
+{
+    return distance.valid ? QLatin1String(", ") + edge + QLatin1Char(' ') + distance.toString() : QString();
+}
+
+static QString describe(const SmilRegion &region)
+{
+    QString text = QLatin1String("region ") + quoted(region.id) + QLatin1String(": ")
+        + size(region.width, region.height) + position(QLatin1String("left"), region.left)
+        + position(QLatin1String("top"), region.top) + position(QLatin1String("right"), region.right)
+        + position(QLatin1String("bottom"), region.bottom);
+    if (!region.fit.isEmpty()) {
+        text += QLatin1String(", fit ") + quoted(region.fit);
+    }
+    return text;
+}
+
+static QString describe(const SmilRef &ref)
+{
+    static const char *const names[] = {"text", "img", "audio", "video", "ref"};
+    QString text = QLatin1String(names[ref.type]) + QLatin1Char(' ') + quoted(ref.src);
+    if (!ref.region.isEmpty()) {
+        text += QLatin1String(" in ") + quoted(ref.region);
+    }
+    return text;
+}
+
+static void showTimeline(Outline &outline, int level, const QString &name, const SmilNode &node)
+{
+    outline.line(level, name + (node.dur.valid ? QLatin1String(", ") + node.dur.toString() : QString()));
+    for (const SmilNode &child : node.children) {
+        const bool seq = child.type == SmilNode::Seq;
+        showTimeline(outline, level + 1, seq ? QStringLiteral("seq") : QStringLiteral("par"), child);
+    }
+    for (const SmilRef &ref : node.refs) {
+        outline.line(level + 1, describe(ref));
+    }
+}
+
+static void showHeader(Outline &outline, const SmilHeader &header)
+{
+    outline.line(1, QStringLiteral("head"));
+    outline.text(2, QLatin1String("id"), header.id);
+    outline.text(2, QLatin1String("title"), header.title);
+    outline.text(2, QLatin1String("class"), header.className);
+    for (const SmilMeta &meta : header.metas) {
+        const QString id = meta.id.isEmpty() ? QString() : QLatin1String(", id ") + quoted(meta.id);
+        outline.line(2, QLatin1String("meta ") + quoted(meta.name) + QLatin1String(": ") + quoted(meta.content) + id);
+    }
+}
+
+static void showLayout(Outline &outline, const SmilLayout &layout)
+{
+    outline.line(1, QStringLiteral("layout"));
+    outline.line(2, QLatin1String("root-layout: ") + size(layout.rootLayoutWidth, layout.rootLayoutHeight));
+    if (layout.topLayoutWidth.valid || layout.topLayoutHeight.valid) {
+        outline.line(2, QLatin1String("topLayout: ") + size(layout.topLayoutWidth, layout.topLayoutHeight));
+    }
+    for (const SmilRegion &region : layout.regions) {
+        outline.line(2, describe(region));
+    }
+}
+
+void show(const QString &file, const SmilDocument &document, QIODevice &out)
+{
+    Outline outline(out);
+    outline.line(0, printable(file));
+    showHeader(outline, document.header);
+    showLayout(outline, document.header.layout);
+    showTimeline(outline, 1, QStringLiteral("body"), document.body.root);
+}
