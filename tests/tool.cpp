@@ -1,0 +1,202 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include <QtCore/QProcess>
+#include <QtTest/QtTest>
+
+namespace
+{
+struct Outcome {
+    int status = -1;
+    QString out;
+    QString err;
+};
+}
+
+static Outcome run(const QString &program, const QStringList &arguments, const QByteArray &input = QByteArray())
+{
+    QProcess process;
+    process.setWorkingDirectory(QStringLiteral(EXAMPLES_DIR));
+    process.start(program, arguments);
+    process.write(input);
+    process.closeWriteChannel();
+    Outcome outcome;
+    if (process.waitForFinished() && process.exitStatus() == QProcess::NormalExit) {
+        outcome.status = process.exitCode();
+    }
+    outcome.out = QString::fromUtf8(process.readAllStandardOutput());
+    outcome.err = QString::fromUtf8(process.readAllStandardError());
+    return outcome;
+}
+
+static Outcome smiltool(const QStringList &arguments, const QByteArray &input = QByteArray())
+{
+    return run(QStringLiteral(SMILTOOL), arguments, input);
+}
+
+static QString readFile(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("cannot read ") + name;
+}
+
+static QString golden(const QString &name)
+{
+    return readFile(QStringLiteral(GOLDEN_DIR "/") + name);
+}
+
+class Tool : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void samples_data();
+    void samples();
+    void problems_data();
+    void problems();
+    void badUsage_data();
+    void badUsage();
+    void otherFilesAreHandled();
+    void textFromStrangersIsEscaped();
+    void lostOutputIsAnError();
+    void debugLines();
+    void examples();
+};
+
+void Tool::samples_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<QString>("sample");
+    for (const char *const command : {"show", "render"}) {
+        for (const char *const sample : {"holiday", "greeting", "nested"}) {
+            QTest::addRow("%s %s", command, sample) << QString::fromLatin1(command) << QString::fromLatin1(sample);
+        }
+    }
+}
+
+void Tool::samples()
+{
+    QFETCH(QString, command);
+    QFETCH(QString, sample);
+    const Outcome outcome = smiltool({command, sample + QStringLiteral(".smil")});
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.out, golden(sample + QLatin1Char('.') + command));
+    QCOMPARE(outcome.status, 0);
+}
+
+void Tool::problems_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<QString>("line"); // a regular expression
+    const QString input = QStringLiteral("-");
+    QTest::newRow("absent") << QStringLiteral("absent.smil") << QByteArray()
+                            << QStringLiteral("absent\\.smil: No such.*");
+    QTest::newRow("a folder") << QStringLiteral(".") << QByteArray() << QStringLiteral("\\.: .+");
+    QTest::newRow("endless") << QStringLiteral("/dev/zero") << QByteArray()
+                             << QStringLiteral("/dev/zero: larger than 16 MiB");
+    QTest::newRow("empty") << input << QByteArray() << QStringLiteral("-:1:\\d+: .+");
+    QTest::newRow("not well formed") << input << QByteArray("<smil>\n<head></smil>") << QStringLiteral("-:2:\\d+: .+");
+    QTest::newRow("no smil") << input << QByteArray("<html/>") << QStringLiteral("-: Fail to find SMIL document!");
+    QTest::newRow("no head") << input << QByteArray("<smil><body/></smil>")
+                             << QStringLiteral("-: Fail to find SMIL head!");
+    QTest::newRow("no body") << input << QByteArray("<smil><head/></smil>")
+                             << QStringLiteral("-: Fail to find SMIL body!");
+}
+
+void Tool::problems()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, input);
+    QFETCH(QString, line);
+    const Outcome outcome = smiltool({QStringLiteral("show"), file}, input);
+    QVERIFY(outcome.err.endsWith(QLatin1Char('\n')));
+    const QRegularExpression expected(QRegularExpression::anchoredPattern(line));
+    QVERIFY2(expected.match(outcome.err.chopped(1)).hasMatch(), qPrintable(outcome.err));
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 1);
+}
+
+void Tool::badUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("no command") << QStringList();
+    QTest::newRow("unknown command") << QStringList{QStringLiteral("play"), QStringLiteral("holiday.smil")};
+    QTest::newRow("no file") << QStringList{QStringLiteral("show")};
+    QTest::newRow("unknown option") << QStringList{QStringLiteral("show"), QStringLiteral("--loud"),
+                                                   QStringLiteral("-")};
+}
+
+void Tool::badUsage()
+{
+    QFETCH(QStringList, arguments);
+    const Outcome outcome = smiltool(arguments);
+    QCOMPARE(outcome.out, QString());
+    QVERIFY(outcome.err.startsWith(QLatin1String("smiltool: ")));
+    QCOMPARE(outcome.status, 2);
+}
+
+void Tool::otherFilesAreHandled()
+{
+    const QStringList files{QStringLiteral("greeting.smil"), QStringLiteral("absent.smil"),
+                            QStringLiteral("nested.smil")};
+    const Outcome outcome = smiltool(QStringList{QStringLiteral("show")} + files);
+    QCOMPARE(outcome.out, golden(QStringLiteral("greeting.show")) + golden(QStringLiteral("nested.show")));
+    QCOMPARE(outcome.err.count(QLatin1Char('\n')), 1);
+    QCOMPARE(outcome.status, 1);
+}
+
+void Tool::textFromStrangersIsEscaped()
+{
+    const QByteArray input = "<smil><head title='a\"\\&#x9b;&#x202e;b'/><body/></smil>";
+    const Outcome outcome = smiltool({QStringLiteral("show"), QStringLiteral("-")}, input);
+    QVERIFY2(outcome.out.contains(QLatin1String("title \"a\\\"\\\\\\u009b\\u202eb\"\n")), qPrintable(outcome.out));
+}
+
+void Tool::lostOutputIsAnError()
+{
+    const QStringList script{QStringLiteral("-c"), QStringLiteral(SMILTOOL " show holiday.smil > /dev/full")};
+    const Outcome outcome = run(QStringLiteral("/bin/sh"), script);
+    QVERIFY2(outcome.err.startsWith(QLatin1String("smiltool: standard output: ")), qPrintable(outcome.err));
+    QCOMPARE(outcome.status, 1);
+}
+
+void Tool::debugLines()
+{
+    const Outcome outcome =
+        smiltool({QStringLiteral("render"), QStringLiteral("--debug"), QStringLiteral("holiday.smil")});
+    QCOMPARE(outcome.err,
+             QStringLiteral("Begin to parse smil document.\n"
+                            "Smil document have a head.\n"
+                            "Smil document have a body.\n"));
+    QCOMPARE(outcome.out, golden(QStringLiteral("holiday.render")));
+}
+
+void Tool::examples()
+{
+    const Outcome composed = run(QStringLiteral(EXAMPLES_BIN_DIR "/compose"), {});
+    QCOMPARE(composed.status, 0);
+    const Outcome rendered = smiltool({QStringLiteral("render"), QStringLiteral("-")}, composed.out.toUtf8());
+    // The root layout's size is written, and not written back.
+    QCOMPARE(rendered.out, golden(QStringLiteral("compose.render")));
+    const Outcome listed = run(QStringLiteral(EXAMPLES_BIN_DIR "/read"), {}, composed.out.toUtf8());
+    QCOMPARE(listed.err, golden(QStringLiteral("read.err")));
+
+    const QString readme = readFile(QStringLiteral(EXAMPLES_DIR "/../README.md"));
+    static const QRegularExpression snippet(QStringLiteral("//! \\[(\\w+)\\]\n(.*)\n *//! \\[\\1\\]\n"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    for (const QString &file : {QStringLiteral("/compose.cpp"), QStringLiteral("/read.cpp")}) {
+        auto snippets = snippet.globalMatch(readFile(QStringLiteral(EXAMPLES_DIR) + file));
+        QVERIFY(snippets.hasNext());
+        while (snippets.hasNext()) {
+            QString code = snippets.next().captured(2);
+            static const QRegularExpression indentation(QStringLiteral("^    "), QRegularExpression::MultilineOption);
+            if (code.startsWith(QLatin1String("    "))) {
+                code.remove(indentation);
+            }
+            QVERIFY2(readme.contains(code), qPrintable(code));
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(Tool)
+#include "tool.moc"
