@@ -264,10 +264,16 @@ class QIODevice;
 class SMILPARSER_EXPORT SmilParser
 {
 public:
-    /** Bounds on what is read. */
+    /**
+     * Bounds on what is read. An ordinary message is nowhere near them. parse() takes a document that exceeds one for
+     * XML that is not well formed and ends there; SECURITY.md says why, and what it costs without them.
+     */
     enum Limit {
-        /** The deepest `depth` that parseSmilNodes() accepts: levels of "par" and "seq" below "body". */
-        MaxDepth = 512
+        MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
+        MaxAttributes = 256, ///< attributes that an element states
+        MaxExpansion = 8192, ///< characters that entity references and attribute defaults bring in, in sum
+        MaxSubset = 4096, ///< characters of the internal subset of the document type; no parameter entities in it
+        MaxName = 4096 ///< characters of a name
     };
 
     /**

@@ -28,12 +28,15 @@ static void check(const SmilDocument &model, const QString &expected)
     QCOMPARE(canonical(dom), expected);
     QCOMPARE(&parser.getContent(), &dom);
     QCOMPARE(canonical(dom), expected);
+    QVERIFY(dom.toString().startsWith(QStringLiteral("<smil>")));
     QCOMPARE(messages.take(), QString());
     const SmilDocument &held = parser.parse(); // finds no input, so that the model stays
     QVERIFY(messages.take().startsWith(QStringLiteral("WFail to parse SMIL document: '")));
     QCOMPARE(Outline::of(held), Outline::of(model));
-    const QList<SmilNode> &nodes = held.body.root.children;
-    QVERIFY(nodes.isEmpty() || &nodes.at(0) == &model.body.root.children.at(0)); // still shared
+    const QList<SmilNode> &nodes = held.body.root.children; // as the other lists still shared
+    QVERIFY(nodes.isEmpty() || &nodes.at(0) == &model.body.root.children.at(0));
+    const QList<SmilMeta> &metas = held.header.metas;
+    QVERIFY(metas.isEmpty() || &metas.at(0) == &model.header.metas.at(0));
     const QList<SmilRegion> &regions = held.header.layout.regions;
     QVERIFY(regions.isEmpty() || &regions.at(0) == &model.header.layout.regions.at(0));
 

@@ -3,17 +3,24 @@
 
 #include "reader.h"
 
+#include "guard/guard.h"
+
 #include <QtCore/QBuffer>
 #include <QtXml/QDomDocument>
 
 bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    // Qt 6 opens a closed device too, but warns about it.
+    // Closed, it has not been read yet.
     if (!buffer.isOpen()) {
-        buffer.open(QIODevice::ReadOnly);
-    }
+        const QByteArray &bytes = buffer.data();
+        const qint64 size = harmlessSize(bytes);
+        if (size < bytes.size()) {
+            buffer.setData(bytes.left(int(size)));
+        }
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+        buffer.open(QIODevice::ReadOnly); // Qt 6 would do so too, but warn about it.
 #endif
+    }
     // From Qt 6.8 this overload is deprecated in favour of one that Qt 5 and 6.4 do not have.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED

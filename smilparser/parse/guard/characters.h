@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_CHARACTERS_H
+#define SMILPARSER_CHARACTERS_H
+
+#include <QtCore/QString>
+
+inline bool isSpace(char16_t c)
+{
+    return c == u' ' || c == u'\n' || c == u'\r' || c == u'\t';
+}
+
+inline bool isQuote(char16_t c)
+{
+    return c == u'"' || c == u'\'';
+}
+
+/** Whether a name cannot go on with that character in markup that the XML reader accepts. */
+inline bool endsName(char16_t c)
+{
+    return c <= u'>' && (c == u'=' || c == u'/' || c == u'<' || c == u'>' || isSpace(c) || isQuote(c));
+}
+
+/** The text with its references to characters replaced by these. */
+QString expandCharacters(const QString &text);
+
+#endif
