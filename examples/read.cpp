@@ -20,8 +20,7 @@ bool MMSLogger::qdebugEnabled = false;
 int main()
 {
     QFile file;
-    file.open(stdin, QIODevice::ReadOnly);
-    const QByteArray bytes = file.readAll();
+    const QByteArray bytes = file.open(stdin, QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     //! [read]
     SmilParser parser(bytes);
     QString error;

@@ -77,7 +77,8 @@ public:
      * The suffixes "pt", "in", "cm", "px", "%" and "s" are looked for in this order, case-sensitively; the first in
      * the list that occurs anywhere in the text gives the unit, wherever others stand. What precedes its first
      * occurrence is the number, what follows is ignored. With none of them the whole text is the number, in pixels.
-     * The number is a C-locale decimal with optional sign and exponent, a full stop as decimal point.
+     * The number is a C-locale decimal with optional sign and exponent, a full stop as decimal point; white space
+     * around it is ignored.
      *
      * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", infinite or
      * beyond the range of a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
@@ -247,8 +248,6 @@ public:
 };
 Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
 
-class QIODevice;
-
 /**
  * Reads one presentation, or writes one.
  *
@@ -278,7 +277,8 @@ public:
 
     /**
      * A parser of all that one QIODevice::readAll() on @p device gives: from its position to its end. The device is
-     * not opened, moved back, closed or kept. Null, not open or at its end: no input. Cost: one copy of the input.
+     * not opened, moved back, closed or kept. Null, not open (Qt warns of that) or at its end: no input. Cost: one copy
+     * of the input.
      */
     explicit SmilParser(QIODevice *device);
 
@@ -293,13 +293,14 @@ public:
      *
      * | The input                            | Warning                                           | The model       |
      * |--------------------------------------|---------------------------------------------------|-----------------|
-     * | is not well-formed XML, or empty     | "Fail to parse SMIL document: '%s' at (%d,%d)!"   | unchanged       |
+     * | is not XML that Qt reads, or empty   | "Fail to parse SMIL document: '%s' at (%d,%d)!"   | unchanged       |
      * | has no "smil" root element           | "Fail to find SMIL document!"                     | default         |
      * | has no "head" in it                  | "Fail to find SMIL head!"                         | default         |
      * | has no "body" in it                  | "Fail to find SMIL body!"                         | only the header |
      * | is complete                          | none                                              | filled          |
      *
-     * The warning of the first row carries the XML reader's message, line and column. The reader writes them to
+     * The first row is also that of a document beyond a #Limit. The warning carries the XML reader's message, line and
+     * column. The reader writes them to
      * @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in all other rows they are left
      * alone. Elements and attributes that the model has no place for are ignored, and so is an attribute that is
      * absent or not understood: none of this is an error.

@@ -51,16 +51,17 @@ static int run(const Command &command, const QStringList &files)
 {
     int status = Success;
     QFile out;
-    out.open(stdout, QIODevice::WriteOnly);
+    bool written = out.open(stdout, QIODevice::WriteOnly);
     for (const QString &file : files) {
         SmilDocument document;
         if (readMessage(file, document)) {
             command.run(file, document, out);
+            written = out.flush() && written; // before the next file's problems
         } else {
             status = Failure;
         }
     }
-    if (!out.flush() || out.error() != QFileDevice::NoError) {
+    if (!written || out.error() != QFileDevice::NoError) {
         complain(QLatin1String("smiltool: standard output: ") + out.errorString());
         status = Failure;
     }

@@ -8,14 +8,14 @@
 
 #include <cstdio>
 
-// A presentation takes a few kilobytes; what is larger than this is no message, and may have no end.
-static const qint64 largestMessage = 16 * 1024 * 1024;
+// A presentation takes a few kilobytes. What is larger than this is none, and may have no end.
+static const qint64 largestMessage = 1024 * 1024;
 
 static QString lastWarning;
 
 void complain(const QString &text)
 {
-    std::fprintf(stderr, "%s\n", printable(text).toLocal8Bit().constData());
+    std::fprintf(stderr, "%s\n", qPrintable(printable(text)));
 }
 
 static void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
@@ -48,18 +48,17 @@ static bool readFile(const QString &name, QByteArray &bytes)
 
 bool readMessage(const QString &file, SmilDocument &document)
 {
+    qInstallMessageHandler(handleMessage);
     QByteArray bytes;
     if (!readFile(file, bytes)) {
         return false;
     }
     lastWarning.clear();
-    const QtMessageHandler earlier = qInstallMessageHandler(handleMessage);
     SmilParser parser(bytes);
     QString error;
     int line = -1;
     int column = -1;
     document = parser.parse(&error, &line, &column);
-    qInstallMessageHandler(earlier);
 
     const bool wellFormed = line == -1;
     if (!wellFormed) {

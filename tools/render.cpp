@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
+#include "text.h"
 
 #include <QtCore/QXmlStreamWriter>
 
@@ -28,9 +29,11 @@ static void writeElement(QXmlStreamWriter &writer, const QDomElement &element)
 void render(const QString &, const SmilDocument &document, QIODevice &out)
 {
     SmilParser parser(document);
-    QXmlStreamWriter writer(&out);
+    QString xml;
+    QXmlStreamWriter writer(&xml);
     writer.setAutoFormattingIndent(2);
     writer.setAutoFormatting(false);
     writeElement(writer, parser.getContent().documentElement());
     writer.writeEndDocument();
+    out.write(printableXml(xml).toUtf8());
 }

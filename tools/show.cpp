@@ -76,15 +76,15 @@ static QString describe(const SmilRef &ref)
     return text;
 }
 
-static void showTimeline(Outline &outline, int level, const QString &name, const SmilNode &node)
+static void showContents(Outline &outline, int level, const SmilNode &node)
 {
-    outline.line(level, name + (node.dur.valid ? QLatin1String(", ") + node.dur.toString() : QString()));
     for (const SmilNode &child : node.children) {
-        const bool seq = child.type == SmilNode::Seq;
-        showTimeline(outline, level + 1, seq ? QStringLiteral("seq") : QStringLiteral("par"), child);
+        const QString name = child.type == SmilNode::Seq ? QStringLiteral("seq, ") : QStringLiteral("par, ");
+        outline.line(level, name + (child.dur.valid ? child.dur.toString() : QStringLiteral("no duration")));
+        showContents(outline, level + 1, child);
     }
     for (const SmilRef &ref : node.refs) {
-        outline.line(level + 1, describe(ref));
+        outline.line(level, describe(ref));
     }
 }
 
@@ -118,5 +118,7 @@ void show(const QString &file, const SmilDocument &document, QIODevice &out)
     outline.line(0, printable(file));
     showHeader(outline, document.header);
     showLayout(outline, document.header.layout);
-    showTimeline(outline, 1, QStringLiteral("body"), document.body.root);
+    const SmilNode &body = document.body.root;
+    outline.line(1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
+    showContents(outline, 2, body);
 }

@@ -3,9 +3,11 @@
 
 #include "text.h"
 
-static bool isHidden(QChar c)
+#include <string>
+
+static bool isHidden(uint c)
 {
-    switch (c.category()) {
+    switch (QChar::category(c)) {
     case QChar::Other_Control:
     case QChar::Other_Format:
     case QChar::Separator_Line:
@@ -16,18 +18,31 @@ static bool isHidden(QChar c)
     }
 }
 
-QString printable(const QString &text)
+template<typename Escape>
+static QString escape(const QString &text, Escape escaped)
 {
     QString result;
     result.reserve(text.size());
-    for (const QChar c : text) {
-        if (isHidden(c)) {
-            result += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-        } else {
-            result += c;
-        }
+    const std::u32string characters = text.toStdU32String();
+    for (const char32_t c : characters) {
+        result += isHidden(c) ? escaped(c) : QString::fromUcs4(&c, 1);
     }
     return result;
+}
+
+QString printable(const QString &text)
+{
+    return escape(text, [](uint c) { return QStringLiteral("\\u{%1}").arg(c, 4, 16, QLatin1Char('0')); });
+}
+
+QString printableXml(const QString &text)
+{
+    return escape(text, [](uint c) {
+        const bool allowed = c == '\t' || c == '\n' || c == '\r' || c >= 0x20;
+        return c == '\n' ? QString(QLatin1Char('\n'))
+            : allowed    ? QStringLiteral("&#x%1;").arg(c, 0, 16)
+                         : QString(QChar(QChar::ReplacementCharacter));
+    });
 }
 
 QString quoted(const QString &text)

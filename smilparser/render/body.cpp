@@ -5,6 +5,8 @@
 
 #include "smilparser/model/elements.h"
 
+#include <utility>
+
 // These take their records as const: walking a list through a non-const one would copy what the host shares with it.
 
 static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)

@@ -3,6 +3,8 @@
 
 #include "attributes.h"
 
+#include <utility>
+
 static void writeMeta(QDomElement &element, const SmilMeta &meta)
 {
     write(element, QStringLiteral("id"), meta.id);

@@ -22,7 +22,7 @@ public:
      * All that is looked at for the encoding. Qt 5 reads no further itself. Qt 6 decodes anew what it then holds of the
      * input, which is all of it up to there only when that is short; so a longer declaration is refused.
      */
-    static const qint64 longestDeclaration = 1024;
+    static constexpr qint64 longestDeclaration = 1024;
 
     /** Where in the text the reader is when it knows the encoding; -1 when the declaration is too long. */
     qint64 start() const { return continuation; }
