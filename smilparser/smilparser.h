@@ -347,7 +347,8 @@ public:
      * letter case. Other children are skipped with all they hold. Neither the SmilNode::type of @p node nor the element
      * is changed, and no member of the parser is used; a null element counts as empty.
      *
-     * @param depth how deep @p element is nested: 0 for "body"; a negative one allows for that many levels more
+     * @p depth says how deep @p element is nested: 0 for "body"; a negative one allows for that many levels more.
+     *
      * @return false, silently, when @p depth is above #MaxDepth, and then @p node is not touched; or when it is for a
      * nested element: that one and the elements around it up to @p element are left out, what precedes them is kept.
      *

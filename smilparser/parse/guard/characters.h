@@ -22,6 +22,26 @@ inline bool endsName(char16_t c)
     return c <= u'>' && (c == u'=' || c == u'/' || c == u'<' || c == u'>' || isSpace(c) || isQuote(c));
 }
 
+inline char16_t code(char c)
+{
+    return uchar(c);
+}
+
+inline char16_t code(char16_t c)
+{
+    return c;
+}
+
+inline QString toText(const char *begin, const char *end)
+{
+    return QString::fromUtf8(begin, int(end - begin));
+}
+
+inline QString toText(const char16_t *begin, const char16_t *end)
+{
+    return QString(reinterpret_cast<const QChar *>(begin), int(end - begin));
+}
+
 /** The text with its references to characters replaced by these. */
 QString expandCharacters(const QString &text);
 

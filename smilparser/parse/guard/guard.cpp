@@ -3,16 +3,23 @@
 
 #include "guard.h"
 
-#include "decodedtext.h"
+#include "encoding.h"
 #include "scanner.h"
 
 qint64 harmlessSize(const QByteArray &bytes)
 {
-    const DecodedText decoded(bytes);
-    if (decoded.start() < 0) {
-        return qMin<qint64>(bytes.size(), DecodedText::longestDeclaration);
+    const Encoding encoding(bytes);
+    if (encoding.start() < 0) {
+        return qMin<qint64>(bytes.size(), Encoding::longestDeclaration);
     }
     Replacements replacements;
-    Scanner scanner(decoded.text(), replacements, Scanner::Document);
-    return scanner.scan(decoded.start()) == Scanner::Refused ? decoded.byteOffset(scanner.place()) : bytes.size();
+    // What is markup can be told from the bytes of UTF-8 as they are, and hardly any message is in anything else.
+    if (encoding.isUtf8()) {
+        Scanner<char> scanner(bytes.constData(), bytes.size(), replacements, ScannedText::Document);
+        return scanner.scan() == ScanResult::Refused ? scanner.place() : bytes.size();
+    }
+    const QString text = encoding.text();
+    Scanner<char16_t> scanner(reinterpret_cast<const char16_t *>(text.utf16()), text.size(), replacements,
+                              ScannedText::Document);
+    return scanner.scan(encoding.start()) == ScanResult::Refused ? encoding.byteOffset(scanner.place()) : bytes.size();
 }

@@ -7,38 +7,58 @@
 
 #include <smilparser/smilparser.h>
 
-#include <algorithm>
+#include <QtCore/QStringList>
 
-Scanner::Scanner(const QString &text, Replacements &known, Kind what)
-    : begin(reinterpret_cast<const char16_t *>(text.utf16()))
-    , end(begin + text.size())
+#include <algorithm>
+#include <string>
+
+template<typename Char>
+static const Char *find(const Char *begin, const Char *end, Char c)
+{
+    const Char *const found = std::char_traits<Char>::find(begin, std::size_t(end - begin), c);
+    return found ? found : end;
+}
+
+template<typename Char>
+Scanner<Char>::Scanner(const Char *text, qint64 size, Replacements &known, ScannedText what)
+    : begin(text)
+    , end(begin + size)
     , at(begin)
     , replacements(known)
     , kind(what)
 {
 }
 
-Scanner::Result Scanner::scan(qint64 start)
+template<typename Char>
+ScanResult Scanner<Char>::scan(qint64 start)
 {
     at = begin + start;
-    Result result = Passed;
-    while (result == Passed) {
+    ScanResult result = ScanResult::Passed;
+    while (result == ScanResult::Passed) {
         // References matter only where something is declared that can take their place.
-        const char16_t ampersand = replacements.isEmpty() ? u'<' : u'&';
-        at = std::find_if(at, end, [ampersand](char16_t c) { return c == u'<' || c == ampersand; });
+        if (!replacements.isEmpty()) {
+            at = std::find_if(at, end, [](Char c) { return c == Char('<') || c == Char('&'); });
+        } else if (at != end && *at != Char('<')) {
+            at = find(at, end, Char('<'));
+        }
         if (at == end) {
             break;
         }
-        // Outside of the root element a reference is an error, and a document cut off there might be complete.
-        const bool outside = kind == Document && level == 0;
-        result = *at == u'<' ? markup() : outside ? Malformed : reference();
+        if (*at == Char('<')) {
+            result = markup();
+        } else {
+            // Outside of the root element a reference is an error, and a document cut off there might be complete.
+            const bool outside = kind == ScannedText::Document && level == 0;
+            result = outside ? ScanResult::Malformed : reference();
+        }
     }
     return result;
 }
 
-Scanner::Result Scanner::markup()
+template<typename Char>
+ScanResult Scanner<Char>::markup()
 {
-    switch (end - at > 1 ? at[1] : u'\0') {
+    switch (end - at > 1 ? code(at[1]) : u'\0') {
     case u'/':
         return endTag();
     case u'?':
@@ -50,125 +70,161 @@ Scanner::Result Scanner::markup()
         if (startsWith(QLatin1String("<![CDATA["))) {
             return skipPast(QLatin1String("]]>"), 9);
         }
-        return startsWith(QLatin1String("<!DOCTYPE")) && kind == Document ? documentType() : Malformed;
+        return startsWith(QLatin1String("<!DOCTYPE")) && kind == ScannedText::Document ? documentType()
+                                                                                       : ScanResult::Malformed;
     default:
         return startTag();
     }
 }
 
-Scanner::Result Scanner::startTag()
+template<typename Char>
+ScanResult Scanner<Char>::startTag()
 {
-    if (kind == Document && rootSeen && level == 0) {
-        return Malformed; // A second root. Cut off before it, the document would be complete.
+    if (level == 0 && rootSeen && kind == ScannedText::Document) {
+        return ScanResult::Malformed; // A second root. Cut off before it, the document would be complete.
     }
     if (level == SmilParser::MaxDepth) {
-        return Refused;
+        return ScanResult::Refused;
     }
     rootSeen = true;
     deepest = qMax(deepest, level + 1);
-    ++at;
+    if (replacements.isEmpty() && skipPlainTag()) {
+        return ScanResult::Passed;
+    }
+    const Char *const tag = ++at;
     if (!replacements.isEmpty()) {
-        const char16_t *const tag = at;
-        if (replace(QLatin1Char('<') + readName()) == Refused) {
-            return Refused;
+        if (replace(QLatin1Char('<') + readName()) == ScanResult::Refused) {
+            return ScanResult::Refused;
         }
         at = tag;
     }
-    int attributes = 0;
-    for (;; ++at) {
-        Result result = skipName();
-        if (result == Passed && isQuote(*at)) {
-            result = ++attributes > SmilParser::MaxAttributes ? Refused : attributeValue();
-        }
-        if (result != Passed) {
-            return result;
-        }
-        if (*at == u'<') {
-            return Malformed;
-        }
-        if (*at == u'>') {
-            level += at[-1] == u'/' ? 0 : 1;
+    const ScanResult result = attributes();
+    // Also where the tag seems not to end: past a name that is too long, the reader of Qt 6.4 goes on differently.
+    return hasLongName(tag) ? ScanResult::Refused : result;
+}
+
+// Of nearly all tags, all there is to know is whether they end in "/>". Where only one ">" comes before the next
+// markup, it ends the tag, whatever is quoted in that; and a short tag has no room for what the limits are about.
+template<typename Char>
+bool Scanner<Char>::skipPlainTag()
+{
+    const qint64 shortestAttribute = 4; // a=""
+    const Char *const next = find(at + 1, end, Char('<'));
+    const Char *const close = find(at + 1, next, Char('>'));
+    if (close == next || close - at > SmilParser::MaxAttributes * shortestAttribute
+        || find(close + 1, next, Char('>')) != next) {
+        return false;
+    }
+    level += close[-1] == Char('/') ? 0 : 1;
+    at = next;
+    return true;
+}
+
+template<typename Char>
+ScanResult Scanner<Char>::attributes()
+{
+    int count = 0;
+    for (; at != end; ++at) {
+        if (isQuote(code(*at))) {
+            const ScanResult result = ++count > SmilParser::MaxAttributes ? ScanResult::Refused : attributeValue();
+            if (result != ScanResult::Passed) {
+                return result;
+            }
+        } else if (*at == Char('>')) {
+            level += at[-1] == Char('/') ? 0 : 1;
             ++at;
-            return Passed;
+            return ScanResult::Passed;
+        } else if (*at == Char('<')) {
+            return ScanResult::Malformed;
         }
     }
+    return ScanResult::Malformed;
 }
 
 // To the quotation mark that ends it, not past that.
-Scanner::Result Scanner::attributeValue()
+template<typename Char>
+ScanResult Scanner<Char>::attributeValue()
 {
-    const char16_t quote = *at++;
-    const char16_t ampersand = replacements.isEmpty() ? quote : u'&';
+    if (replacements.isEmpty()) {
+        return skipLiteral();
+    }
+    const Char quote = *at++;
     for (;;) {
-        at = std::find_if(at, end, [quote, ampersand](char16_t c) { return c == quote || c == ampersand; });
+        at = std::find_if(at, end, [quote](Char c) { return c == quote || c == Char('&'); });
         if (at == end) {
-            return Malformed;
+            return ScanResult::Malformed;
         }
         if (*at == quote) {
-            return Passed;
+            return ScanResult::Passed;
         }
-        const Result result = reference();
-        if (result != Passed) {
+        const ScanResult result = reference();
+        if (result != ScanResult::Passed) {
             return result;
         }
     }
 }
 
-Scanner::Result Scanner::endTag()
+template<typename Char>
+ScanResult Scanner<Char>::endTag()
 {
     at += 2;
-    const Result result = skipName();
-    if (result != Passed) {
-        return result;
-    }
     if (level == 0) {
-        return Malformed;
+        return ScanResult::Malformed;
     }
+    const Char *const tag = at;
     --level;
-    return skipPast(QLatin1String(">"), 0);
+    const ScanResult result = skipPast('>');
+    return hasLongName(tag) ? ScanResult::Refused : result;
 }
 
-Scanner::Result Scanner::processingInstruction()
+template<typename Char>
+ScanResult Scanner<Char>::processingInstruction()
 {
     at += 2;
-    return checkName() == Refused ? Refused : skipPast(QLatin1String("?>"), 0);
+    return checkName() == ScanResult::Refused ? ScanResult::Refused : skipPast(QLatin1String("?>"), 0);
 }
 
-Scanner::Result Scanner::documentType()
+template<typename Char>
+ScanResult Scanner<Char>::documentType()
 {
     at += 9;
     skipSpace();
-    if (checkName() == Refused) {
-        return Refused;
+    if (checkName() == ScanResult::Refused) {
+        return ScanResult::Refused;
     }
-    for (; at != end && *at != u'>'; ++at) {
-        const Result result = *at == u'[' ? subset() : isQuote(*at) ? skipLiteral() : *at == u'<' ? Malformed : Passed;
-        if (result != Passed) {
+    for (; at != end && *at != Char('>'); ++at) {
+        const ScanResult result = *at == Char('[') ? subset()
+            : isQuote(code(*at))                   ? skipLiteral()
+            : *at == Char('<')                     ? ScanResult::Malformed
+                                                   : ScanResult::Passed;
+        if (result != ScanResult::Passed) {
             return result;
         }
     }
-    return skipPast(QLatin1String(">"), 0);
+    return skipPast('>');
 }
 
 // To the bracket that ends it, not past that.
-Scanner::Result Scanner::subset()
+template<typename Char>
+ScanResult Scanner<Char>::subset()
 {
-    const char16_t *const limit = at + qMin<qint64>(SmilParser::MaxSubset - subsetLength, end - at);
-    const char16_t *const bracket = at++;
-    Result result = Passed;
-    while (result == Passed && at < limit && *at != u']') {
-        result = *at == u'<' ? declaration() : (++at, Passed);
+    const Char *const limit = at + qMin<qint64>(SmilParser::MaxSubset - subsetLength, end - at);
+    const Char *const bracket = at++;
+    ScanResult result = ScanResult::Passed;
+    while (result == ScanResult::Passed && at < limit && *at != Char(']')) {
+        result = *at == Char('<') ? declaration() : (++at, ScanResult::Passed);
     }
     // Also when it is malformed, which may show only far behind the limit.
     if (at >= limit && limit != end) {
         at = limit;
-        return Refused;
+        return ScanResult::Refused;
     }
     subsetLength += at - bracket;
-    return result == Passed && at == end ? Malformed : result;
+    return result == ScanResult::Passed && at == end ? ScanResult::Malformed : result;
 }
 
-Scanner::Result Scanner::declaration()
+template<typename Char>
+ScanResult Scanner<Char>::declaration()
 {
     if (startsWith(QLatin1String("<!--"))) {
         return skipPast(QLatin1String("-->"), 4);
@@ -188,22 +244,23 @@ Scanner::Result Scanner::declaration()
     return restOfDeclaration();
 }
 
-Scanner::Result Scanner::entityDeclaration()
+template<typename Char>
+ScanResult Scanner<Char>::entityDeclaration()
 {
     skipSpace();
-    if (at != end && *at == u'%') {
-        return Refused;
+    if (at != end && *at == Char('%')) {
+        return ScanResult::Refused;
     }
     const QString name = readName();
     skipSpace();
-    if (at != end && isQuote(*at)) {
-        const char16_t *const literal = at + 1;
-        if (skipLiteral() != Passed) {
-            return Malformed;
+    if (at != end && isQuote(code(*at))) {
+        const Char *const literal = at + 1;
+        if (skipLiteral() != ScanResult::Passed) {
+            return ScanResult::Malformed;
         }
-        const QString text(reinterpret_cast<const QChar *>(literal), at - literal);
+        const QString text = toText(literal, at);
         if (text.contains(QLatin1Char('%'))) {
-            return Refused;
+            return ScanResult::Refused;
         }
         static const QStringList predefined{QStringLiteral("amp"), QStringLiteral("apos"), QStringLiteral("gt"),
                                             QStringLiteral("lt"), QStringLiteral("quot")};
@@ -217,56 +274,61 @@ Scanner::Result Scanner::entityDeclaration()
 }
 
 /** Quoted text in it is the default of an attribute when @p defaultsOf is given. */
-Scanner::Result Scanner::restOfDeclaration(const QString &defaultsOf)
+template<typename Char>
+ScanResult Scanner<Char>::restOfDeclaration(const QString &defaultsOf)
 {
     int groups = 0;
-    for (; at != end && *at != u'>'; ++at) {
-        groups += *at == u'(' ? 1 : *at == u')' ? -1 : 0;
+    for (; at != end && *at != Char('>'); ++at) {
+        groups += *at == Char('(') ? 1 : *at == Char(')') ? -1 : 0;
         if (groups > SmilParser::MaxDepth) {
-            return Refused;
+            return ScanResult::Refused;
         }
-        if (isQuote(*at)) {
-            const char16_t *const literal = at;
-            if (skipLiteral() != Passed) {
-                return Malformed;
+        if (isQuote(code(*at))) {
+            const Char *const literal = at;
+            if (skipLiteral() != ScanResult::Passed) {
+                return ScanResult::Malformed;
             }
             if (!defaultsOf.isEmpty()) {
-                replacements[defaultsOf].text.append(reinterpret_cast<const QChar *>(literal), at - literal);
+                replacements[defaultsOf].text += toText(literal, at);
             }
         }
     }
-    return skipPast(QLatin1String(">"), 0);
+    return skipPast('>');
 }
 
 // Stays where it is when the reference is refused, so that the document is cut off before it.
-Scanner::Result Scanner::reference()
+template<typename Char>
+ScanResult Scanner<Char>::reference()
 {
-    const char16_t *const semicolon = std::find_if(at, end, [](char16_t c) { return c == u';' || endsName(c); });
-    if (semicolon == end || *semicolon != u';') {
-        return Malformed;
+    const Char *const semicolon = std::find_if(at, end, [](Char c) { return c == Char(';') || endsName(code(c)); });
+    if (semicolon == end || *semicolon != Char(';')) {
+        return ScanResult::Malformed;
     }
     if (semicolon - at > SmilParser::MaxName) {
-        return Refused;
+        return ScanResult::Refused;
     }
-    const Result result = replace(QString(reinterpret_cast<const QChar *>(at + 1), semicolon - at - 1));
-    if (result == Passed) {
+    const ScanResult result = replace(toText(at + 1, semicolon));
+    if (result == ScanResult::Passed) {
         at = semicolon + 1;
     }
     return result;
 }
 
-Scanner::Result Scanner::replace(const QString &name)
+template<typename Char>
+ScanResult Scanner<Char>::replace(const QString &name)
 {
     const auto found = replacements.find(name);
     if (found == replacements.end()) {
-        return Passed;
+        return ScanResult::Passed;
     }
     if (found->state == Replacement::Unknown) {
         found->state = Replacement::BeingFound;
-        Scanner scanner(found->text, replacements, Entity);
-        found->complete = scanner.scan() == Passed && scanner.level == 0;
-        found->length = found->text.size() + scanner.replaced;
-        found->depth = scanner.deepest;
+        const QString &text = found->text;
+        Scanner<char16_t> scanner(reinterpret_cast<const char16_t *>(text.utf16()), text.size(), replacements,
+                                  ScannedText::Entity);
+        found->complete = scanner.scan() == ScanResult::Passed && scanner.isComplete();
+        found->length = scanner.length();
+        found->depth = scanner.depth();
         found->state = Replacement::Known;
     }
     // One that is still being found refers to itself and has no end.
@@ -274,56 +336,98 @@ Scanner::Result Scanner::replace(const QString &name)
     deepest = qMax(deepest, level + found->depth);
     const bool harmless = found->state == Replacement::Known && found->complete && replaced <= SmilParser::MaxExpansion
         && deepest <= SmilParser::MaxDepth;
-    return harmless ? Passed : Refused;
+    return harmless ? ScanResult::Passed : ScanResult::Refused;
 }
 
-bool Scanner::startsWith(QLatin1String text) const
+template<typename Char>
+bool Scanner<Char>::startsWith(QLatin1String text) const
 {
     return end - at >= text.size() && std::equal(text.begin(), text.end(), at);
 }
 
-Scanner::Result Scanner::skipPast(QLatin1String text, int from)
+template<typename Char>
+ScanResult Scanner<Char>::skipPast(QLatin1String text, int from)
 {
     at += qMin<qint64>(from, end - at);
     at = std::search(at, end, text.begin(), text.end());
     if (at == end) {
-        return Malformed;
+        return ScanResult::Malformed;
     }
     at += text.size();
-    return Passed;
+    return ScanResult::Passed;
+}
+
+template<typename Char>
+ScanResult Scanner<Char>::skipPast(char c)
+{
+    at = find(at, end, Char(c));
+    if (at == end) {
+        return ScanResult::Malformed;
+    }
+    ++at;
+    return ScanResult::Passed;
 }
 
 // To the quotation mark that ends it, not past that.
-Scanner::Result Scanner::skipLiteral()
+template<typename Char>
+ScanResult Scanner<Char>::skipLiteral()
 {
-    const char16_t quote = *at;
-    at = std::find(at + 1, end, quote);
-    return at == end ? Malformed : Passed;
+    at = find(at + 1, end, *at);
+    return at == end ? ScanResult::Malformed : ScanResult::Passed;
 }
 
-Scanner::Result Scanner::skipName()
+template<typename Char>
+ScanResult Scanner<Char>::skipName()
 {
-    const char16_t *const name = at;
-    at = std::find_if(at, end, endsName);
-    return at == end ? Malformed : at - name > SmilParser::MaxName ? Refused : Passed;
+    const Char *const name = at;
+    at = std::find_if(at, end, [](Char c) { return endsName(code(c)); });
+    return at - name > SmilParser::MaxName ? ScanResult::Refused
+        : at == end                        ? ScanResult::Malformed
+                                           : ScanResult::Passed;
 }
 
-Scanner::Result Scanner::checkName()
+template<typename Char>
+ScanResult Scanner<Char>::checkName()
 {
-    const char16_t *const name = at;
-    const Result result = skipName();
+    const Char *const name = at;
+    const ScanResult result = skipName();
     at = name;
     return result;
 }
 
-void Scanner::skipSpace()
+template<typename Char>
+void Scanner<Char>::skipSpace()
 {
-    at = std::find_if_not(at, end, isSpace);
+    at = std::find_if_not(at, end, [](Char c) { return isSpace(code(c)); });
 }
 
-QString Scanner::readName()
+template<typename Char>
+QString Scanner<Char>::readName()
 {
-    const char16_t *const name = at;
+    const Char *const name = at;
     skipName();
-    return QString(reinterpret_cast<const QChar *>(name), at - name);
+    return toText(name, at);
 }
+
+template<typename Char>
+bool Scanner<Char>::hasLongName(const Char *tag) const
+{
+    const Char *name = tag;
+    const bool hasRoom = at - tag > SmilParser::MaxName;
+    for (const Char *c = tag; hasRoom && c < at; ++c) {
+        if (!endsName(code(*c))) {
+            continue;
+        }
+        if (c - name > SmilParser::MaxName) {
+            return true;
+        }
+        if (isQuote(code(*c))) {
+            c = find(c + 1, at, *c);
+        }
+        name = c + 1;
+    }
+    return at - name > SmilParser::MaxName;
+}
+
+template class Scanner<char>;
+template class Scanner<char16_t>;

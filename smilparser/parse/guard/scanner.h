@@ -21,59 +21,72 @@ struct Replacement {
 /** Entities by their name, and the default attributes of an element by "<" and its name. */
 using Replacements = QHash<QString, Replacement>;
 
+enum class ScannedText { Document, Entity };
+enum class ScanResult {
+    Passed, ///< up to the place, or to the end, everything is within the limits
+    Malformed, ///< so is everything up to an error that stops the reader
+    Refused ///< a limit is exceeded at the place
+};
+
 /**
  * Finds the first place of a text where a limit of SmilParser::Limit is exceeded. It knows just enough of XML for that:
  * where markup begins and ends, and what takes the place of references. It does not look for errors: what it takes for
  * markup is what the reader takes for it up to the first error, and there the reader stops.
+ *
+ * @tparam Char char for UTF-8, char16_t for decoded text
  */
+template<typename Char>
 class Scanner
 {
 public:
-    enum Kind { Document, Entity };
-    enum Result {
-        Passed, ///< up to place(), or to the end, everything is within the limits
-        Malformed, ///< so is everything up to an error that stops the reader
-        Refused ///< a limit is exceeded at place()
-    };
+    /** A scanner of a text, which is not copied. */
+    Scanner(const Char *text, qint64 size, Replacements &replacements, ScannedText kind);
 
-    /** A scanner of @p text, which it does not copy. */
-    Scanner(const QString &text, Replacements &replacements, Kind kind);
-
-    Result scan(qint64 start = 0);
+    ScanResult scan(qint64 start = 0);
     qint64 place() const { return at - begin; }
+    qint64 length() const { return end - begin + replaced; } ///< with what references brought
+    int depth() const { return deepest; } ///< the most levels of elements
+    bool isComplete() const { return level == 0; } ///< whether all elements have ended
 
 private:
-    Result markup();
-    Result startTag();
-    Result attributeValue();
-    Result endTag();
-    Result processingInstruction();
-    Result documentType();
-    Result subset();
-    Result declaration();
-    Result entityDeclaration();
-    Result restOfDeclaration(const QString &defaultsOf = QString());
-    Result reference();
-    Result replace(const QString &name);
+    ScanResult markup();
+    ScanResult startTag();
+    bool skipPlainTag();
+    ScanResult attributes();
+    ScanResult attributeValue();
+    ScanResult endTag();
+    ScanResult processingInstruction();
+    ScanResult documentType();
+    ScanResult subset();
+    ScanResult declaration();
+    ScanResult entityDeclaration();
+    ScanResult restOfDeclaration(const QString &defaultsOf = QString());
+    ScanResult reference();
+    ScanResult replace(const QString &name);
 
     bool startsWith(QLatin1String text) const;
-    Result skipPast(QLatin1String text, int from);
-    Result skipLiteral();
-    Result skipName();
-    Result checkName();
+    ScanResult skipPast(QLatin1String text, int from);
+    ScanResult skipPast(char text);
+    ScanResult skipLiteral();
+    ScanResult skipName();
+    ScanResult checkName();
     void skipSpace();
     QString readName();
+    bool hasLongName(const Char *tag) const;
 
-    const char16_t *const begin;
-    const char16_t *const end;
-    const char16_t *at; ///< where the scan is; each function moves it past what it is named for
+    const Char *const begin;
+    const Char *const end;
+    const Char *at; ///< where the scan is; each function moves it past what it is named for
     Replacements &replacements;
-    const Kind kind;
+    const ScannedText kind;
     int level = 0; ///< of elements open
-    int deepest = 0; ///< the most there were
+    int deepest = 0;
     bool rootSeen = false;
     qint64 replaced = 0; ///< characters that references brought
     qint64 subsetLength = 0;
 };
+
+extern template class Scanner<char>;
+extern template class Scanner<char16_t>;
 
 #endif

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "decodedtext.h"
+#include "encoding.h"
 
 #include "characters.h"
 
@@ -9,44 +9,10 @@
 #include <QtCore/QStringDecoder>
 #else
 #include <QtCore/QTextCodec>
-
-#include <memory>
 #endif
 
 namespace
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-class Decoder
-{
-public:
-    explicit Decoder(const QByteArray &encoding)
-        : decoder(encoding.constData())
-    {
-    }
-    bool isValid() const { return decoder.isValid(); }
-    QString decode(const char *data, qint64 size) { return decoder(QByteArrayView(data, size)); }
-
-private:
-    QStringDecoder decoder;
-};
-#else
-class Decoder
-{
-public:
-    explicit Decoder(const QByteArray &encoding)
-    {
-        if (const QTextCodec *const codec = QTextCodec::codecForName(encoding)) {
-            decoder.reset(codec->makeDecoder());
-        }
-    }
-    bool isValid() const { return bool(decoder); }
-    QString decode(const char *data, qint64 size) { return decoder->toUnicode(data, int(size)); }
-
-private:
-    std::unique_ptr<QTextDecoder> decoder;
-};
-#endif
-
 struct Signature {
     QByteArray bytes;
     QByteArray encoding;
@@ -84,7 +50,7 @@ static QByteArray declaredEncoding(const QString &text, qint64 *end)
 {
     QString encoding;
     qint64 at = 5;
-    if (!text.startsWith(QLatin1String("<?xml")) || text.size() == at || !isSpace(text.at(at).unicode())) {
+    if (text.size() == at || !isSpace(text.at(at).unicode())) {
         return QByteArray();
     }
     while (at < text.size() && text.at(at) != u'>') {
@@ -114,7 +80,7 @@ static QByteArray declaredEncoding(const QString &text, qint64 *)
 {
     const int end = text.indexOf(QLatin1Char('>'));
     int at = text.indexOf(QLatin1String("encoding"));
-    if (!text.startsWith(QLatin1String("<?xml")) || at < 0) {
+    if (at < 0) {
         return QByteArray();
     }
     while (at < end && !isQuote(text.at(at).unicode())) {
@@ -128,41 +94,60 @@ static QByteArray declaredEncoding(const QString &text, qint64 *)
 }
 #endif
 
-DecodedText::DecodedText(const QByteArray &input)
-    : bytes(input)
-    , encoding(detectEncoding(input))
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+static bool isKnown(const QByteArray &encoding)
 {
+    return QStringDecoder(encoding.constData()).isValid();
+}
+
+static QString decodeFrom(const QByteArray &encoding, const QByteArray &bytes)
+{
+    return QStringDecoder(encoding.constData())(bytes);
+}
+#else
+static bool isKnown(const QByteArray &encoding)
+{
+    return QTextCodec::codecForName(encoding);
+}
+
+static QString decodeFrom(const QByteArray &encoding, const QByteArray &bytes)
+{
+    return QTextCodec::codecForName(encoding)->toUnicode(bytes);
+}
+#endif
+
+Encoding::Encoding(const QByteArray &input)
+    : bytes(input)
+    , name(detectEncoding(input))
+{
+    if (isUtf8() && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
+        return;
+    }
     const QString beginning = decode(qMin<qint64>(bytes.size(), longestDeclaration));
+    if (!beginning.startsWith(QLatin1String("<?xml"))) {
+        return;
+    }
     const QByteArray declared = declaredEncoding(beginning, &continuation);
-    if (!declared.isEmpty() && Decoder(declared).isValid()) {
-        encoding = declared;
+    if (isKnown(declared)) {
+        name = declared.toUpper();
     } else {
         continuation = qMin<qint64>(continuation, 0);
     }
-    decoded = decode(bytes.size());
 }
 
-QString DecodedText::decode(qint64 size) const
+qint64 Encoding::byteOffset(qint64 index) const
 {
-    return Decoder(encoding).decode(bytes.constData(), size);
+    // The bytes before that place never decode to more than what precedes index, and all that end behind it do.
+    qint64 low = 0;
+    qint64 high = bytes.size();
+    while (high - low > 1) {
+        const qint64 middle = low + (high - low) / 2;
+        (decode(middle).size() > index ? high : low) = middle;
+    }
+    return low;
 }
 
-qint64 DecodedText::byteOffset(qint64 index) const
+QString Encoding::decode(qint64 size) const
 {
-    // In blocks first, then byte by byte: there is no other way to tell in any encoding.
-    const qint64 block = 4096;
-    qint64 offset = 0;
-    Decoder blocks(encoding);
-    for (qint64 length = 0; offset + block <= bytes.size(); offset += block) {
-        length += blocks.decode(bytes.constData() + offset, block).size();
-        if (length > index) {
-            break;
-        }
-    }
-    Decoder single(encoding);
-    for (qint64 length = single.decode(bytes.constData(), offset).size(); offset < bytes.size() && length < index;
-         ++offset) {
-        length += single.decode(bytes.constData() + offset, 1).size();
-    }
-    return offset;
+    return decodeFrom(name, QByteArray::fromRawData(bytes.constData(), int(size)));
 }
