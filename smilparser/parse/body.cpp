@@ -27,8 +27,9 @@ bool SmilParser::parseSmilNodes(QDomElement &element, SmilNode &node, int depth)
     }
     node.dur = SmilUnit(element.attribute(QStringLiteral("dur")));
 
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        const SmilElement *const known = findElement(child.tagName());
+    for (QDomNode sibling = element.firstChild(); !sibling.isNull(); sibling = sibling.nextSibling()) {
+        QDomElement child = sibling.toElement();
+        const SmilElement *const known = child.isNull() ? nullptr : findElement(child.tagName());
         if (!known) {
             continue;
         }

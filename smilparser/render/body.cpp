@@ -11,11 +11,11 @@
 
 static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)
 {
-    const QString name = elementName(SmilElement::Ref, ref.type);
-    if (name.isNull()) {
+    const SmilElement *const known = findElement(SmilElement::Ref, ref.type);
+    if (!known) {
         return QDomElement();
     }
-    QDomElement element = dom.createElement(name);
+    QDomElement element = dom.createElement(known->name);
     write(element, QStringLiteral("src"), ref.src);
     write(element, QStringLiteral("region"), ref.region);
     return element;
@@ -24,7 +24,7 @@ static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)
 static QDomElement renderNode(QDomDocument &dom, const SmilNode &node)
 {
     const int type = node.type == SmilNode::Seq ? SmilNode::Seq : SmilNode::Par;
-    QDomElement element = dom.createElement(elementName(SmilElement::Node, type));
+    QDomElement element = dom.createElement(findElement(SmilElement::Node, type)->name);
     write(element, QStringLiteral("dur"), node.dur);
     for (const SmilNode &child : node.children) {
         element.appendChild(renderNode(dom, child));

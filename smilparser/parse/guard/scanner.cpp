@@ -36,10 +36,11 @@ ScanResult Scanner<Char>::scan(qint64 start)
     ScanResult result = ScanResult::Passed;
     while (result == ScanResult::Passed) {
         // References matter only where something is declared that can take their place.
-        if (!replacements.isEmpty()) {
-            at = std::find_if(at, end, [](Char c) { return c == Char('<') || c == Char('&'); });
-        } else if (at != end && *at != Char('<')) {
+        if (replacements.isEmpty()) {
             at = find(at, end, Char('<'));
+            skipPlainTags();
+        } else {
+            at = std::find_if(at, end, [](Char c) { return c == Char('<') || c == Char('&'); });
         }
         if (at == end) {
             break;
@@ -53,6 +54,38 @@ ScanResult Scanner<Char>::scan(qint64 start)
         }
     }
     return result;
+}
+
+// Nearly all of a document is tags of which all there is to know is whether they end in "/>". Where only one ">" comes
+// before the next "<", it ends the tag, whatever is quoted in that; and a short tag has no room for what the limits are
+// about. The first one that is different is left to markup().
+template<typename Char>
+void Scanner<Char>::skipPlainTags()
+{
+    const qint64 shortestAttribute = 4; // a=""
+    const Char *tag = at;
+    while (end - tag > 2 && tag[1] != Char('!') && tag[1] != Char('?')) {
+        const Char *const next = find(tag + 2, end, Char('<'));
+        const Char *const close = find(tag + 2, next, Char('>'));
+        if (close == next || close - tag > SmilParser::MaxAttributes * shortestAttribute
+            || (close + 1 != next && find(close + 1, next, Char('>')) != next)) {
+            break;
+        }
+        if (tag[1] == Char('/')) {
+            if (level == 0) {
+                break;
+            }
+            --level;
+        } else {
+            if ((rootSeen && level == 0) || level == SmilParser::MaxDepth) {
+                break;
+            }
+            rootSeen = true;
+            level += close[-1] == Char('/') ? 0 : 1;
+        }
+        tag = next;
+    }
+    at = tag;
 }
 
 template<typename Char>
@@ -88,9 +121,6 @@ ScanResult Scanner<Char>::startTag()
     }
     rootSeen = true;
     deepest = qMax(deepest, level + 1);
-    if (replacements.isEmpty() && skipPlainTag()) {
-        return ScanResult::Passed;
-    }
     const Char *const tag = ++at;
     if (!replacements.isEmpty()) {
         if (replace(QLatin1Char('<') + readName()) == ScanResult::Refused) {
@@ -101,23 +131,6 @@ ScanResult Scanner<Char>::startTag()
     const ScanResult result = attributes();
     // Also where the tag seems not to end: past a name that is too long, the reader of Qt 6.4 goes on differently.
     return hasLongName(tag) ? ScanResult::Refused : result;
-}
-
-// Of nearly all tags, all there is to know is whether they end in "/>". Where only one ">" comes before the next
-// markup, it ends the tag, whatever is quoted in that; and a short tag has no room for what the limits are about.
-template<typename Char>
-bool Scanner<Char>::skipPlainTag()
-{
-    const qint64 shortestAttribute = 4; // a=""
-    const Char *const next = find(at + 1, end, Char('<'));
-    const Char *const close = find(at + 1, next, Char('>'));
-    if (close == next || close - at > SmilParser::MaxAttributes * shortestAttribute
-        || find(close + 1, next, Char('>')) != next) {
-        return false;
-    }
-    level += close[-1] == Char('/') ? 0 : 1;
-    at = next;
-    return true;
 }
 
 template<typename Char>

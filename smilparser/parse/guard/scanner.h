@@ -49,9 +49,9 @@ public:
     bool isComplete() const { return level == 0; } ///< whether all elements have ended
 
 private:
+    void skipPlainTags();
     ScanResult markup();
     ScanResult startTag();
-    bool skipPlainTag();
     ScanResult attributes();
     ScanResult attributeValue();
     ScanResult endTag();
