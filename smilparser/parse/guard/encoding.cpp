@@ -137,14 +137,18 @@ Encoding::Encoding(const QByteArray &input)
 
 qint64 Encoding::byteOffset(qint64 index) const
 {
-    // The bytes before that place never decode to more than what precedes index, and all that end behind it do.
-    qint64 low = 0;
-    qint64 high = bytes.size();
-    while (high - low > 1) {
-        const qint64 middle = low + (high - low) / 2;
-        (decode(middle).size() > index ? high : low) = middle;
+    // The fewest that decode to so much: what ends before that place decodes to less, what ends behind it to more.
+    qint64 few = 0;
+    qint64 enough = bytes.size();
+    while (few < enough) {
+        const qint64 middle = few + (enough - few) / 2;
+        if (decode(middle).size() < index) {
+            few = middle + 1;
+        } else {
+            enough = middle;
+        }
     }
-    return low;
+    return enough;
 }
 
 QString Encoding::decode(qint64 size) const

@@ -32,7 +32,7 @@ Scanner<Char>::Scanner(const Char *text, qint64 size, Replacements &known, Scann
 template<typename Char>
 ScanResult Scanner<Char>::scan(qint64 start)
 {
-    at = begin + start;
+    at = begin + qMin<qint64>(start, end - begin); // decoded anew, the text may be shorter than what preceded the start
     ScanResult result = ScanResult::Passed;
     while (result == ScanResult::Passed) {
         // References matter only where something is declared that can take their place.
@@ -130,7 +130,11 @@ ScanResult Scanner<Char>::startTag()
     }
     const ScanResult result = attributes();
     // Also where the tag seems not to end: past a name that is too long, the reader of Qt 6.4 goes on differently.
-    return hasLongName(tag) ? ScanResult::Refused : result;
+    if (hasLongName(tag)) {
+        at = tag;
+        return ScanResult::Refused;
+    }
+    return result;
 }
 
 template<typename Char>
@@ -187,7 +191,11 @@ ScanResult Scanner<Char>::endTag()
     const Char *const tag = at;
     --level;
     const ScanResult result = skipPast('>');
-    return hasLongName(tag) ? ScanResult::Refused : result;
+    if (hasLongName(tag)) {
+        at = tag;
+        return ScanResult::Refused;
+    }
+    return result;
 }
 
 template<typename Char>
@@ -221,18 +229,18 @@ ScanResult Scanner<Char>::documentType()
 template<typename Char>
 ScanResult Scanner<Char>::subset()
 {
-    const Char *const limit = at + qMin<qint64>(SmilParser::MaxSubset - subsetLength, end - at);
-    const Char *const bracket = at++;
+    const Char *const start = ++at;
+    const Char *const limit = start + qMin<qint64>(SmilParser::MaxSubset - subsetLength, end - start);
     ScanResult result = ScanResult::Passed;
     while (result == ScanResult::Passed && at < limit && *at != Char(']')) {
         result = *at == Char('<') ? declaration() : (++at, ScanResult::Passed);
     }
     // Also when it is malformed, which may show only far behind the limit.
-    if (at >= limit && limit != end) {
+    if (at > limit || (at == limit && at != end && *at != Char(']'))) {
         at = limit;
         return ScanResult::Refused;
     }
-    subsetLength += at - bracket;
+    subsetLength += at - start;
     return result == ScanResult::Passed && at == end ? ScanResult::Malformed : result;
 }
 
