@@ -4,12 +4,26 @@
 #ifndef SMILTOOL_COMMANDS_H
 #define SMILTOOL_COMMANDS_H
 
-#include <smilparser/smilparser.h>
+#include "message.h"
 
-/** Writes the model of the message @p file to @p out, as an indented outline. */
-void show(const QString &file, const SmilDocument &document, QIODevice &out);
+#include <QtCore/QStringList>
+
+/** Writes the model of the message to @p out, as an indented outline. */
+void show(const Message &message, QIODevice &out);
 
 /** Writes the model to @p out as indented XML, the attributes of an element always in the same order. */
-void render(const QString &file, const SmilDocument &document, QIODevice &out);
+void render(const Message &message, QIODevice &out);
+
+/** Draws the message as a picture in SVG: a frame for each element at the top of the timeline. */
+void storyboard(const Message &message, QIODevice &out);
+
+/**
+ * Writes to @p out what its sender or receiver might want to know of the message, a line each, but for the kinds of
+ * findings in @p ignored. Returns whether there was any.
+ */
+bool check(const Message &message, const QStringList &ignored, QIODevice &out);
+
+/** The names of the kinds of findings. */
+QStringList findingNames();
 
 #endif

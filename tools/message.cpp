@@ -46,19 +46,19 @@ static bool readFile(const QString &name, QByteArray &bytes)
     return true;
 }
 
-bool readMessage(const QString &file, SmilDocument &document)
+bool readMessage(const QString &file, Message &message)
 {
     qInstallMessageHandler(handleMessage);
-    QByteArray bytes;
-    if (!readFile(file, bytes)) {
+    message.file = file;
+    if (!readFile(file, message.bytes)) {
         return false;
     }
     lastWarning.clear();
-    SmilParser parser(bytes);
+    SmilParser parser(message.bytes);
     QString error;
     int line = -1;
     int column = -1;
-    document = parser.parse(&error, &line, &column);
+    message.document = parser.parse(&error, &line, &column);
 
     const bool wellFormed = line == -1;
     if (!wellFormed) {

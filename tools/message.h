@@ -6,11 +6,18 @@
 
 #include <smilparser/smilparser.h>
 
+/** A message part as the library reads it. */
+struct Message {
+    QString file;
+    QByteArray bytes;
+    SmilDocument document;
+};
+
 /**
- * Reads the message part @p file ("-" is standard input) into @p document. If it cannot be read, is not well formed or
+ * Reads the message part @p file ("-" is standard input) into @p message. If it cannot be read, is not well formed or
  * lacks smil, head or body, says so in one line on standard error and returns false.
  */
-bool readMessage(const QString &file, SmilDocument &document);
+bool readMessage(const QString &file, Message &message);
 
 /** Writes a line to standard error, as printable(). */
 void complain(const QString &text);

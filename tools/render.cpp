@@ -26,9 +26,9 @@ static void writeElement(QXmlStreamWriter &writer, const QDomElement &element)
     writer.writeEndElement();
 }
 
-void render(const QString &, const SmilDocument &document, QIODevice &out)
+void render(const Message &message, QIODevice &out)
 {
-    SmilParser parser(document);
+    SmilParser parser(message.document);
     QString xml;
     QXmlStreamWriter writer(&xml);
     writer.setAutoFormattingIndent(2);

@@ -112,13 +112,13 @@ static void showLayout(Outline &outline, const SmilLayout &layout)
     }
 }
 
-void show(const QString &file, const SmilDocument &document, QIODevice &out)
+void show(const Message &message, QIODevice &out)
 {
     Outline outline(out);
-    outline.line(0, printable(file));
-    showHeader(outline, document.header);
-    showLayout(outline, document.header.layout);
-    const SmilNode &body = document.body.root;
+    outline.line(0, printable(message.file));
+    showHeader(outline, message.document.header);
+    showLayout(outline, message.document.header.layout);
+    const SmilNode &body = message.document.body.root;
     outline.line(1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
     showContents(outline, 2, body);
 }

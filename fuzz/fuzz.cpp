@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/support.h"
+
+bool MMSLogger::qdebugEnabled = false;
+
+static void require(bool holds, const char *what)
+{
+    if (!holds) {
+        fprintf(stderr, "Does not hold: %s\n", what);
+        abort();
+    }
+}
+
+/** Whether XML allows every character of the text; what it does not allow is written, but cannot be read. */
+static bool isXml(const QString &text)
+{
+    const QVector<uint> characters = text.toUcs4();
+    return std::all_of(characters.begin(), characters.end(), [](uint c) {
+        return c == '\t' || c == '\n' || c == '\r' || (c >= ' ' && !QChar::isSurrogate(c) && (c & ~1u) != 0xfffe);
+    });
+}
+
+/** Empty texts are not written, and null when read. */
+static QString outline(const SmilDocument &model)
+{
+    return Outline::of(model).replace(QStringLiteral("''"), QStringLiteral("-"));
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    Messages messages(0);
+    SmilParser parser(QByteArray(reinterpret_cast<const char *>(data), int(size)));
+    QString error;
+    int line = -7;
+    int column = -8;
+    SmilDocument model = parser.parse(&error, &line, &column);
+    const QString warning = messages.take();
+    if (!error.isNull()) {
+        require(line != -7 && column != -8, "the reader wrote the place");
+        // Qt 5 warns about some encodings too.
+        const QString place = QStringLiteral("' at (%1,%2)!|").arg(line).arg(column);
+        require(warning.count(QStringLiteral("WFail to ")) == 1 && warning.endsWith(place), "one warning says it");
+        require(Outline::of(model) == Outline::of(SmilDocument()), "the model is the default one");
+        return 0;
+    }
+    require(line == -7 && column == -8 && !warning.contains(QLatin1String(" parse ")), "nothing is reported");
+
+    const QDomDocument dom = parser.getContent();
+    if (!isXml(dom.toString())) {
+        return 0;
+    }
+    SmilParser second(dom.toByteArray());
+    const SmilDocument &again = second.parse(&error, &line, &column);
+    require(messages.take().isEmpty() && error.isNull(), "what was written can be read");
+    // What is not kept: media and a duration directly inside the body, and which of the two sizes it was.
+    model.body.root.refs.clear();
+    model.body.root.dur = SmilUnit();
+    SmilLayout &layout = model.header.layout;
+    layout.rootLayoutWidth = std::exchange(layout.topLayoutWidth, SmilUnit());
+    layout.rootLayoutHeight = std::exchange(layout.topLayoutHeight, SmilUnit());
+    require(outline(again) == outline(model), "it is the same when read again");
+    return 0;
+}

@@ -1,0 +1,294 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "commands.h"
+#include "text.h"
+
+#include <QtCore/QHash>
+#include <QtCore/QIODevice>
+#include <QtCore/QSet>
+
+#include <algorithm>
+
+namespace
+{
+/** What one line says, of all places where it is so. */
+struct Finding {
+    QString name;
+    int line;
+    QString subject;
+    QStringList details; ///< the first few different ones
+    int count;
+};
+
+/** What the model has a place for in an element. */
+struct Place {
+    QStringList texts;
+    QStringList measures;
+    QStringList first; ///< children of which the first is read
+    QStringList all; ///< children that are all read
+};
+
+struct Region {
+    QString id;
+    int line;
+    bool used;
+};
+}
+
+static const QString unreadMeasure = QStringLiteral("unread-measure");
+static const QString lostRootSize = QStringLiteral("lost-root-size");
+static const QString movedTopSize = QStringLiteral("moved-top-size");
+static const QString lostInBody = QStringLiteral("lost-in-body");
+static const QString lostElement = QStringLiteral("lost-element");
+static const QString lostAttribute = QStringLiteral("lost-attribute");
+static const QString changedOrder = QStringLiteral("changed-order");
+static const QString unknownRegion = QStringLiteral("unknown-region");
+static const QString unusedRegion = QStringLiteral("unused-region");
+static const QString duplicateRegion = QStringLiteral("duplicate-region");
+static const QString missingSrc = QStringLiteral("missing-src");
+static const QString emptyTimeline = QStringLiteral("empty-timeline");
+
+QStringList findingNames()
+{
+    return {unreadMeasure, lostRootSize,  movedTopSize, lostInBody,      lostElement, lostAttribute,
+            changedOrder,  unknownRegion, unusedRegion, duplicateRegion, missingSrc,  emptyTimeline};
+}
+
+static QStringList words(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+/** The text in quotation marks, and not much of it. */
+static QString shown(const QString &text)
+{
+    return quoted(text.size() > 40 ? text.left(39) + QChar(0x2026) : text);
+}
+
+static const QHash<QString, Place> &places()
+{
+    static const QStringList timeline = words("par seq text img audio video ref");
+    static const Place node{{}, words("dur"), {}, timeline};
+    static const Place media{words("src region"), {}, {}, {}};
+    static const QHash<QString, Place> table = {
+        {QStringLiteral("smil"),        {{}, {}, words("head body"), {}}                                      },
+        {QStringLiteral("head"),        {words("id title class"), {}, words("layout"), words("meta")}         },
+        {QStringLiteral("meta"),        {words("id name content"), {}, {}, {}}                                },
+        {QStringLiteral("layout"),      {{}, {}, words("root-layout topLayout"), words("region")}             },
+        {QStringLiteral("root-layout"), {{}, words("width height"), {}, {}}                                   },
+        {QStringLiteral("topLayout"),   {{}, words("width height"), {}, {}}                                   },
+        {QStringLiteral("region"),      {words("id fit"), words("width height top bottom left right"), {}, {}}},
+        {QStringLiteral("body"),        node                                                                  },
+        {QStringLiteral("par"),         node                                                                  },
+        {QStringLiteral("seq"),         node                                                                  },
+        {QStringLiteral("text"),        media                                                                 },
+        {QStringLiteral("img"),         media                                                                 },
+        {QStringLiteral("audio"),       media                                                                 },
+        {QStringLiteral("video"),       media                                                                 },
+        {QStringLiteral("ref"),         media                                                                 },
+    };
+    return table;
+}
+
+static bool isNode(const QString &name)
+{
+    return name == QLatin1String("par") || name == QLatin1String("seq");
+}
+
+namespace
+{
+/** Walks the message's own DOM, which has the lines and what the model leaves out. */
+class Checker
+{
+public:
+    QList<Finding> findings(const Message &message)
+    {
+        QDomDocument dom;
+        // The library has read these bytes, so they are harmless to read once more.
+        dom.setContent(message.bytes);
+        const QDomElement smil = dom.documentElement();
+        walk(smil, QStringLiteral("smil"));
+        checkLayout(smil, message.document.header.layout);
+        checkRegions();
+        const SmilNode &root = message.document.body.root;
+        if (root.children.isEmpty() && root.refs.isEmpty()) {
+            add(emptyTimeline, smil.firstChildElement(QStringLiteral("body")), QStringLiteral("nothing plays"));
+        }
+        std::stable_sort(found.begin(), found.end(),
+                         [](const Finding &a, const Finding &b) { return a.line < b.line; });
+        return found;
+    }
+
+private:
+    void add(const QString &name, int line, const QString &subject, const QString &detail = QString())
+    {
+        Finding &finding = found[index(name, line, subject)];
+        ++finding.count;
+        if (!detail.isEmpty() && finding.details.size() < 4 && !finding.details.contains(detail)) {
+            finding.details.append(detail);
+        }
+    }
+
+    void add(const QString &name, const QDomElement &element, const QString &subject, const QString &detail = QString())
+    {
+        add(name, element.lineNumber(), subject, detail);
+    }
+
+    /** Where the finding is, which is new the first time. */
+    int index(const QString &name, int line, const QString &subject)
+    {
+        const QString key = name + QLatin1Char(' ') + subject;
+        if (!known.contains(key)) {
+            known.insert(key, int(found.size()));
+            found.append({name, line, subject, {}, 0});
+        }
+        return known.value(key);
+    }
+
+    void walk(const QDomElement &element, const QString &name)
+    {
+        const Place &place = places()[name];
+        walkAttributes(element, name, place);
+        if (place.texts.contains(QStringLiteral("src"))) {
+            checkMedia(element, name);
+        }
+        if (name == QLatin1String("region")) {
+            regions.append({element.attribute(QStringLiteral("id")), element.lineNumber(), false});
+        }
+        QSet<QString> seen;
+        bool mediaSeen = false;
+        bool outOfOrder = false;
+        // The library knows the names of the timeline in any letter case.
+        const bool anyCase = place.all.contains(QStringLiteral("par"));
+        for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+            const QString childName = anyCase ? child.tagName().toLower() : child.tagName();
+            const bool again = place.first.contains(childName) && seen.contains(childName);
+            if (again || !(place.first.contains(childName) || place.all.contains(childName))) {
+                add(lostElement, child,
+                    QStringLiteral("lost when written back: %1 in %2")
+                        .arg(again ? QLatin1String("another ") + printable(child.tagName().left(40))
+                                   : printable(child.tagName().left(40)),
+                             name));
+                continue;
+            }
+            seen.insert(childName);
+            if (name == QLatin1String("body") && !isNode(childName)) {
+                add(lostInBody, child, QStringLiteral("lost when written back: media directly in body"),
+                    shown(child.attribute(QStringLiteral("src"))));
+            } else if (anyCase) {
+                outOfOrder = outOfOrder || (mediaSeen && isNode(childName));
+                mediaSeen = mediaSeen || !isNode(childName);
+            }
+            walk(child, childName);
+        }
+        if (outOfOrder) {
+            add(changedOrder, element,
+                QStringLiteral("written back in another order: media before nested elements in %1").arg(name));
+        }
+    }
+
+    void walkAttributes(const QDomElement &element, const QString &name, const Place &place)
+    {
+        const QDomNamedNodeMap attributes = element.attributes();
+        QStringList names;
+        for (int i = 0; i < attributes.count(); ++i) {
+            names.append(attributes.item(i).nodeName());
+        }
+        names.sort(); // a DOM keeps them in an order that differs from run to run
+        for (const QString &attribute : std::as_const(names)) {
+            const QString value = element.attribute(attribute);
+            if (place.measures.contains(attribute)) {
+                if (!SmilUnit(value).valid) {
+                    add(unreadMeasure, element, QStringLiteral("not understood: %1 of %2").arg(attribute, name),
+                        shown(value));
+                } else if (name == QLatin1String("body")) {
+                    add(lostInBody, element, QStringLiteral("lost when written back: dur of body"), shown(value));
+                }
+            } else if (!place.texts.contains(attribute)) {
+                add(lostAttribute, element,
+                    QStringLiteral("lost when written back: %1 of %2").arg(printable(attribute.left(40)), name));
+            }
+        }
+    }
+
+    void checkMedia(const QDomElement &element, const QString &name)
+    {
+        const QString src = element.attribute(QStringLiteral("src"));
+        if (src.isEmpty()) {
+            add(missingSrc, element, QStringLiteral("no src: %1").arg(name));
+        }
+        const QString region = element.attribute(QStringLiteral("region"));
+        if (!region.isEmpty()) {
+            references.append({region, element.lineNumber(), false});
+        }
+    }
+
+    void checkLayout(const QDomElement &smil, const SmilLayout &layout)
+    {
+        const QDomElement element =
+            smil.firstChildElement(QStringLiteral("head")).firstChildElement(QStringLiteral("layout"));
+        if (layout.topLayoutWidth.valid || layout.topLayoutHeight.valid) {
+            add(movedTopSize, element.firstChildElement(QStringLiteral("topLayout")),
+                QStringLiteral("written back as the root-layout's size: topLayout"));
+        } else if (layout.rootLayoutWidth.valid || layout.rootLayoutHeight.valid) {
+            add(lostRootSize, element.firstChildElement(QStringLiteral("root-layout")),
+                QStringLiteral("lost when written back: size of root-layout"));
+        }
+    }
+
+    void checkRegions()
+    {
+        QHash<QString, int> byId;
+        for (int i = 0; i < regions.size(); ++i) {
+            const Region &region = regions.at(i);
+            if (byId.contains(region.id)) {
+                add(duplicateRegion, region.line, QStringLiteral("more than one region: %1").arg(shown(region.id)));
+            } else {
+                byId.insert(region.id, i);
+            }
+        }
+        for (const Region &reference : std::as_const(references)) {
+            const int i = byId.value(reference.id, -1);
+            if (i < 0) {
+                add(unknownRegion, reference.line, QStringLiteral("no such region: %1").arg(shown(reference.id)));
+            } else {
+                regions[i].used = true;
+            }
+        }
+        for (int i = 0; i < regions.size(); ++i) {
+            const Region &region = regions.at(i);
+            if (!region.used && byId.value(region.id) == i) {
+                add(unusedRegion, region.line, QStringLiteral("nothing plays in region: %1").arg(shown(region.id)));
+            }
+        }
+    }
+
+    QList<Finding> found;
+    QHash<QString, int> known;
+    QList<Region> regions;
+    QList<Region> references;
+};
+}
+
+bool check(const Message &message, const QStringList &ignored, QIODevice &out)
+{
+    bool any = false;
+    const QList<Finding> findings = Checker().findings(message);
+    for (const Finding &finding : findings) {
+        if (ignored.contains(finding.name)) {
+            continue;
+        }
+        any = true;
+        QString text = QStringLiteral("%1:%2: %3").arg(printable(message.file)).arg(finding.line).arg(finding.subject);
+        if (!finding.details.isEmpty()) {
+            text += QLatin1String(" ") + finding.details.mid(0, 3).join(QLatin1String(", "))
+                + (finding.details.size() > 3 ? QStringLiteral(", ...") : QString());
+        }
+        if (finding.count > 1) {
+            text += QStringLiteral(" (%1 times)").arg(finding.count);
+        }
+        out.write((text + QLatin1String(" [") + finding.name + QLatin1String("]\n")).toUtf8());
+    }
+    return any;
+}
