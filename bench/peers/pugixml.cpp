@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "peers.h"
+
+#include <pugixml.hpp>
+
+#include <utility>
+
+static QString attribute(const pugi::xml_node &node, const char *name)
+{
+    return QString::fromUtf8(node.attribute(name).value());
+}
+
+static SmilUnit measure(const pugi::xml_node &node, const char *name)
+{
+    return SmilUnit(attribute(node, name));
+}
+
+static SmilRegion readRegion(const pugi::xml_node &node)
+{
+    SmilRegion region;
+    region.id = attribute(node, "id");
+    region.width = measure(node, "width");
+    region.height = measure(node, "height");
+    region.top = measure(node, "top");
+    region.bottom = measure(node, "bottom");
+    region.left = measure(node, "left");
+    region.right = measure(node, "right");
+    region.fit = attribute(node, "fit");
+    return region;
+}
+
+static void readLayout(const pugi::xml_node &node, SmilLayout &layout)
+{
+    const pugi::xml_node root = node.child("root-layout");
+    layout.rootLayoutWidth = measure(root, "width");
+    layout.rootLayoutHeight = measure(root, "height");
+    const pugi::xml_node top = node.child("topLayout");
+    layout.topLayoutWidth = measure(top, "width");
+    layout.topLayoutHeight = measure(top, "height");
+    for (const pugi::xml_node &region : node.children("region")) {
+        layout.regions.append(readRegion(region));
+    }
+}
+
+static SmilMeta readMeta(const pugi::xml_node &node)
+{
+    SmilMeta meta;
+    meta.id = attribute(node, "id");
+    meta.name = attribute(node, "name");
+    meta.content = attribute(node, "content");
+    return meta;
+}
+
+static void readHead(const pugi::xml_node &node, SmilHeader &header)
+{
+    header.id = attribute(node, "id");
+    header.title = attribute(node, "title");
+    header.className = attribute(node, "class");
+    for (const pugi::xml_node &meta : node.children("meta")) {
+        header.metas.append(readMeta(meta));
+    }
+    readLayout(node.child("layout"), header.layout);
+}
+
+static void readNode(const pugi::xml_node &element, SmilNode &node)
+{
+    node.dur = measure(element, "dur");
+    for (const pugi::xml_node &child : element.children()) {
+        const QLatin1String name(child.name());
+        if (const int type = nodeType(name)) {
+            SmilNode nested(type);
+            readNode(child, nested);
+            node.children.append(std::move(nested));
+            continue;
+        }
+        const int type = refType(name);
+        if (type >= 0) {
+            SmilRef ref(type);
+            ref.src = attribute(child, "src");
+            ref.region = attribute(child, "region");
+            node.refs.append(std::move(ref));
+        }
+    }
+}
+
+SmilDocument readWithPugixml(const QByteArray &bytes)
+{
+    SmilDocument document;
+    pugi::xml_document xml;
+    xml.load_buffer(bytes.constData(), size_t(bytes.size()));
+    const pugi::xml_node smil = xml.child("smil");
+    readHead(smil.child("head"), document.header);
+    readNode(smil.child("body"), document.body.root);
+    return document;
+}

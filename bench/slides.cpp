@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "slides.h"
+
+class Q_DECL_EXPORT MMSLogger
+{
+public:
+    static bool qdebugEnabled;
+};
+bool MMSLogger::qdebugEnabled = false;
+
+QByteArray slidesText(int slides)
+{
+    QByteArray text = "<smil>\n<head>\n<layout>\n<root-layout width=\"320px\" height=\"240px\"/>\n"
+                      "<region id=\"Image\" width=\"100%\" height=\"70%\" top=\"0%\" left=\"0%\" fit=\"meet\"/>\n"
+                      "<region id=\"Text\" width=\"100%\" height=\"30%\" top=\"70%\" left=\"0%\" fit=\"scroll\"/>\n"
+                      "</layout>\n</head>\n<body>\n";
+    for (int i = 0; i < slides; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        const QByteArray seconds = QByteArray::number(3 + i % 8);
+        text += "<par dur=\"" + seconds + "s\">\n<img src=\"picture" + number
+            + ".jpg\" region=\"Image\"/>\n<text src=\"text" + number + ".txt\" region=\"Text\"/>\n</par>\n";
+    }
+    return text + "</body>\n</smil>\n";
+}
+
+static SmilRegion region(const QString &id, const QString &height, const QString &top, const QString &fit)
+{
+    SmilRegion region;
+    region.id = id;
+    region.width = SmilUnit(QStringLiteral("100%"));
+    region.height = SmilUnit(height);
+    region.top = SmilUnit(top);
+    region.left = SmilUnit(QStringLiteral("0%"));
+    region.fit = fit;
+    return region;
+}
+
+static SmilRef ref(SmilRef::Type type, const QString &src, const QString &region)
+{
+    SmilRef ref(type);
+    ref.src = src;
+    ref.region = region;
+    return ref;
+}
+
+static SmilNode slide(int i)
+{
+    const QString number = QString::number(i);
+    SmilNode slide(SmilNode::Par);
+    slide.dur = SmilUnit(QString::number(3 + i % 8) + QLatin1Char('s'));
+    slide.refs = {ref(SmilRef::Img, QLatin1String("picture") + number + QLatin1String(".jpg"), QStringLiteral("Image")),
+                  ref(SmilRef::Text, QLatin1String("text") + number + QLatin1String(".txt"), QStringLiteral("Text"))};
+    return slide;
+}
+
+SmilDocument slidesModel(int slides)
+{
+    SmilDocument model;
+    SmilLayout &layout = model.header.layout;
+    layout.rootLayoutWidth = layout.topLayoutWidth = SmilUnit(QStringLiteral("320px"));
+    layout.rootLayoutHeight = layout.topLayoutHeight = SmilUnit(QStringLiteral("240px"));
+    layout.regions = {
+        region(QStringLiteral("Image"), QStringLiteral("70%"), QStringLiteral("0%"), QStringLiteral("meet")),
+        region(QStringLiteral("Text"), QStringLiteral("30%"), QStringLiteral("70%"), QStringLiteral("scroll"))};
+    for (int i = 0; i < slides; ++i) {
+        model.body.root.children.append(slide(i));
+    }
+    return model;
+}
+
+QStringList measureTexts(const SmilDocument &model)
+{
+    const SmilLayout &layout = model.header.layout;
+    QStringList texts = {layout.topLayoutWidth.toString(), layout.topLayoutHeight.toString()};
+    for (const SmilRegion &region : layout.regions) {
+        texts << region.width.toString() << region.height.toString() << region.top.toString() << region.left.toString();
+    }
+    for (const SmilNode &slide : model.body.root.children) {
+        texts << slide.dur.toString();
+    }
+    return texts;
+}
+
+static QDomElement buildRegion(QDomDocument &dom, const SmilRegion &region, QStringList::const_iterator &measure)
+{
+    QDomElement element = dom.createElement(QStringLiteral("region"));
+    element.setAttribute(QStringLiteral("id"), region.id);
+    element.setAttribute(QStringLiteral("width"), *measure++);
+    element.setAttribute(QStringLiteral("height"), *measure++);
+    element.setAttribute(QStringLiteral("top"), *measure++);
+    element.setAttribute(QStringLiteral("left"), *measure++);
+    element.setAttribute(QStringLiteral("fit"), region.fit);
+    return element;
+}
+
+static QDomElement buildHead(QDomDocument &dom, const SmilLayout &layout, QStringList::const_iterator &measure)
+{
+    QDomElement root = dom.createElement(QStringLiteral("root-layout"));
+    root.setAttribute(QStringLiteral("width"), *measure++);
+    root.setAttribute(QStringLiteral("height"), *measure++);
+    QDomElement element = dom.createElement(QStringLiteral("layout"));
+    element.appendChild(root);
+    for (const SmilRegion &region : layout.regions) {
+        element.appendChild(buildRegion(dom, region, measure));
+    }
+    QDomElement head = dom.createElement(QStringLiteral("head"));
+    head.appendChild(element);
+    return head;
+}
+
+static QDomElement buildSlide(QDomDocument &dom, const SmilNode &slide, const QString &dur)
+{
+    QDomElement par = dom.createElement(QStringLiteral("par"));
+    par.setAttribute(QStringLiteral("dur"), dur);
+    QDomElement picture = dom.createElement(QStringLiteral("img"));
+    picture.setAttribute(QStringLiteral("src"), slide.refs.at(0).src);
+    picture.setAttribute(QStringLiteral("region"), slide.refs.at(0).region);
+    par.appendChild(picture);
+    QDomElement text = dom.createElement(QStringLiteral("text"));
+    text.setAttribute(QStringLiteral("src"), slide.refs.at(1).src);
+    text.setAttribute(QStringLiteral("region"), slide.refs.at(1).region);
+    par.appendChild(text);
+    return par;
+}
+
+void buildDom(QDomDocument &dom, const SmilDocument &model, const QStringList &measures)
+{
+    QStringList::const_iterator measure = measures.constBegin();
+    QDomElement smil = dom.createElement(QStringLiteral("smil"));
+    smil.appendChild(buildHead(dom, model.header.layout, measure));
+    QDomElement body = dom.createElement(QStringLiteral("body"));
+    for (const SmilNode &slide : model.body.root.children) {
+        body.appendChild(buildSlide(dom, slide, *measure++));
+    }
+    smil.appendChild(body);
+    dom.appendChild(smil);
+}

@@ -1,0 +1,39 @@
+# SPDX-FileCopyrightText: 2026 The smilparser authors
+# SPDX-License-Identifier: MIT
+
+# Installs the build, moves the installation, and builds and runs hosts against it: through the CMake package, through
+# pkg-config, and with the library loaded at run time.
+#
+# cmake -D BUILD_DIR=... -D WORK_DIR=... -D QT_DIR=... -D LIBDIR=... -D CXX=... -D CXX_FLAGS=...
+#     -D GENERATOR=... -P test.cmake
+
+function(run)
+    execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+set(prefix "${WORK_DIR}/moved")
+file(REMOVE_RECURSE "${WORK_DIR}")
+run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/installed")
+file(RENAME "${WORK_DIR}/installed" "${prefix}")
+set(library "${prefix}/${LIBDIR}/libsmilparser.so.1")
+
+cmake_path(GET QT_DIR FILENAME qt)
+run("${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${CMAKE_CURRENT_LIST_DIR}" -B "${WORK_DIR}/build"
+    "-DCMAKE_PREFIX_PATH=${prefix}" "-D${qt}_DIR=${QT_DIR}" "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+)
+run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
+run("${WORK_DIR}/build/linked")
+run("${WORK_DIR}/build/loading" "${library}")
+execute_process(COMMAND "${WORK_DIR}/build/refused" "${library}" RESULT_VARIABLE status)
+if(NOT status EQUAL 1)
+    message(FATAL_ERROR "A host that does not export its flag should not be able to load the library: ${status}")
+endif()
+
+set(ENV{PKG_CONFIG_PATH} "${prefix}/${LIBDIR}/pkgconfig")
+execute_process(COMMAND pkg-config --cflags --libs smilparser
+    OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY
+)
+separate_arguments(flags UNIX_COMMAND "-std=c++17 -fPIC ${CXX_FLAGS} ${flags}")
+run("${CXX}" "${CMAKE_CURRENT_LIST_DIR}/main.cpp" -o "${WORK_DIR}/pkgconfig" ${flags})
+set(ENV{LD_LIBRARY_PATH} "${prefix}/${LIBDIR}")
+run("${WORK_DIR}/pkgconfig")
