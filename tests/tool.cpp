@@ -3,6 +3,7 @@
 
 #include <QtCore/QProcess>
 #include <QtTest/QtTest>
+#include <QtXml/QDomDocument>
 
 namespace
 {
@@ -59,6 +60,9 @@ private Q_SLOTS:
     void textFromStrangersIsEscaped();
     void lostOutputIsAnError();
     void debugLines();
+    void findings_data();
+    void findings();
+    void drawsToFile();
     void examples();
 };
 
@@ -171,6 +175,72 @@ void Tool::debugLines()
                             "Smil document have a head.\n"
                             "Smil document have a body.\n"));
     QCOMPARE(outcome.out, golden(QStringLiteral("holiday.render")));
+}
+
+void Tool::findings_data()
+{
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("lines");
+    const auto row = [](const char *name, const char *body, const QString &lines, const QStringList &arguments = {}) {
+        QTest::newRow(name) << QByteArray("<smil><head><layout><root-layout/><region id='A'/></layout></head>\n") + body
+                            << arguments << lines;
+    };
+    const QString repeated =
+        QStringLiteral("-:2: not understood: dur of par \"1ms\", \"2ms\" (3 times) [unread-measure]\n");
+    row("nothing", "<body><par><img src='a' region='A'/></par></body></smil>", QString());
+    row("an unknown region, and one nothing plays in", "<body><par>\n<img src='a' region='B'/></par></body></smil>",
+        QStringLiteral(
+            "-:1: nothing plays in region: \"A\" [unused-region]\n-:3: no such region: \"B\" [unknown-region]\n"));
+    row("no src", "<body><par><img region='A'/></par></body></smil>",
+        QStringLiteral("-:2: no src: img [missing-src]\n"));
+    row("said once",
+        "<body><par dur='1ms'><img src='a' region='A'/></par><par dur='2ms'/><par dur='1ms'/></body></smil>", repeated);
+    row("ignored", "<body><par dur='1ms'><img src='a' region='A'/></par></body></smil>", QString(),
+        {QStringLiteral("--ignore"), QStringLiteral("unread-measure")});
+    row("any letter case", "<body><PAR><IMG src='a' region='A'/></PAR></body></smil>", QString());
+    row("an empty timeline", "<body/></smil>",
+        QStringLiteral("-:1: nothing plays in region: \"A\" [unused-region]\n-:2: nothing plays [empty-timeline]\n"));
+    row("another body", "<body><par><img src='a' region='A'/></par></body>\n<body/></smil>",
+        QStringLiteral("-:3: lost when written back: another body in smil [lost-element]\n"));
+}
+
+void Tool::findings()
+{
+    QFETCH(QByteArray, body);
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, lines);
+    const Outcome outcome = smiltool(QStringList{QStringLiteral("check"), QStringLiteral("-")} + arguments, body);
+    QCOMPARE(outcome.out, lines);
+    QCOMPARE(outcome.err, QString());
+    QCOMPARE(outcome.status, lines.isEmpty() ? 0 : 1);
+}
+
+void Tool::drawsToFile()
+{
+    const QTemporaryDir folder;
+    const QString message = folder.filePath(QStringLiteral("a.smil"));
+    QVERIFY(QFile::copy(QStringLiteral(EXAMPLES_DIR "/nested.smil"), message));
+    const QString before = readFile(message);
+    const QString board = folder.filePath(QStringLiteral("a.svg"));
+    QCOMPARE(smiltool({QStringLiteral("storyboard"), message, QStringLiteral("-o"), board}).status, 0);
+    QDomDocument dom;
+    QVERIFY(dom.setContent(readFile(board)));
+    QCOMPARE(dom.documentElement().tagName(), QStringLiteral("svg"));
+    QCOMPARE(smiltool({QStringLiteral("storyboard"), message, QStringLiteral("-o"), message}).status, 1);
+    QCOMPARE(readFile(message), before);
+    QCOMPARE(readFile(QStringLiteral(EXAMPLES_DIR "/../docs/storyboard.svg")),
+             golden(QStringLiteral("holiday.storyboard")));
+
+    const QString manual = readFile(QStringLiteral(EXAMPLES_DIR "/../docs/smiltool.1"));
+    const QString help = smiltool({QStringLiteral("check"), QStringLiteral("--help")}).out;
+    static const QRegularExpression finding(QStringLiteral("\\b[a-z]+(-[a-z]+)+,"));
+    auto names = finding.globalMatch(help);
+    QVERIFY(names.hasNext());
+    while (names.hasNext()) {
+        const QString name = names.next().captured().chopped(1);
+        QVERIFY2(manual.contains(QStringLiteral(".TP\n.B ") + name + QLatin1Char('\n')), qPrintable(name));
+    }
 }
 
 void Tool::examples()
