@@ -133,7 +133,8 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
  * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs.
  *
  * Destroying a tree takes one call level per level of nesting; so does rendering it. Trees made by parsing are never
- * deeper than SmilParser::MaxDepth.
+ * deeper than SmilParser::MaxDepth. A node that is to be replaced by one of its own descendants is assigned a copy of
+ * that: assignment goes field by field and drops the old #children first.
  */
 class SMILPARSER_EXPORT SmilNode
 {
@@ -300,10 +301,9 @@ public:
      * | is complete                          | none                                              | filled          |
      *
      * The first row is also that of a document beyond a #Limit. The warning carries the XML reader's message, line and
-     * column. The reader writes them to
-     * @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in all other rows they are left
-     * alone. Elements and attributes that the model has no place for are ignored, and so is an attribute that is
-     * absent or not understood: none of this is an error.
+     * column. The reader writes them to @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in
+     * all other rows they are left alone. Elements and attributes that the model has no place for are ignored, and so is
+     * an attribute that is absent or not understood: none of this is an error.
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *

@@ -15,5 +15,6 @@ int main()
     SmilParser reader(QByteArray("<smil><head/><body><par dur='5s'><img src='a.jpg'/></par></body></smil>"));
     const SmilDocument &message = reader.parse();
     SmilParser writer(message);
-    return writer.getContent().toString(-1).contains(QLatin1String("<par dur=\"5s\"><img src=\"a.jpg\"/></par>")) ? 0 : 1;
+    return writer.getContent().toString(-1).contains(QLatin1String("<par dur=\"5s\"><img src=\"a.jpg\"/></par>")) ? 0
+                                                                                                                  : 1;
 }
