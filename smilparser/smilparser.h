@@ -302,8 +302,8 @@ public:
      *
      * The first row is also that of a document beyond a #Limit. The warning carries the XML reader's message, line and
      * column. The reader writes them to @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in
-     * all other rows they are left alone. Elements and attributes that the model has no place for are ignored, and so is
-     * an attribute that is absent or not understood: none of this is an error.
+     * all other rows they are left alone. Elements and attributes that the model has no place for are ignored, and so
+     * is an attribute that is absent or not understood: none of this is an error.
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *
