@@ -50,7 +50,11 @@ static QString readDirectly(QByteArray input)
     int line = 0;
     int column = 0;
     SmilParser parser((SmilDocument()));
-    if (!dom.setContent(&buffer, &error, &line, &column)) {
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // from Qt 6.8, in favour of one that Qt 5 and 6.4 do not have
+    const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
+    QT_WARNING_POP
+    if (!wellFormed) {
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", qPrintable(error), line, column);
     } else if (QDomElement smil = dom.firstChildElement(QStringLiteral("smil")); smil.isNull()) {
         qWarning("Fail to find SMIL document!");
