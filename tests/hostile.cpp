@@ -52,7 +52,7 @@ static QString readDirectly(QByteArray input)
     SmilParser parser((SmilDocument()));
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED // from Qt 6.8, in favour of one that Qt 5 and 6.4 do not have
-    const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
+        const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
     QT_WARNING_POP
     if (!wellFormed) {
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", qPrintable(error), line, column);
