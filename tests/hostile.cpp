@@ -139,7 +139,9 @@ void Hostile::encodings_data()
         QTest::newRow(encoding) << one << none << declared(encoding);
     };
     row("UTF-7", "+ADw-x+AD4-", "+ADw-x/+AD4-");
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0) // whose reader refuses the second one itself
     row("ISO-2022-JP", "<x>\x1b$B</x>\x1b(B", "\x1b$B<x>>\x1b(B");
+#endif
     row("GBK", "<x><![CDATA[\x81]]></x>]]>", "<![CDATA[\x81]]><x>]]>");
 }
 
