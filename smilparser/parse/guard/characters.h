@@ -34,7 +34,8 @@ inline char16_t code(char16_t c)
 
 inline QString toText(const char *begin, const char *end)
 {
-    return QString::fromUtf8(begin, int(end - begin));
+    // At its beginning, Qt would take U+FEFF for a byte order mark; in a name it is a character that the reader sees.
+    return QString::fromUtf8(QByteArray("x").append(begin, int(end - begin))).mid(1);
 }
 
 inline QString toText(const char16_t *begin, const char16_t *end)

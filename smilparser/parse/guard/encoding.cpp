@@ -68,7 +68,7 @@ static QByteArray declaredEncoding(const QString &text, qint64 *end)
         ++at;
     }
     const bool complete = at >= 0 && at < text.size();
-    *end = complete ? at : -1;
+    *end = complete ? at + 1 : -1;
     return complete ? encoding.toUtf8() : QByteArray();
 }
 #else
@@ -129,7 +129,7 @@ Encoding::Encoding(const QByteArray &input)
     }
     const QByteArray declared = declaredEncoding(beginning, &continuation);
     if (isKnown(declared)) {
-        name = declared.toUpper();
+        name = declared; // as it is: Qt 5 knows some names in one letter case only
     } else {
         continuation = qMin<qint64>(continuation, 0);
     }

@@ -22,7 +22,7 @@ public:
      */
     static constexpr int longestDeclaration = 1024;
 
-    bool isUtf8() const { return name == "UTF-8"; }
+    bool isUtf8() const { return qstricmp(name.constData(), "UTF-8") == 0; }
 
     /** Where in text() the reader is when it knows the encoding; -1 when the declaration is too long. */
     qint64 start() const { return continuation; }

@@ -444,6 +444,9 @@ bool Scanner<Char>::hasLongName(const Char *tag) const
         }
         if (isQuote(code(*c))) {
             c = find(c + 1, at, *c);
+            if (c == at) {
+                break;
+            }
         }
         name = c + 1;
     }
