@@ -24,7 +24,7 @@ text { fill: currentColor; }
 .screen { fill: #eef1f5; stroke: #8a94a3; }
 .region { stroke: #345; stroke-width: 0.75; }
 .r0 { fill: #9ecae9; } .r1 { fill: #ffd08a; } .r2 { fill: #a8dba0; } .r3 { fill: #e2b3dd; } .r4 { fill: #f3b0a6; }
-.region, .media { fill-opacity: 0.8; }
+.region { fill-opacity: 0.8; }
 .number { font-weight: bold; font-size: 13px; }
 @media (prefers-color-scheme: dark) {
   svg { color: #e6eaf0; }
