@@ -58,34 +58,37 @@ ScanResult Scanner<Char>::scan(qint64 start)
 
 // Nearly all of a document is tags of which all there is to know is whether they end in "/>". Where only one ">" comes
 // before the next "<", it ends the tag, whatever is quoted in that; and a short tag has no room for what the limits are
-// about. The first one that is different is left to markup().
+// about. The first one that is different is left to markup(), and so is what is outside of the root element.
 template<typename Char>
 void Scanner<Char>::skipPlainTags()
 {
-    const qint64 shortestAttribute = 4; // a=""
+    const qint64 longest = SmilParser::MaxAttributes * 4; // a=""
+    int depth = level;
     const Char *tag = at;
-    while (end - tag > 2 && tag[1] != Char('!') && tag[1] != Char('?')) {
-        const Char *const next = find(tag + 2, end, Char('<'));
-        const Char *const close = find(tag + 2, next, Char('>'));
-        if (close == next || close - tag > SmilParser::MaxAttributes * shortestAttribute
-            || (close + 1 != next && find(close + 1, next, Char('>')) != next)) {
+    while (depth > 0 && end - tag > 2 && tag[1] != Char('!') && tag[1] != Char('?')) {
+        const Char *const close = find(tag + 2, end, Char('>'));
+        if (end - close < 2 || close - tag > longest) {
+            break;
+        }
+        const Char *next = close + 1;
+        while (*next != Char('<') && *next != Char('>') && next != end - 1) {
+            ++next;
+        }
+        if (*next != Char('<')) {
             break;
         }
         if (tag[1] == Char('/')) {
-            if (level == 0) {
-                break;
-            }
-            --level;
+            --depth;
         } else {
-            if ((rootSeen && level == 0) || level == SmilParser::MaxDepth) {
+            if (depth == SmilParser::MaxDepth) {
                 break;
             }
-            rootSeen = true;
-            level += close[-1] == Char('/') ? 0 : 1;
+            depth += close[-1] == Char('/') ? 0 : 1;
         }
         tag = next;
     }
     at = tag;
+    level = depth;
 }
 
 template<typename Char>
