@@ -7,11 +7,17 @@
 
 #include <utility>
 
+// Made once, not at each of five look-ups a slide.
+static const QString absent;
+static const QString dur = QStringLiteral("dur");
+static const QString region = QStringLiteral("region");
+static const QString src = QStringLiteral("src");
+
 static SmilRef readRef(const QDomElement &element, int type)
 {
     SmilRef ref(type);
-    ref.region = element.attribute(QStringLiteral("region"));
-    ref.src = element.attribute(QStringLiteral("src"));
+    ref.region = element.attribute(region, absent);
+    ref.src = element.attribute(src, absent);
     return ref;
 }
 
@@ -25,11 +31,11 @@ bool SmilParser::parseSmilNodes(QDomElement &element, SmilNode &node, int depth)
     if (depth > MaxDepth) {
         return false;
     }
-    node.dur = SmilUnit(element.attribute(QStringLiteral("dur")));
+    node.dur = SmilUnit(element.attribute(dur, absent));
 
     for (QDomNode sibling = element.firstChild(); !sibling.isNull(); sibling = sibling.nextSibling()) {
         QDomElement child = sibling.toElement();
-        const SmilElement *const known = child.isNull() ? nullptr : findElement(child.tagName());
+        const SmilElement *const known = findElement(child.tagName());
         if (!known) {
             continue;
         }
