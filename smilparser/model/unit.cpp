@@ -28,8 +28,10 @@ const Suffix suffixes[] = {
 };
 }
 
-/** Reads up to nine digits and one suffix or none, as nearly all measures are, for a tenth of what any other takes. */
-static bool readPlain(const QString &text, SmilUnit &measure)
+enum class Outcome { Read, NoNumber, Unknown };
+
+/** Tells what nearly all texts are, up to nine digits and one suffix or none, for a tenth of what readAny() takes. */
+static Outcome readPlain(const QString &text, SmilUnit &measure)
 {
     const ushort *const begin = text.utf16();
     const ushort *const end = begin + text.size();
@@ -39,7 +41,10 @@ static bool readPlain(const QString &text, SmilUnit &measure)
         number = 10 * number + (*at - '0');
     }
     if (at == begin) {
-        return false;
+        return Outcome::Unknown;
+    }
+    if (*at == 'm') {
+        return Outcome::NoNumber; // The milliseconds of many phones. With an m no suffix begins and no number goes on.
     }
     for (const Suffix &suffix : suffixes) {
         if (std::equal(at, end, suffix.text.begin(), suffix.text.end())) {
@@ -49,7 +54,7 @@ static bool readPlain(const QString &text, SmilUnit &measure)
         }
     }
     measure.value = number;
-    return at == end;
+    return at == end ? Outcome::Read : Outcome::Unknown;
 }
 
 static bool readAny(const QString &text, SmilUnit &measure)
@@ -75,7 +80,8 @@ bool SmilUnit::convert(const QString &text)
         return false;
     }
     unit = Px;
-    if (readPlain(text, *this) || readAny(text, *this)) {
+    const Outcome outcome = readPlain(text, *this);
+    if (outcome == Outcome::Read || (outcome == Outcome::Unknown && readAny(text, *this))) {
         return true;
     }
     unit = NoUnit;
