@@ -70,50 +70,47 @@ SmilDocument slidesModel(int slides)
     return model;
 }
 
-QStringList measureTexts(const SmilDocument &model)
+static QString text(const SmilUnit &measure, QLatin1String suffix)
 {
-    const SmilLayout &layout = model.header.layout;
-    QStringList texts = {layout.topLayoutWidth.toString(), layout.topLayoutHeight.toString()};
-    for (const SmilRegion &region : layout.regions) {
-        texts << region.width.toString() << region.height.toString() << region.top.toString() << region.left.toString();
-    }
-    for (const SmilNode &slide : model.body.root.children) {
-        texts << slide.dur.toString();
-    }
-    return texts;
+    return QString::number(int(measure.value)) + suffix;
 }
 
-static QDomElement buildRegion(QDomDocument &dom, const SmilRegion &region, QStringList::const_iterator &measure)
+static QString percent(const SmilUnit &measure)
+{
+    return text(measure, QLatin1String("%"));
+}
+
+static QDomElement buildRegion(QDomDocument &dom, const SmilRegion &region)
 {
     QDomElement element = dom.createElement(QStringLiteral("region"));
     element.setAttribute(QStringLiteral("id"), region.id);
-    element.setAttribute(QStringLiteral("width"), *measure++);
-    element.setAttribute(QStringLiteral("height"), *measure++);
-    element.setAttribute(QStringLiteral("top"), *measure++);
-    element.setAttribute(QStringLiteral("left"), *measure++);
+    element.setAttribute(QStringLiteral("width"), percent(region.width));
+    element.setAttribute(QStringLiteral("height"), percent(region.height));
+    element.setAttribute(QStringLiteral("top"), percent(region.top));
+    element.setAttribute(QStringLiteral("left"), percent(region.left));
     element.setAttribute(QStringLiteral("fit"), region.fit);
     return element;
 }
 
-static QDomElement buildHead(QDomDocument &dom, const SmilLayout &layout, QStringList::const_iterator &measure)
+static QDomElement buildHead(QDomDocument &dom, const SmilLayout &layout)
 {
     QDomElement root = dom.createElement(QStringLiteral("root-layout"));
-    root.setAttribute(QStringLiteral("width"), *measure++);
-    root.setAttribute(QStringLiteral("height"), *measure++);
+    root.setAttribute(QStringLiteral("width"), text(layout.topLayoutWidth, QLatin1String("px")));
+    root.setAttribute(QStringLiteral("height"), text(layout.topLayoutHeight, QLatin1String("px")));
     QDomElement element = dom.createElement(QStringLiteral("layout"));
     element.appendChild(root);
     for (const SmilRegion &region : layout.regions) {
-        element.appendChild(buildRegion(dom, region, measure));
+        element.appendChild(buildRegion(dom, region));
     }
     QDomElement head = dom.createElement(QStringLiteral("head"));
     head.appendChild(element);
     return head;
 }
 
-static QDomElement buildSlide(QDomDocument &dom, const SmilNode &slide, const QString &dur)
+static QDomElement buildSlide(QDomDocument &dom, const SmilNode &slide)
 {
     QDomElement par = dom.createElement(QStringLiteral("par"));
-    par.setAttribute(QStringLiteral("dur"), dur);
+    par.setAttribute(QStringLiteral("dur"), text(slide.dur, QLatin1String("s")));
     QDomElement picture = dom.createElement(QStringLiteral("img"));
     picture.setAttribute(QStringLiteral("src"), slide.refs.at(0).src);
     picture.setAttribute(QStringLiteral("region"), slide.refs.at(0).region);
@@ -125,14 +122,13 @@ static QDomElement buildSlide(QDomDocument &dom, const SmilNode &slide, const QS
     return par;
 }
 
-void buildDom(QDomDocument &dom, const SmilDocument &model, const QStringList &measures)
+void buildDom(QDomDocument &dom, const SmilDocument &model)
 {
-    QStringList::const_iterator measure = measures.constBegin();
     QDomElement smil = dom.createElement(QStringLiteral("smil"));
-    smil.appendChild(buildHead(dom, model.header.layout, measure));
+    smil.appendChild(buildHead(dom, model.header.layout));
     QDomElement body = dom.createElement(QStringLiteral("body"));
     for (const SmilNode &slide : model.body.root.children) {
-        body.appendChild(buildSlide(dom, slide, *measure++));
+        body.appendChild(buildSlide(dom, slide));
     }
     smil.appendChild(body);
     dom.appendChild(smil);

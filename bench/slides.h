@@ -15,13 +15,10 @@ QByteArray slidesText(int slides);
  */
 SmilDocument slidesModel(int slides);
 
-/** The texts of the measures in @p model, in the order in which buildDom() writes them. */
-QStringList measureTexts(const SmilDocument &model);
-
 /**
  * Builds the tree of @p model in @p dom by hand, with nothing but what a host that knows its message has to call: each
- * attribute is known to be there, and the text of each measure is ready in @p measures.
+ * attribute is known to be there, and each measure to be a whole number of a known unit.
  */
-void buildDom(QDomDocument &dom, const SmilDocument &model, const QStringList &measures);
+void buildDom(QDomDocument &dom, const SmilDocument &model);
 
 #endif

@@ -59,15 +59,13 @@ class FloorWrite : public Work
 public:
     explicit FloorWrite(int slides)
         : model(slidesModel(slides))
-        , measures(measureTexts(model))
     {
     }
 
-    void run() override { buildDom(document, model, measures); }
+    void run() override { buildDom(document, model); }
 
 private:
     const SmilDocument model;
-    const QStringList measures;
     QDomDocument document;
 };
 
