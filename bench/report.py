@@ -24,7 +24,7 @@ CHART = "docs/performance.svg"
 SIZES = (3, 1000, 100000)
 WORKS = ("floor-parse", "parse", "floor-write", "write")
 STRAIGHT_SIZES = (100, 1000, 10000, 100000)
-REPETITIONS = 2
+REPETITIONS = 8
 PEERS = {"xmlstream": "QXmlStreamReader", "libxml2": "libxml2", "pugixml": "pugixml"}
 
 
