@@ -28,9 +28,9 @@ const Suffix suffixes[] = {
 };
 }
 
-enum class Outcome { Read, NoNumber, Unknown };
+enum class Outcome { Read, NoNumber, Undecided };
 
-/** Tells what nearly all texts are, up to nine digits and one suffix or none, for a tenth of what readAny() takes. */
+/** Reads up to nine digits and one suffix or none, as nearly all texts are, for a tenth of what readAny() takes. */
 static Outcome readPlain(const QString &text, SmilUnit &measure)
 {
     const ushort *const begin = text.utf16();
@@ -41,10 +41,10 @@ static Outcome readPlain(const QString &text, SmilUnit &measure)
         number = 10 * number + (*at - '0');
     }
     if (at == begin) {
-        return Outcome::Unknown;
+        return Outcome::Undecided;
     }
     if (*at == 'm') {
-        return Outcome::NoNumber; // The milliseconds of many phones. With an m no suffix begins and no number goes on.
+        return Outcome::NoNumber; // the milliseconds of many phones: no suffix begins with m, and no number contains it
     }
     for (const Suffix &suffix : suffixes) {
         if (std::equal(at, end, suffix.text.begin(), suffix.text.end())) {
@@ -54,7 +54,7 @@ static Outcome readPlain(const QString &text, SmilUnit &measure)
         }
     }
     measure.value = number;
-    return at == end ? Outcome::Read : Outcome::Unknown;
+    return at == end ? Outcome::Read : Outcome::Undecided;
 }
 
 static bool readAny(const QString &text, SmilUnit &measure)
@@ -81,7 +81,7 @@ bool SmilUnit::convert(const QString &text)
     }
     unit = Px;
     const Outcome outcome = readPlain(text, *this);
-    if (outcome == Outcome::Read || (outcome == Outcome::Unknown && readAny(text, *this))) {
+    if (outcome == Outcome::Read || (outcome == Outcome::Undecided && readAny(text, *this))) {
         return true;
     }
     unit = NoUnit;

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-// Made once, not at each of five look-ups a slide.
+// Made once, not at each look-up.
 static const QString absent;
 static const QString dur = QStringLiteral("dur");
 static const QString region = QStringLiteral("region");

@@ -56,13 +56,15 @@ ScanResult Scanner<Char>::scan(qint64 start)
     return result;
 }
 
-// Nearly all of a document is tags of which all there is to know is whether they end in "/>". Where only one ">" comes
-// before the next "<", it ends the tag, whatever is quoted in that; and a short tag has no room for what the limits are
-// about. The first one that is different is left to markup(), and so is what is outside of the root element.
+// Nearly all of a document is tags of which all there is to know is whether they end in "/>". The first ">" ends such a
+// tag where only text without another follows up to the next "<": had it been quoted, that "<" would be within the tag,
+// and there the reader stops. A short tag has no room for what the limits are about. The first one that is different is
+// left to markup(), and so is what is outside of the root element.
 template<typename Char>
 void Scanner<Char>::skipPlainTags()
 {
-    const qint64 longest = SmilParser::MaxAttributes * 4; // a=""
+    const int longest = SmilParser::MaxAttributes * 4; // a=""
+    static_assert(longest <= SmilParser::MaxName, "a tag that is skipped has no room for a name that is too long");
     int depth = level;
     const Char *tag = at;
     while (depth > 0 && end - tag > 2 && tag[1] != Char('!') && tag[1] != Char('?')) {
