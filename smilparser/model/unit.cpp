@@ -26,9 +26,9 @@ const Suffix suffixes[] = {
     {QLatin1String("%"),  SmilUnit::Percent},
     {QLatin1String("s"),  SmilUnit::Sec    },
 };
-}
 
 enum class Outcome { Read, NoNumber, Undecided };
+}
 
 /** Reads up to nine digits and one suffix or none, as nearly all texts are, for a tenth of what readAny() takes. */
 static Outcome readPlain(const QString &text, SmilUnit &measure)
