@@ -70,14 +70,14 @@ SmilDocument slidesModel(int slides)
     return model;
 }
 
-static QString text(const SmilUnit &measure, QLatin1String suffix)
+static QString joined(const SmilUnit &measure, QLatin1String suffix)
 {
     return QString::number(int(measure.value)) + suffix;
 }
 
 static QString percent(const SmilUnit &measure)
 {
-    return text(measure, QLatin1String("%"));
+    return joined(measure, QLatin1String("%"));
 }
 
 static QDomElement buildRegion(QDomDocument &dom, const SmilRegion &region)
@@ -95,8 +95,8 @@ static QDomElement buildRegion(QDomDocument &dom, const SmilRegion &region)
 static QDomElement buildHead(QDomDocument &dom, const SmilLayout &layout)
 {
     QDomElement root = dom.createElement(QStringLiteral("root-layout"));
-    root.setAttribute(QStringLiteral("width"), text(layout.topLayoutWidth, QLatin1String("px")));
-    root.setAttribute(QStringLiteral("height"), text(layout.topLayoutHeight, QLatin1String("px")));
+    root.setAttribute(QStringLiteral("width"), joined(layout.topLayoutWidth, QLatin1String("px")));
+    root.setAttribute(QStringLiteral("height"), joined(layout.topLayoutHeight, QLatin1String("px")));
     QDomElement element = dom.createElement(QStringLiteral("layout"));
     element.appendChild(root);
     for (const SmilRegion &region : layout.regions) {
@@ -110,7 +110,7 @@ static QDomElement buildHead(QDomDocument &dom, const SmilLayout &layout)
 static QDomElement buildSlide(QDomDocument &dom, const SmilNode &slide)
 {
     QDomElement par = dom.createElement(QStringLiteral("par"));
-    par.setAttribute(QStringLiteral("dur"), text(slide.dur, QLatin1String("s")));
+    par.setAttribute(QStringLiteral("dur"), joined(slide.dur, QLatin1String("s")));
     QDomElement picture = dom.createElement(QStringLiteral("img"));
     picture.setAttribute(QStringLiteral("src"), slide.refs.at(0).src);
     picture.setAttribute(QStringLiteral("region"), slide.refs.at(0).region);

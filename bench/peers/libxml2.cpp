@@ -21,23 +21,14 @@ static QString attribute(const xmlNode *node, const char *attribute)
     return text;
 }
 
+static auto attributesOf(const xmlNode *node)
+{
+    return [node](const char *name) { return attribute(node, name); };
+}
+
 static SmilUnit measure(const xmlNode *node, const char *name)
 {
     return SmilUnit(attribute(node, name));
-}
-
-static SmilRegion readRegion(const xmlNode *node)
-{
-    SmilRegion region;
-    region.id = attribute(node, "id");
-    region.width = measure(node, "width");
-    region.height = measure(node, "height");
-    region.top = measure(node, "top");
-    region.bottom = measure(node, "bottom");
-    region.left = measure(node, "left");
-    region.right = measure(node, "right");
-    region.fit = attribute(node, "fit");
-    return region;
 }
 
 static void readLayout(const xmlNode *node, SmilLayout &layout)
@@ -50,18 +41,9 @@ static void readLayout(const xmlNode *node, SmilLayout &layout)
             layout.topLayoutWidth = measure(child, "width");
             layout.topLayoutHeight = measure(child, "height");
         } else if (name(child) == QLatin1String("region")) {
-            layout.regions.append(readRegion(child));
+            layout.regions.append(makeRegion(attributesOf(child)));
         }
     }
-}
-
-static SmilMeta readMeta(const xmlNode *node)
-{
-    SmilMeta meta;
-    meta.id = attribute(node, "id");
-    meta.name = attribute(node, "name");
-    meta.content = attribute(node, "content");
-    return meta;
 }
 
 static void readHead(const xmlNode *node, SmilHeader &header)
@@ -71,7 +53,7 @@ static void readHead(const xmlNode *node, SmilHeader &header)
     header.className = attribute(node, "class");
     for (const xmlNode *child = node->children; child; child = child->next) {
         if (name(child) == QLatin1String("meta")) {
-            header.metas.append(readMeta(child));
+            header.metas.append(makeMeta(attributesOf(child)));
         } else if (name(child) == QLatin1String("layout")) {
             readLayout(child, header.layout);
         }
@@ -93,10 +75,7 @@ static void readNode(const xmlNode *element, SmilNode &node)
         }
         const int type = refType(name(child));
         if (type >= 0) {
-            SmilRef ref(type);
-            ref.src = attribute(child, "src");
-            ref.region = attribute(child, "region");
-            node.refs.append(std::move(ref));
+            node.refs.append(makeRef(type, attributesOf(child)));
         }
     }
 }

@@ -35,4 +35,42 @@ int refType(const Name &name)
                                          : -1;
 }
 
+/**
+ * The records of one element each. All three take their texts from @p attribute, which gives that of the attribute of a
+ * name.
+ */
+template<typename Attribute>
+SmilRef makeRef(int type, const Attribute &attribute)
+{
+    SmilRef ref(type);
+    ref.src = attribute("src");
+    ref.region = attribute("region");
+    return ref;
+}
+
+template<typename Attribute>
+SmilMeta makeMeta(const Attribute &attribute)
+{
+    SmilMeta meta;
+    meta.id = attribute("id");
+    meta.name = attribute("name");
+    meta.content = attribute("content");
+    return meta;
+}
+
+template<typename Attribute>
+SmilRegion makeRegion(const Attribute &attribute)
+{
+    SmilRegion region;
+    region.id = attribute("id");
+    region.width = SmilUnit(attribute("width"));
+    region.height = SmilUnit(attribute("height"));
+    region.top = SmilUnit(attribute("top"));
+    region.bottom = SmilUnit(attribute("bottom"));
+    region.left = SmilUnit(attribute("left"));
+    region.right = SmilUnit(attribute("right"));
+    region.fit = attribute("fit");
+    return region;
+}
+
 #endif

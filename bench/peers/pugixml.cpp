@@ -12,23 +12,14 @@ static QString attribute(const pugi::xml_node &node, const char *name)
     return QString::fromUtf8(node.attribute(name).value());
 }
 
+static auto attributesOf(const pugi::xml_node &node)
+{
+    return [node](const char *name) { return attribute(node, name); };
+}
+
 static SmilUnit measure(const pugi::xml_node &node, const char *name)
 {
     return SmilUnit(attribute(node, name));
-}
-
-static SmilRegion readRegion(const pugi::xml_node &node)
-{
-    SmilRegion region;
-    region.id = attribute(node, "id");
-    region.width = measure(node, "width");
-    region.height = measure(node, "height");
-    region.top = measure(node, "top");
-    region.bottom = measure(node, "bottom");
-    region.left = measure(node, "left");
-    region.right = measure(node, "right");
-    region.fit = attribute(node, "fit");
-    return region;
 }
 
 static void readLayout(const pugi::xml_node &node, SmilLayout &layout)
@@ -40,17 +31,8 @@ static void readLayout(const pugi::xml_node &node, SmilLayout &layout)
     layout.topLayoutWidth = measure(top, "width");
     layout.topLayoutHeight = measure(top, "height");
     for (const pugi::xml_node &region : node.children("region")) {
-        layout.regions.append(readRegion(region));
+        layout.regions.append(makeRegion(attributesOf(region)));
     }
-}
-
-static SmilMeta readMeta(const pugi::xml_node &node)
-{
-    SmilMeta meta;
-    meta.id = attribute(node, "id");
-    meta.name = attribute(node, "name");
-    meta.content = attribute(node, "content");
-    return meta;
 }
 
 static void readHead(const pugi::xml_node &node, SmilHeader &header)
@@ -59,7 +41,7 @@ static void readHead(const pugi::xml_node &node, SmilHeader &header)
     header.title = attribute(node, "title");
     header.className = attribute(node, "class");
     for (const pugi::xml_node &meta : node.children("meta")) {
-        header.metas.append(readMeta(meta));
+        header.metas.append(makeMeta(attributesOf(meta)));
     }
     readLayout(node.child("layout"), header.layout);
 }
@@ -77,10 +59,7 @@ static void readNode(const pugi::xml_node &element, SmilNode &node)
         }
         const int type = refType(name);
         if (type >= 0) {
-            SmilRef ref(type);
-            ref.src = attribute(child, "src");
-            ref.region = attribute(child, "region");
-            node.refs.append(std::move(ref));
+            node.refs.append(makeRef(type, attributesOf(child)));
         }
     }
 }

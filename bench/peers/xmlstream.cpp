@@ -7,68 +7,42 @@
 
 #include <utility>
 
-static QString attribute(const QXmlStreamAttributes &attributes, QLatin1String name)
+static auto attributesOf(const QXmlStreamReader &xml)
 {
-    return attributes.value(name).toString();
-}
-
-static SmilUnit measure(const QXmlStreamAttributes &attributes, QLatin1String name)
-{
-    return SmilUnit(attribute(attributes, name));
-}
-
-static SmilRegion readRegion(const QXmlStreamAttributes &attributes)
-{
-    SmilRegion region;
-    region.id = attribute(attributes, QLatin1String("id"));
-    region.width = measure(attributes, QLatin1String("width"));
-    region.height = measure(attributes, QLatin1String("height"));
-    region.top = measure(attributes, QLatin1String("top"));
-    region.bottom = measure(attributes, QLatin1String("bottom"));
-    region.left = measure(attributes, QLatin1String("left"));
-    region.right = measure(attributes, QLatin1String("right"));
-    region.fit = attribute(attributes, QLatin1String("fit"));
-    return region;
+    return
+        [attributes = xml.attributes()](const char *name) { return attributes.value(QLatin1String(name)).toString(); };
 }
 
 static void readLayout(QXmlStreamReader &xml, SmilLayout &layout)
 {
     while (xml.readNextStartElement()) {
-        const QXmlStreamAttributes attributes = xml.attributes();
+        const auto attribute = attributesOf(xml);
         if (xml.name() == QLatin1String("root-layout")) {
-            layout.rootLayoutWidth = measure(attributes, QLatin1String("width"));
-            layout.rootLayoutHeight = measure(attributes, QLatin1String("height"));
+            layout.rootLayoutWidth = SmilUnit(attribute("width"));
+            layout.rootLayoutHeight = SmilUnit(attribute("height"));
         } else if (xml.name() == QLatin1String("topLayout")) {
-            layout.topLayoutWidth = measure(attributes, QLatin1String("width"));
-            layout.topLayoutHeight = measure(attributes, QLatin1String("height"));
+            layout.topLayoutWidth = SmilUnit(attribute("width"));
+            layout.topLayoutHeight = SmilUnit(attribute("height"));
         } else if (xml.name() == QLatin1String("region")) {
-            layout.regions.append(readRegion(attributes));
+            layout.regions.append(makeRegion(attribute));
         }
         xml.skipCurrentElement();
     }
 }
 
-static SmilMeta readMeta(const QXmlStreamAttributes &attributes)
-{
-    SmilMeta meta;
-    meta.id = attribute(attributes, QLatin1String("id"));
-    meta.name = attribute(attributes, QLatin1String("name"));
-    meta.content = attribute(attributes, QLatin1String("content"));
-    return meta;
-}
-
 static void readHead(QXmlStreamReader &xml, SmilHeader &header)
 {
-    header.id = attribute(xml.attributes(), QLatin1String("id"));
-    header.title = attribute(xml.attributes(), QLatin1String("title"));
-    header.className = attribute(xml.attributes(), QLatin1String("class"));
+    const auto attribute = attributesOf(xml);
+    header.id = attribute("id");
+    header.title = attribute("title");
+    header.className = attribute("class");
     while (xml.readNextStartElement()) {
         if (xml.name() == QLatin1String("layout")) {
             readLayout(xml, header.layout);
             continue;
         }
         if (xml.name() == QLatin1String("meta")) {
-            header.metas.append(readMeta(xml.attributes()));
+            header.metas.append(makeMeta(attributesOf(xml)));
         }
         xml.skipCurrentElement();
     }
@@ -76,7 +50,7 @@ static void readHead(QXmlStreamReader &xml, SmilHeader &header)
 
 static void readNode(QXmlStreamReader &xml, SmilNode &node)
 {
-    node.dur = measure(xml.attributes(), QLatin1String("dur"));
+    node.dur = SmilUnit(attributesOf(xml)("dur"));
     while (xml.readNextStartElement()) {
         if (const int type = nodeType(xml.name())) {
             SmilNode nested(type);
@@ -86,11 +60,7 @@ static void readNode(QXmlStreamReader &xml, SmilNode &node)
         }
         const int type = refType(xml.name());
         if (type >= 0) {
-            const QXmlStreamAttributes attributes = xml.attributes();
-            SmilRef ref(type);
-            ref.src = attribute(attributes, QLatin1String("src"));
-            ref.region = attribute(attributes, QLatin1String("region"));
-            node.refs.append(std::move(ref));
+            node.refs.append(makeRef(type, attributesOf(xml)));
         }
         xml.skipCurrentElement();
     }

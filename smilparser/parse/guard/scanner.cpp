@@ -133,13 +133,7 @@ ScanResult Scanner<Char>::startTag()
         }
         at = tag;
     }
-    const ScanResult result = attributes();
-    // Also where the tag seems not to end: past a name that is too long, the reader of Qt 6.4 goes on differently.
-    if (hasLongName(tag)) {
-        at = tag;
-        return ScanResult::Refused;
-    }
-    return result;
+    return unlessLongName(tag, attributes());
 }
 
 template<typename Char>
@@ -195,12 +189,7 @@ ScanResult Scanner<Char>::endTag()
     }
     const Char *const tag = at;
     --level;
-    const ScanResult result = skipPast('>');
-    if (hasLongName(tag)) {
-        at = tag;
-        return ScanResult::Refused;
-    }
-    return result;
+    return unlessLongName(tag, skipPast('>'));
 }
 
 template<typename Char>
@@ -433,6 +422,17 @@ QString Scanner<Char>::readName()
     const Char *const name = at;
     skipName();
     return toText(name, at);
+}
+
+// Also where the tag seems not to end: past a name that is too long, the reader of Qt 6.4 goes on differently.
+template<typename Char>
+ScanResult Scanner<Char>::unlessLongName(const Char *tag, ScanResult result)
+{
+    if (!hasLongName(tag)) {
+        return result;
+    }
+    at = tag;
+    return ScanResult::Refused;
 }
 
 template<typename Char>

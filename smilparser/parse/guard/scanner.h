@@ -72,6 +72,7 @@ private:
     ScanResult checkName();
     void skipSpace();
     QString readName();
+    ScanResult unlessLongName(const Char *tag, ScanResult result);
     bool hasLongName(const Char *tag) const;
 
     const Char *const begin;
