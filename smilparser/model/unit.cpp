@@ -6,7 +6,6 @@
 #include <QtCore/qnumeric.h>
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 namespace
@@ -92,7 +91,7 @@ bool SmilUnit::convert(const QString &text)
 /** Whether the number is written as nothing but digits, six at most. */
 static bool isSmallWhole(double value)
 {
-    return value >= 0.0 && value < 1e6 && value == int(value) && !std::signbit(value);
+    return value >= 0.0 && value < 1e6 && value == int(value);
 }
 
 static QString writeDigits(int number, QLatin1String suffix)

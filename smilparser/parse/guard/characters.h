@@ -19,7 +19,7 @@ inline bool isQuote(char16_t c)
 /** Whether a name cannot go on with that character in markup that the XML reader accepts. */
 inline bool endsName(char16_t c)
 {
-    return c <= u'>' && (c == u'=' || c == u'/' || c == u'<' || c == u'>' || isSpace(c) || isQuote(c));
+    return c <= u'?' && (c == u'=' || c == u'/' || c == u'<' || c == u'>' || c == u'?' || isSpace(c) || isQuote(c));
 }
 
 inline char16_t code(char c)

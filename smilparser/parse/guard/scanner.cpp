@@ -336,21 +336,19 @@ ScanResult Scanner<Char>::replace(const QString &name)
     if (found == replacements.end()) {
         return ScanResult::Passed;
     }
-    if (found->state == Replacement::Unknown) {
-        found->state = Replacement::BeingFound;
+    if (!found->scanned) {
+        found->scanned = true;
         const QString &text = found->text;
         Scanner<char16_t> scanner(reinterpret_cast<const char16_t *>(text.utf16()), text.size(), replacements,
                                   ScannedText::Entity);
         found->complete = scanner.scan() == ScanResult::Passed && scanner.isComplete();
         found->length = scanner.length();
         found->depth = scanner.depth();
-        found->state = Replacement::Known;
     }
-    // One that is still being found refers to itself and has no end.
+    // One that is being scanned refers to itself.
     replaced += found->length;
     deepest = qMax(deepest, level + found->depth);
-    const bool harmless = found->state == Replacement::Known && found->complete && replaced <= SmilParser::MaxExpansion
-        && deepest <= SmilParser::MaxDepth;
+    const bool harmless = found->complete && replaced <= SmilParser::MaxExpansion && deepest <= SmilParser::MaxDepth;
     return harmless ? ScanResult::Passed : ScanResult::Refused;
 }
 

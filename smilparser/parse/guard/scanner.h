@@ -9,10 +9,8 @@
 
 /** Text that a document type declaration brings into the document wherever it is referred to. */
 struct Replacement {
-    enum State { Unknown, BeingFound, Known };
-
     QString text;
-    State state = Unknown;
+    bool scanned = false; ///< or being scanned, and not complete as yet
     bool complete = false; ///< whether all markup that begins in it ends in it, within the limits
     qint64 length = 0; ///< in characters, with what its own references bring
     int depth = 0; ///< levels of elements in it
