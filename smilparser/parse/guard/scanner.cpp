@@ -118,13 +118,9 @@ ScanResult Scanner<Char>::markup()
 template<typename Char>
 ScanResult Scanner<Char>::startTag()
 {
-    if (level == 0 && rootSeen && kind == ScannedText::Document) {
-        return ScanResult::Malformed; // A second root. Cut off before it, the document would be complete.
-    }
     if (level == SmilParser::MaxDepth) {
         return ScanResult::Refused;
     }
-    rootSeen = true;
     deepest = qMax(deepest, level + 1);
     const Char *const tag = ++at;
     if (!replacements.isEmpty()) {

@@ -80,7 +80,6 @@ private:
     const ScannedText kind;
     int level = 0; ///< of elements open
     int deepest = 0;
-    bool rootSeen = false;
     qint64 replaced = 0; ///< characters that references brought
     qint64 subsetLength = 0;
 };
