@@ -270,10 +270,9 @@ public:
      */
     enum Limit {
         MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
-        MaxAttributes = 256, ///< attributes that an element states
-        MaxExpansion = 8192, ///< characters that entity references and attribute defaults bring in, in sum
-        MaxSubset = 4096, ///< characters of the internal subset of the document type; no parameter entities in it
-        MaxName = 4096 ///< characters of a name
+        MaxMeanDepth = 32, ///< levels that a character is nested at on average; it counts as one of 128 Ki at least
+        MaxAttributes = 64, ///< attributes of an element
+        MaxName = 4096 ///< length of a name, as QString::size() counts it
     };
 
     /**

@@ -19,51 +19,25 @@ private Q_SLOTS:
     void documents();
     void encodings_data();
     void encodings();
-    void changesOfEncoding();
-    void marksInNames();
+    void declarations_data();
+    void declarations();
+    void characters_data();
+    void characters();
+    void surrogates();
+    void references_data();
+    void references();
     void generated();
 };
 
 /** What the host is told of the input, and the model, read on a small stack. */
 static QString read(const QByteArray &input)
 {
-    Messages messages(0);
-    QString model;
-    const std::unique_ptr<QThread> thread(QThread::create([&] {
-        SmilParser parser(input);
-        model = Outline::of(parser.parse());
-        parser.getContent();
-    }));
+    QString told;
+    const std::unique_ptr<QThread> thread(QThread::create([&] { told = toldByLibrary(input); }));
     thread->setStackSize(512 * 1024);
     thread->start();
     thread->wait();
-    return messages.take() + model;
-}
-
-/** The same, from the XML reader itself. */
-static QString readDirectly(QByteArray input)
-{
-    Messages messages(0);
-    QBuffer buffer(&input);
-    buffer.open(QIODevice::ReadOnly);
-    QDomDocument dom;
-    QString error;
-    int line = 0;
-    int column = 0;
-    SmilParser parser((SmilDocument()));
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // from Qt 6.8, in favour of one that Qt 5 and 6.4 do not have
-        const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
-    QT_WARNING_POP
-    if (!wellFormed) {
-        qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", qPrintable(error), line, column);
-    } else if (QDomElement smil = dom.firstChildElement(QStringLiteral("smil")); smil.isNull()) {
-        qWarning("Fail to find SMIL document!");
-    } else {
-        parser.parseSmilDocument(smil);
-    }
-    const QString told = messages.take();
-    return told + Outline::of(parser.parse()); // finds no input, so that the model stays
+    return told;
 }
 
 static QByteArray utf8(const QByteArray &text)
@@ -71,13 +45,18 @@ static QByteArray utf8(const QByteArray &text)
     return QString::fromLatin1(text).toUtf8();
 }
 
-/** An "@" in the text marks where the document is cut off. Without one it reads. */
+static bool isRefused(const QString &told)
+{
+    return told.startsWith(QStringLiteral("WFail to parse"));
+}
+
+/** A "\xb6" in the text marks where the document is cut off. Without one, the library changes nothing. */
 static void check(const QByteArray &text, const Encode &encode = utf8)
 {
-    const QByteArrayList parts = text.split('@');
-    const QString expected = readDirectly(encode(parts.first()));
+    const QByteArrayList parts = text.split('\xb6');
+    const QString expected = toldByReaderAlone(encode(parts.first()));
     QCOMPARE(read(encode(parts.join())), expected);
-    QCOMPARE(expected.startsWith(QStringLiteral("WFail to parse")), parts.size() > 1);
+    QVERIFY(parts.size() == 1 || isRefused(expected));
 }
 
 void Hostile::documents_data()
@@ -89,7 +68,7 @@ void Hostile::documents_data()
 void Hostile::documents()
 {
     QFETCH(QString, text);
-    static const QRegularExpression repeated(QStringLiteral("\\{(\\d+)\\*([^}]*)\\}"));
+    static const QRegularExpression repeated(QStringLiteral("\\{(\\d+)\\*([^{}]*)\\}"));
     for (QRegularExpressionMatch match; (match = repeated.match(text)).hasMatch();) {
         QString all;
         for (int i = 0; i < match.captured(1).toInt(); ++i) {
@@ -101,20 +80,8 @@ void Hostile::documents()
     check(parts.join());
     if (parts.size() > 1) {
         check(parts.first() + parts.last());
+        QVERIFY(!isRefused(read(utf8(parts.first() + parts.last()))));
     }
-}
-
-/** In units of @p width bytes, after the byte order mark when there is one. */
-static QByteArray wide(const QByteArray &text, int width, bool bigEndian, bool marked)
-{
-    QByteArray bytes = marked ? QByteArray("\xff\xfe") + QByteArray(width - 2, 0) : QByteArray();
-    for (const char c : text) {
-        bytes += c + QByteArray(width - 1, 0);
-    }
-    for (int i = 0; bigEndian && i < bytes.size(); i += width) {
-        std::reverse(bytes.begin() + i, bytes.begin() + i + width);
-    }
-    return bytes;
 }
 
 void Hostile::encodings_data()
@@ -133,7 +100,9 @@ void Hostile::encodings_data()
     QTest::newRow("Latin-1") << open << flat << declared("ISO-8859-1");
     for (int kind = 0; kind < 8; ++kind) {
         QTest::addRow("UTF-%d, %s, %s", kind & 1 ? 32 : 16, kind & 2 ? "BE" : "LE", kind & 4 ? "marked" : "unmarked")
-            << open << flat << Encode([=](auto &text) { return wide(text, kind & 1 ? 4 : 2, kind & 2, kind & 4); });
+            << open << flat << Encode([=](auto &text) {
+                   return wide(QString::fromLatin1(text), kind & 1 ? 4 : 2, kind & 2, kind & 4);
+               });
     }
     // Taken for ASCII, these show other markup.
     const auto row = [&](const char *encoding, const QByteArray &one, const QByteArray &none) {
@@ -151,23 +120,152 @@ void Hostile::encodings()
     QFETCH(QByteArray, open);
     QFETCH(QByteArray, flat);
     QFETCH(Encode, encode);
-    const QByteArray start = "<!DOCTYPE smil [<!ENTITY a ']>'><!-- ]><x>' --><?p ]>'?><!ATTLIST z y CDATA \"]>'\">]>"
-                             "<smil><head/><body>";
-    check(start + open.repeated(510) + "@<x>", encode);
+    const QByteArray start = "<!DOCTYPE smil SYSTEM ']>[<x>'><smil><head/><body>";
+    check(start + open.repeated(300) + QByteArray("<x>").repeated(210) + "\xb6<x>", encode);
     check(start + flat.repeated(600) + "</body></smil>", encode);
+    SmilParser parser(encode("<smil><head/><body/></smil>"));
+    QString error;
+    parser.parse(&error);
+    QVERIFY2(error.isNull(), qPrintable(error));
+    parser.parse(&error);
+    QVERIFY(!error.isNull()); // it is read once, decoded or not
+}
+
+void Hostile::declarations_data()
+{
+    QTest::addColumn<QByteArray>("declaration");
+    QTest::addColumn<Encode>("encode");
+    QTest::addColumn<bool>("odd"); // and therefore refused
+
+    const Encode bytes = [](auto &text) { return text; };
+    const Encode utf16 = [](auto &text) { return wide(QString::fromLatin1(text), 2, true, true); };
+    const auto row = [](const char *name, const QByteArray &declaration, const Encode &encode, bool odd) {
+        QTest::newRow(name) << declaration << encode << odd;
+    };
+    row("none", "<?xml version='1.0'?>", bytes, false);
+    row("UTF-8 in any case", "<?xml version='1.0' encoding = \"Utf-8\" standalone='yes'?>", bytes, false);
+    row("marked UTF-8", "\xef\xbb\xbf<?xml version='1.0' encoding='UTF-8'?>", bytes, false);
+    row("other name of UTF-8", "<?xml version='1.0' encoding='UTF8'?>", bytes, false);
+    row("known", "<?xml version='1.0' encoding='windows-1251'?>", bytes, false);
+    row("instruction that begins like one", "<?xml-model href='a'?>", bytes, false);
+    row("UTF-16", "<?xml version='1.0' encoding='UTF-16'?>", utf16, false);
+    row("without a word of it", "<?xml version='1.0'?>", utf16, false);
+    row("unknown", "<?xml version='1.0' encoding='x'?>", bytes, true);
+    row("empty", "<?xml version='1.0' encoding=''?>", bytes, true);
+    row("two", "<?xml version='1.0' encoding='UTF-8' encoding='GBK'?>", bytes, true);
+    row("within another value", "<?xml version=' encoding=' encoding='GBK'?>", bytes, true);
+    row("without quotation marks", "<?xml version='1.0' encoding=UTF-8?>", bytes, true);
+    row("without an equals sign", "<?xml version='1.0' encoding 'UTF-8'?>", bytes, true);
+    row("not what the bytes are", "<?xml version='1.0' encoding='UTF-16'?>", bytes, true);
+    row("EBCDIC in ASCII", "<?xml version='1.0' encoding='IBM037'?>", bytes, true);
+    row("UTF-8 in UTF-16", "<?xml version='1.0' encoding='UTF-8'?>", utf16, true);
+    row("1024 bytes", "<?xml version='1.0'" + QByteArray(1003, ' ') + "?>", bytes, false);
+    row("1025 bytes", "<?xml version='1.0'" + QByteArray(1004, ' ') + "?>", bytes, true);
+}
+
+void Hostile::declarations()
+{
+    QFETCH(QByteArray, declaration);
+    QFETCH(Encode, encode);
+    QFETCH(bool, odd);
+    const QByteArray message = encode(declaration + "<smil><head title='\xc3\xa9'/><body/></smil>");
+    const QString told = read(message);
+    QCOMPARE(isRefused(told), odd);
+    if (!odd) {
+        QCOMPARE(told, toldByReaderAlone(message));
+    }
+    QVERIFY(isRefused(read(encode(declaration + QByteArray("<x>").repeated(600)))));
+}
+
+void Hostile::characters_data()
+{
+    QTest::addColumn<QString>("character");
+    QTest::addColumn<bool>("readByQt5"); // Qt 6 reads none of them
+
+    QTest::newRow("U+0000") << QString(QChar(0)) << true;
+    QTest::newRow("U+0001") << QString(QChar(1)) << true;
+    QTest::newRow("U+FFFE") << QString(QChar(0xfffe)) << false;
+    QTest::newRow("U+FFFF") << QString(QChar(0xffff)) << false;
+}
+
+// Characters that XML forbids. Nothing is hidden behind one: whether the reader stops there, goes on, or drops what
+// follows, which is what Qt 5 does at the last two, the library scans and hands on the same.
+void Hostile::characters()
+{
+    QFETCH(QString, character);
+    QFETCH(bool, readByQt5);
+    const bool readHere = QT_VERSION < QT_VERSION_CHECK(6, 0, 0) && readByQt5;
+    const QString body = QStringLiteral("<smil><head/><body>%1</body></smil>");
+    const QString levels = QString(QStringLiteral("<x>")).repeated(600) + QString(QStringLiteral("</x>")).repeated(600);
+    for (const QString &place : {QStringLiteral("%1"), QStringLiteral("<x a='%1'/>"), QStringLiteral("<!--%1-->"),
+                                 QStringLiteral("<![CDATA[%1]]>"), QStringLiteral("<?p %1?>")}) {
+        const QString text = body.arg(place.arg(character));
+        const QString hidden = body.arg(place.arg(character) + levels);
+        for (const int width : {1, 2}) {
+            const auto encode = [=](const QString &plain) {
+                return width == 1 ? plain.toUtf8() : wide(plain, 2, false, true);
+            };
+            QVERIFY2(isRefused(read(encode(text))) != readHere, qPrintable(place));
+            QVERIFY2(isRefused(read(encode(hidden))), qPrintable(place));
+        }
+    }
+    // What Qt 5 drops is the rest of the kilobyte it has read.
+    QVERIFY(isRefused(
+                read((body.arg(QStringLiteral("<x>").repeated(200) + character + QStringLiteral("</x>").repeated(200)))
+                         .toUtf8()))
+            != readHere);
+    QCOMPARE(read(body.arg(QString()).toUtf8() + character.toUtf8()),
+             toldByReaderAlone(body.arg(QString()).toUtf8() + character.toUtf8()));
+}
+
+// No characters either: Qt 6.4 and 6.8 make them "?", and Qt 6.11 crashes on them.
+void Hostile::surrogates()
+{
+    const QString lone(QChar(0xd83c));
+    const QString pair = lone + QChar(0xdf0a);
+    const QString message =
+        QStringLiteral("<smil><head title='%1'/><body><!--%1--><?p %1><x>?><![CDATA[%1]]>%1</body></smil>");
+    const auto title = [](const QString &text) { return SmilParser(wide(text, 2, false, true)).parse().header.title; };
+    QCOMPARE(title(message.arg(pair)), pair);
+    QCOMPARE(title(message.arg(lone)), QString(QChar(QChar::ReplacementCharacter)));
+    QCOMPARE(title(message.arg(QString(lone + lone))), QString(2, QChar(QChar::ReplacementCharacter)));
+    QCOMPARE(title(message.arg(QChar(0xdf0a))), QString(QChar(QChar::ReplacementCharacter)));
+    QVERIFY(title(message.arg(pair) + lone).isNull());
+    const QString mark(QChar(QChar::ByteOrderMark));
+    QVERIFY(title(mark + message).isNull()); // the second one, which Qt 6 would drop
+}
+
+void Hostile::references_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("readByQt5");
+    QTest::addColumn<bool>("readByQt6");
+    // Nothing can declare them within the limits. Qt 5 leaves them out, and so does Qt 6 where a file might do so.
+    QTest::newRow("content") << QStringLiteral("<smil><head/><body>&a;</body></smil>") << true << false;
+    QTest::newRow("value") << QStringLiteral("<smil><head title='&a;'/><body/></smil>") << true << false;
+    const QString type = QStringLiteral("<!DOCTYPE smil SYSTEM 'u'>");
+    QTest::newRow("content, with a file")
+        << type + QStringLiteral("<smil><head/><body>&a;</body></smil>") << true << true;
+    QTest::newRow("value, with a file") << type + QStringLiteral("<smil><head title='&a;'/><body/></smil>") << true
+                                        << true;
+    QTest::newRow("outside") << type + QStringLiteral("&a;<smil/>") << false << false;
+}
+
+void Hostile::references()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, readByQt5);
+    QFETCH(bool, readByQt6);
+    const QString told = read(text.toUtf8());
+    QCOMPARE(told, toldByReaderAlone(text.toUtf8()));
+    QCOMPARE(!isRefused(told), QT_VERSION < QT_VERSION_CHECK(6, 0, 0) ? readByQt5 : readByQt6);
 }
 
 /** A small document, with and without a document type, and with up to two errors. */
 static QByteArray anyDocument(std::mt19937 &random)
 {
     static const QByteArrayList types =
-        QByteArray("~<?xml version='1.0'?>\n<!-- <smil> -->~<!DOCTYPE smil SYSTEM 'u'>~"
-                   "<!DOCTYPE smil [<!ENTITY a 'x&#38;amp;'><!ENTITY b '<par>&a;</par>'>]>~"
-                   "<!DOCTYPE smil [<!-- ]> --><!ENTITY b \"&a;'&a;\"><!ENTITY a '5s'><?p ]>?>"
-                   "<!ATTLIST par dur CDATA '7&#115;' src ID #IMPLIED>]>~"
-                   "<!DOCTYPE smil [<!ELEMENT smil (#PCDATA|(a,b)*)><!NOTATION n SYSTEM ']'>"
-                   "<!ENTITY a SYSTEM 'u'><!ENTITY b SYSTEM 'u' NDATA n>]>")
-            .split('~');
+        QByteArray("~<?xml version='1.0'?>\n<!-- <smil> -->~<!DOCTYPE smil>~<!DOCTYPE smil SYSTEM 'u'>").split('~');
     static const QByteArrayList pieces =
         QByteArray("<par a='>' b=\"'/\"/>~<seq dur='&a;'\n/>~<img src='&lt;&#65;'/>~<text region='&b;'/>~"
                    "<!-- </par> -->~<![CDATA[</par>]]>~<?p </par>?>~&a;~&b;~&#x41;~t~\n~\xe9")
@@ -188,47 +286,19 @@ static QByteArray anyDocument(std::mt19937 &random)
     return any(types) + text;
 }
 
-void Hostile::changesOfEncoding()
-{
-    const auto bytes = [](auto &text) { return text; };
-    // Qt 5 starts over in EBCDIC, and finds no XML.
-    const QByteArray level = "\x4c\xa7\x6e";
-    check("<?xml version='1.0' encoding='IBM037'?>" + level.repeated(512) + '@' + level.repeated(9), bytes);
-    // The document is shorter in its encoding than it seems up to where that is declared.
-    check("<?xml version='" + QByteArray(300, '\x96') + "' encoding='GBK'?>@", bytes);
-    // What Qt 6 has already read of it is, anew, another "<".
-    const QString levels =
-        QStringLiteral("< ") + QStringLiteral("<a>").repeated(700) + QStringLiteral("</a>").repeated(700);
-    const QByteArray wideLevels(reinterpret_cast<const char *>(levels.utf16()), int(levels.size() * 2));
-    const QByteArray ascii = QByteArray("<?xml version='1.0' encoding='UTF-16LE'?>").leftJustified(80);
-    QVERIFY(read(ascii + wideLevels).startsWith(QStringLiteral("WFail to parse")));
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    // Longer than what is decoded anew.
-    check("<?xml version='1.0'" + QByteArray(1005, ' ') + "@?><smil><head/><body/></smil>", bytes);
-#endif
-    // Known to Qt 5, but not in other letter case.
-    const QByteArray named = "<?xml version='1.0' encoding='Apple Roman'?><smil><head/><body/></smil>";
-    QCOMPARE(read(named), readDirectly(named));
-}
-
-void Hostile::marksInNames()
-{
-    const QByteArray bom = "\xef\xbb\xbf";
-    const QByteArray type = "<!DOCTYPE smil [<!ENTITY e ''><!ENTITY " + bom + "e '" + QByteArray(1000, 'z') + "'>]>";
-    const QByteArray body = ("&" + bom + "e;").repeated(100) + "</body></smil>";
-    QVERIFY(read(type + "<smil><head/><body>" + body).startsWith(QStringLiteral("WFail to parse")));
-}
-
 void Hostile::generated()
 {
     std::mt19937 random(1);
     int wellFormed = 0;
     for (int i = 0; i < 4000; ++i) {
         const QByteArray text = anyDocument(random);
-        const QByteArray bytes = i % 3 ? utf8(text) : wide(text, 2, i & 1, i & 2);
-        const QString expected = readDirectly(bytes);
+        const QByteArray bytes = i % 3 ? utf8(text) : wide(QString::fromLatin1(text), 2, i & 1, true);
+        const QString expected = toldByReaderAlone(bytes);
         wellFormed += !expected.contains(QStringLiteral(" parse "));
-        QVERIFY2(read(bytes) == expected, text.constData());
+        const QString told = read(bytes);
+        // What stands behind an "&" may be beyond the limits where it is also an error.
+        const bool refused = isRefused(told) && isRefused(expected) && text.contains('&');
+        QVERIFY2(refused || told == expected, (text + told.toUtf8() + expected.toUtf8()).constData());
     }
     QVERIFY(wellFormed > 500);
 }

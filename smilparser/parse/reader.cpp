@@ -10,21 +10,21 @@
 
 bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn)
 {
-    // Closed, it has not been read yet.
+    std::optional<QByteArray> text;
+    // Open, it has been read already. Qt would open it too, but Qt 6 warns about it.
     if (!buffer.isOpen()) {
-        const QByteArray &bytes = buffer.data();
-        const qint64 size = harmlessSize(bytes);
-        if (size < bytes.size()) {
-            buffer.setData(bytes.left(int(size)));
+        text = decode(buffer.data());
+        if (!text) {
+            buffer.setData(buffer.data().left(harmlessSize(buffer.data())));
         }
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-        buffer.open(QIODevice::ReadOnly); // Qt 6 would do so too, but warn about it.
-#endif
+        buffer.open(QIODevice::ReadOnly);
     }
-    // From Qt 6.8 this overload is deprecated in favour of one that Qt 5 and 6.4 do not have.
+    // From Qt 6.8 these overloads are deprecated in favour of ones that Qt 5 and 6.4 do not have.
     QT_WARNING_PUSH
     QT_WARNING_DISABLE_DEPRECATED
-    const bool wellFormed = document.setContent(&buffer, errorMsg, errorLine, errorColumn);
+    const bool wellFormed = text ? document.setContent(QString::fromUtf8(text->constData(), harmlessSize(*text)),
+                                                       errorMsg, errorLine, errorColumn)
+                                 : document.setContent(&buffer, errorMsg, errorLine, errorColumn);
     QT_WARNING_POP
     // Qt 6 stops reading at an error; what follows must not be taken for a document by the next call.
     buffer.seek(buffer.size());

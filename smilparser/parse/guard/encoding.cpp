@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "encoding.h"
+#include "guard.h"
 
-#include "characters.h"
+#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
 #include <QtCore/QStringDecoder>
@@ -11,19 +12,11 @@
 #include <QtCore/QTextCodec>
 #endif
 
-namespace
-{
-struct Signature {
-    QByteArray bytes;
-    QByteArray encoding;
-};
-}
-
-/** A byte order mark or, without one, "<" in that encoding. Both versions of Qt know these. */
+/** By a byte order mark or, without one, "<" in that encoding. */
 static QByteArray detectEncoding(const QByteArray &bytes)
 {
     // Those of four bytes first: they begin with those of two.
-    static const Signature signatures[] = {
+    static const QByteArray signatures[][2] = {
         {QByteArrayLiteral("\xff\xfe\0\0"), QByteArrayLiteral("UTF-32LE")},
         {QByteArrayLiteral("\0\0\xfe\xff"), QByteArrayLiteral("UTF-32BE")},
         {QByteArrayLiteral("<\0\0\0"),      QByteArrayLiteral("UTF-32LE")},
@@ -33,125 +26,91 @@ static QByteArray detectEncoding(const QByteArray &bytes)
         {QByteArrayLiteral("<\0"),          QByteArrayLiteral("UTF-16LE")},
         {QByteArrayLiteral("\0<"),          QByteArrayLiteral("UTF-16BE")},
     };
-    for (const Signature &signature : signatures) {
-        if (bytes.startsWith(signature.bytes)) {
-            return signature.encoding;
+    for (const auto &signature : signatures) {
+        if (bytes.startsWith(signature[0])) {
+            return signature[1];
         }
     }
     return QByteArrayLiteral("UTF-8");
 }
 
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-/**
- * The last "encoding" of the XML declaration, with character references expanded; empty when there is none. The reader
- * decodes its input anew and goes on there where it is, at @p end.
- */
-static QByteArray declaredEncoding(const QString &text, qint64 *end)
+static bool isUtf8(const QByteArray &encoding)
 {
-    QString encoding;
-    qint64 at = 5;
-    if (text.size() == at || !isSpace(text.at(at).unicode())) {
-        return QByteArray();
+    return qstricmp(encoding.constData(), "UTF-8") == 0;
+}
+
+/** Null when Qt does not know the encoding, or there is none. */
+static QString decodeAs(const QByteArray &encoding, const QByteArray &bytes)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    QStringDecoder decoder(encoding.constData());
+    if (encoding.isEmpty() || !decoder.isValid()) {
+        return QString();
     }
-    while (at < text.size() && text.at(at) != u'>') {
-        if (isQuote(text.at(at).unicode())) {
-            const QStringView name = QStringView(text).first(at).trimmed().chopped(1).trimmed();
-            const qint64 value = at + 1;
-            at = text.indexOf(text.at(at), value);
-            if (at < 0) {
-                break;
-            }
-            if (name.endsWith(u"encoding")) {
-                encoding = expandCharacters(text.mid(value, at - value));
-            }
+    QString text = decoder(bytes);
+    if (decoder.hasError()) {
+        // This reader takes bytes that are not of the encoding for an error. So is a text that ends there.
+        text.truncate(text.indexOf(QChar::ReplacementCharacter) + 1);
+    }
+    return text;
+#else
+    const QTextCodec *const codec = QTextCodec::codecForName(encoding);
+    return codec ? QTextDecoder(codec).toUnicode(bytes.constData(), bytes.size()) : QString();
+#endif
+}
+
+/** Null when the declaration states anything but one encoding. */
+static QByteArray declaredEncoding(const QString &declaration)
+{
+    const QStringList parts = declaration.split(QLatin1String("encoding"));
+    const QString value = parts.at(1).trimmed().mid(1).trimmed(); // without "="
+    const QString quote = value.left(1);
+    const bool one = parts.size() == 2 && parts.at(1).trimmed().startsWith(QLatin1Char('='))
+        && (quote == QLatin1String("'") || quote == QLatin1String("\""));
+    return one ? value.section(quote, 1, 1).toUtf8() : QByteArray();
+}
+
+/**
+ * Puts U+FFFD in the place of what Qt would hand on as something else. An unpaired surrogate is no character: Qt makes
+ * it "?", which may end an instruction, and the DOM of Qt 6.11 crashes on it. A second byte order mark is an error; Qt
+ * 6 would drop it.
+ */
+static void replaceNoCharacters(QString &text)
+{
+    QChar *const begin = text.data();
+    QChar *const end = begin + text.size();
+    for (QChar *at = begin; at != end; ++at) {
+        if (at->isHighSurrogate() && at + 1 != end && at[1].isLowSurrogate()) {
+            ++at;
+        } else if (at->isSurrogate() || (at == begin && *at == QChar(QChar::ByteOrderMark))) {
+            *at = QChar::ReplacementCharacter;
         }
-        ++at;
     }
-    const bool complete = at >= 0 && at < text.size();
-    *end = complete ? at + 1 : -1;
-    return complete ? encoding.toUtf8() : QByteArray();
-}
-#else
-/**
- * What stands between the first two quotation marks, of whichever kind, after the first "encoding" in whatever begins
- * with "<?xml"; empty when there is none. The reader decodes its input anew and starts over.
- */
-static QByteArray declaredEncoding(const QString &text, qint64 *)
-{
-    const int end = text.indexOf(QLatin1Char('>'));
-    int at = text.indexOf(QLatin1String("encoding"));
-    if (at < 0) {
-        return QByteArray();
-    }
-    while (at < end && !isQuote(text.at(at).unicode())) {
-        ++at;
-    }
-    const int value = ++at;
-    while (at < end && !isQuote(text.at(at).unicode())) {
-        ++at;
-    }
-    return text.mid(value, qMax(0, at - value)).toLatin1();
-}
-#endif
-
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-static bool isKnown(const QByteArray &encoding)
-{
-    return QStringDecoder(encoding.constData()).isValid();
 }
 
-static QString decodeFrom(const QByteArray &encoding, const QByteArray &bytes)
+std::optional<QByteArray> decode(const QByteArray &bytes)
 {
-    return QStringDecoder(encoding.constData())(bytes);
-}
-#else
-static bool isKnown(const QByteArray &encoding)
-{
-    return QTextCodec::codecForName(encoding);
-}
-
-static QString decodeFrom(const QByteArray &encoding, const QByteArray &bytes)
-{
-    return QTextCodec::codecForName(encoding)->toUnicode(bytes);
-}
-#endif
-
-Encoding::Encoding(const QByteArray &input)
-    : bytes(input)
-    , name(detectEncoding(input))
-{
-    if (isUtf8() && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
-        return;
+    QByteArray encoding = detectEncoding(bytes);
+    const bool utf8 = isUtf8(encoding);
+    if (utf8 && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
+        return std::nullopt;
     }
-    const QString beginning = decode(qMin<qint64>(bytes.size(), longestDeclaration));
-    if (!beginning.startsWith(QLatin1String("<?xml"))) {
-        return;
-    }
-    const QByteArray declared = declaredEncoding(beginning, &continuation);
-    if (isKnown(declared)) {
-        name = declared; // as it is: Qt 5 knows some names in one letter case only
+    QString declaration = decodeAs(encoding, bytes.left(1024));
+    if (!declaration.startsWith(QLatin1String("<?xml"))) {
+        declaration.clear();
+    } else if (const auto length = declaration.indexOf(QLatin1Char('>')) + 1) {
+        declaration.truncate(length);
+        encoding = declaration.contains(QLatin1String("encoding")) ? declaredEncoding(declaration) : encoding;
     } else {
-        continuation = qMin<qint64>(continuation, 0);
+        encoding.clear();
     }
-}
-
-qint64 Encoding::byteOffset(qint64 index) const
-{
-    // The fewest that decode to so much: what ends before that place decodes to less, what ends behind it to more.
-    qint64 few = 0;
-    qint64 enough = bytes.size();
-    while (few < enough) {
-        const qint64 middle = few + (enough - few) / 2;
-        if (decode(middle).size() < index) {
-            few = middle + 1;
-        } else {
-            enough = middle;
-        }
+    if (utf8 && isUtf8(encoding)) {
+        return std::nullopt;
     }
-    return enough;
-}
-
-QString Encoding::decode(qint64 size) const
-{
-    return decodeFrom(name, QByteArray::fromRawData(bytes.constData(), int(size)));
+    QString text = decodeAs(encoding, bytes);
+    if (!text.startsWith(declaration)) {
+        text = declaration;
+    }
+    replaceNoCharacters(text);
+    return text.toUtf8();
 }

@@ -6,13 +6,24 @@
 
 #include <QtCore/QByteArray>
 
+#include <optional>
+
 /**
- * How many of @p bytes the XML reader may be handed: all of them, or those before the first place where a limit of
- * SmilParser::Limit is exceeded. Cut off there, the document is always incomplete, so that the reader reports that.
+ * The text of @p bytes that are not UTF-8, decoded by their byte order mark, their first character or their XML
+ * declaration, as UTF-8; none for what is UTF-8. The XML reader is handed that text, not the bytes, so that it cannot
+ * read another text than was scanned.
  *
- * The reader's memory, stack and time are not bounded by the size of its input; within the limits they are. What is
- * malformed is passed on, because the reader stops at its first error.
+ * A declaration that contradicts itself or the bytes, that names no encoding Qt knows, or that does not end within the
+ * first 1024 bytes is all that there is of its document.
  */
-qint64 harmlessSize(const QByteArray &bytes);
+std::optional<QByteArray> decode(const QByteArray &bytes);
+
+/**
+ * How much of a text the XML reader may be handed: all of it, or what precedes the first place where a limit of
+ * SmilParser::Limit is exceeded. Cut off there, the document is always incomplete, and the reader reports that.
+ *
+ * The reader's memory, stack and time are not bounded by the size of its input; within the limits they are.
+ */
+qint64 harmlessSize(const QByteArray &utf8);
 
 #endif

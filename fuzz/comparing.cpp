@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+// Compares what a host sees of a document with what the XML reader alone makes of it: the same within the limits, and
+// an error beyond them. The guard is part of this program too, which asks it where a limit is exceeded.
+
+#include "grammar.h"
+
+#include "smilparser/parse/guard/guard.h"
+
+bool MMSLogger::qdebugEnabled = false;
+
+static void require(bool holds, const char *what, const QByteArray &input, const QString &told, const QString &expected)
+{
+    if (!holds) {
+        fprintf(stderr, "%s %s\n", what, input.left(4000).toPercentEncoding(" <>'\"=/?!&;[]").constData());
+        fprintf(stderr, "%s\n%s\n", qPrintable(told.left(2000)), qPrintable(expected.left(2000)));
+        abort();
+    }
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray input = documentOf(data, size, 16384);
+    const QString told = toldByLibrary(input);
+    const std::optional<QByteArray> decoded = decode(input);
+    const QByteArray text = decoded.value_or(input);
+    const QByteArray harmless = text.left(harmlessSize(text));
+    // What is left of a document with an odd declaration is that alone.
+    const bool odd = decoded && text.startsWith("<?xml") && text.indexOf('>') + 1 >= text.size();
+    if (odd || harmless.size() < text.size()) {
+        // Behind the root element, Qt 5 takes these two for the end of the document.
+        const bool ended = harmless.endsWith("\xef\xbf\xbe") || harmless.endsWith("\xef\xbf\xbf");
+        require(ended || told.contains(QStringLiteral("WFail to parse")), "Beyond the limits, and no error:", input,
+                told, QString());
+    } else if (!decoded || !text.contains("\xef\xbf\xbd")) { // readers report unknown characters in their own ways
+        const QString expected = toldByReaderAlone(input);
+        require(told == expected, "Not what the reader alone gives:", input, told, expected);
+    }
+    return 0;
+}

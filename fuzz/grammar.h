@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_GRAMMAR_H
+#define SMILPARSER_GRAMMAR_H
+
+#include "tests/support.h"
+
+#include <vector>
+
+struct Piece {
+    QByteArray text; ///< in which "#" becomes a number that no other "#" of the same tag has
+    int levels = 0; ///< that it opens
+};
+
+/** @p text divided at each "~". */
+inline QByteArrayList divided(const char *text)
+{
+    return QByteArray(text).split('~');
+}
+
+/** What keeps a document well formed, wherever it stands inside of an element. */
+inline const std::vector<Piece> &contents()
+{
+    static const std::vector<Piece> all = [] {
+        std::vector<Piece> pieces;
+        for (const QByteArray &text :
+             divided("<x>~<x>~</x>~</x>~<x/>~<x/>~<x></x>~t~\n~ ~\xc3\xa9~\xf0\x9f\x8c\x8a~<!---->~<!-- <x>' -->~"
+                     "<![CDATA[]]>~<![CDATA[</x>]]>~<?p?>~<?p <x>\"?>~&a;~&\xc3\xa9;~&lt;~&#65;~>~'~"
+                     "<par/>~<seq/>~<img src='a' region=\"b\"/>~<par dur='2s'><text src='c'/></par>")) {
+            pieces.push_back({text, text == "<x>" ? 1 : text == "</x>" ? -1 : 0});
+        }
+        return pieces;
+    }();
+    return all;
+}
+
+inline const QByteArrayList &attributes()
+{
+    static const QByteArrayList all = divided(" a=''~ a#=''~ aa#='b'~a=''~a#=''~ab=\"\"~ a='>'~ b=\"/>\"~ a='&lt;'~ "
+                                              "a='&a;'~ #=''~\n b = 't'~ dur='5s'~ src=''");
+    return all;
+}
+
+/** What is no XML, or none there, or beyond the limits. */
+inline const QByteArrayList &oddities()
+{
+    static const QByteArrayList all = [] {
+        QByteArrayList list = divided(
+            "<~>~/>~<x~</x~</smil>~='~\"~ a='~ a=\"~ c='<'~<!--~-->~--~<![CDATA[~]]>~<?p ~?>~<!~<!x ~<!DOCTYPE "
+            "smil>~[~]>~"
+            "<!DOCTYPE smil [<!ENTITY a 'x'>]>~&~;~&b~&@;~&\xc8\xa0;~&#x0;~&#xfffe;~%p;~\x01~\xef\xbf\xbe~\xef\xbf\xbf~"
+            "\xef\xbf\xbd~\xed\xa0\x80~\xef\xbb\xbf~\xe2~\xff~\x80~<?xml version='1.0'?>~<x a='>~ encoding='GBK'");
+        list << QByteArray(1, '\0') << QByteArray(1000, 'n');
+        return list;
+    }();
+    return all;
+}
+
+inline QByteArray numbered(const QByteArray &text)
+{
+    QByteArray result;
+    int number = 0;
+    for (const char c : text) {
+        number = c == '<' ? 0 : number;
+        result += c == '#' ? QByteArray::number(number++, 36) : QByteArray(1, c);
+    }
+    return result;
+}
+
+/** What precedes the elements of a document, by the bits of @p kind. */
+inline QByteArray prologue(uint8_t declared, uint8_t type)
+{
+    static const QByteArrayList encodings =
+        divided("~~~UTF-8~ISO-8859-1~GBK~UTF-7~ISO-2022-JP~UTF-16~UTF-16LE~UTF-16BE~"
+                "UTF-32~IBM037~US-ASCII~windows-1251~utf8~x~' encoding='GBK");
+    static const QByteArrayList types =
+        divided("~~~<!DOCTYPE smil>~<!DOCTYPE smil SYSTEM 'u>['>~<!DOCTYPE smil PUBLIC \"p\" 'u'>~"
+                "<!DOCTYPE smil [<!ENTITY a '<x>'>]>~<!DOCTYPE smil SYSTEM 'u' []>");
+    const QByteArray encoding = encodings.at(declared % encodings.size());
+    return (encoding.isEmpty() ? encoding : "<?xml version='1.0' encoding='" + encoding + "'?>")
+        + types.at(type % types.size()) + "<smil><head/><body>";
+}
+
+/**
+ * A document of about @p longest characters at most out of a fuzzer's bytes, whose mutations are then those of the
+ * grammar. After the encoding and the prologue, each byte is one of contents(), one of attributes() that is put so
+ * often into the tag before as the next byte says, one of oddities(), or repeats what precedes it. What is open is
+ * closed.
+ */
+inline QByteArray documentOf(const uint8_t *data, size_t size, int longest)
+{
+    if (size < 3) {
+        return QByteArray();
+    }
+    QByteArray text = prologue(data[1], data[2]);
+    int level = 0;
+    struct Start {
+        int place;
+        int level;
+    };
+    std::vector<Start> starts = {
+        {int(text.size()), 0}
+    };
+    for (size_t i = 3; i < size; ++i) {
+        const uint8_t byte = data[i];
+        const int next = i + 1 < size ? data[i + 1] : 0;
+        const int room = longest - int(text.size());
+        if (byte >= 0xd0) {
+            // As many of the last pieces as the byte says, so often as the next one does; they are one piece then.
+            starts.resize(starts.size() - qMin<size_t>(byte & 15, starts.size() - 1));
+            const QByteArray last = text.mid(starts.back().place);
+            const int levels = level - starts.back().level;
+            int times = last.isEmpty() ? 0 : qMin(1 << (next % 20), qMax(0, room) / int(last.size()));
+            times = levels < 0 ? qMin(times, level / -levels)
+                : levels > 0   ? qMin(times, 600 / levels)
+                               : times; // just too deep
+            text += last.repeated(times);
+            level += times * levels;
+            ++i;
+        } else if (byte >= 0xc0) {
+            starts.push_back({int(text.size()), level});
+            text += oddities().at(next % oddities().size());
+            ++i;
+        } else if (byte >= 0x80 && text.endsWith('>')) {
+            const QByteArray attribute = attributes().at(byte % attributes().size());
+            text.insert(text.size() - (text.endsWith("/>") ? 2 : 1),
+                        attribute.repeated(qMin(next % 80, qMax(0, room) / int(attribute.size()))));
+            ++i;
+        } else {
+            const Piece &piece = contents().at(byte % contents().size());
+            if (level + piece.levels >= 0) {
+                starts.push_back({int(text.size()), level});
+                text += piece.text;
+                level += piece.levels;
+            }
+        }
+    }
+    text += QByteArray("</x>").repeated(level) + "</body></smil>";
+    text = numbered(text);
+    const int kind = data[0] % 16; // most are UTF-8
+    return kind < 7 ? text
+        : kind == 7 ? "\xef\xbb\xbf" + text
+                    : wide(QString::fromUtf8(text.constData(), int(text.size())), kind & 1 ? 4 : 2, kind & 2, kind & 4);
+}
+
+#endif
