@@ -266,13 +266,14 @@ class SMILPARSER_EXPORT SmilParser
 public:
     /**
      * Bounds on what is read. An ordinary message is nowhere near them. parse() takes a document that exceeds one for
-     * XML that is not well formed and ends there; SECURITY.md says why, and what it costs without them.
+     * XML that is not well formed and ends there, and so it does with a document type that declares anything ("[").
+     * SECURITY.md says why, and what reading costs without them.
      */
     enum Limit {
         MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
-        MaxMeanDepth = 32, ///< levels that a character is nested at on average; it counts as one of 128 Ki at least
-        MaxAttributes = 64, ///< attributes of an element
-        MaxName = 4096 ///< length of a name, as QString::size() counts it
+        MaxMeanDepth = 32, ///< levels around a byte of UTF-8, on average; a document counts as 128 KiB at least
+        MaxAttributes = 64, ///< attributes of an element, those of equal names too
+        MaxName = 4096 ///< length of a name, as QString::size() counts it, whatever the encoding
     };
 
     /**
