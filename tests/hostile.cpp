@@ -240,7 +240,7 @@ void Hostile::references_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("readByQt5");
     QTest::addColumn<bool>("readByQt6");
-    // Nothing can declare them within the limits. Qt 5 leaves them out, and so does Qt 6 where a file might do so.
+    // Nothing can declare them within the limits. Qt 5 reads on, and so does Qt 6 where a file might declare them.
     QTest::newRow("content") << QStringLiteral("<smil><head/><body>&a;</body></smil>") << true << false;
     QTest::newRow("value") << QStringLiteral("<smil><head title='&a;'/><body/></smil>") << true << false;
     const QString type = QStringLiteral("<!DOCTYPE smil SYSTEM 'u'>");
