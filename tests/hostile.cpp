@@ -24,6 +24,7 @@ private Q_SLOTS:
     void characters_data();
     void characters();
     void surrogates();
+    void namesBeyondLatin1();
     void references_data();
     void references();
     void generated();
@@ -121,7 +122,7 @@ void Hostile::encodings()
     QFETCH(QByteArray, flat);
     QFETCH(Encode, encode);
     const QByteArray start = "<!DOCTYPE smil SYSTEM ']>[<x>'><smil><head/><body>";
-    check(start + open.repeated(300) + QByteArray("<x>").repeated(210) + "\xb6<x>", encode);
+    check(start + open.repeated(200) + QByteArray("<x>").repeated(310) + "\xb6<x>", encode);
     check(start + flat.repeated(600) + "</body></smil>", encode);
     SmilParser parser(encode("<smil><head/><body/></smil>"));
     QString error;
@@ -154,11 +155,14 @@ void Hostile::declarations_data()
     row("empty", "<?xml version='1.0' encoding=''?>", bytes, true);
     row("two", "<?xml version='1.0' encoding='UTF-8' encoding='GBK'?>", bytes, true);
     row("within another value", "<?xml version=' encoding=' encoding='GBK'?>", bytes, true);
-    row("without quotation marks", "<?xml version='1.0' encoding=UTF-8?>", bytes, true);
-    row("without an equals sign", "<?xml version='1.0' encoding 'UTF-8'?>", bytes, true);
+    row("without quotation marks", "<?xml version='1.0' encoding=xUTF-8x standalone='UTF-7'?>", bytes, true);
+    row("no declaration, in UTF-16", "<!-- encoding=\"GBK\" -->", utf16, false);
     row("not what the bytes are", "<?xml version='1.0' encoding='UTF-16'?>", bytes, true);
     row("EBCDIC in ASCII", "<?xml version='1.0' encoding='IBM037'?>", bytes, true);
     row("UTF-8 in UTF-16", "<?xml version='1.0' encoding='UTF-8'?>", utf16, true);
+    // Qt 6 alone takes bytes that are not of the encoding for an error.
+    row("bytes that are not of it", "<?xml version='1.0' encoding='UTF8'?><!--\xe9-->", bytes,
+        QT_VERSION >= QT_VERSION_CHECK(6, 0, 0));
     row("1024 bytes", "<?xml version='1.0'" + QByteArray(1003, ' ') + "?>", bytes, false);
     row("1025 bytes", "<?xml version='1.0'" + QByteArray(1004, ' ') + "?>", bytes, true);
 }
@@ -168,7 +172,7 @@ void Hostile::declarations()
     QFETCH(QByteArray, declaration);
     QFETCH(Encode, encode);
     QFETCH(bool, odd);
-    const QByteArray message = encode(declaration + "<smil><head title='\xc3\xa9'/><body/></smil>");
+    const QByteArray message = encode(declaration + "<smil><head title='a'/><body/></smil>");
     const QString told = read(message);
     QCOMPARE(isRefused(told), odd);
     if (!odd) {
@@ -232,7 +236,25 @@ void Hostile::surrogates()
     QCOMPARE(title(message.arg(QChar(0xdf0a))), QString(QChar(QChar::ReplacementCharacter)));
     QVERIFY(title(message.arg(pair) + lone).isNull());
     const QString mark(QChar(QChar::ByteOrderMark));
+    QCOMPARE(title(message.arg(mark)), mark);
     QVERIFY(title(mark + message).isNull()); // the second one, which Qt 6 would drop
+}
+
+// A name counts as many units of UTF-16, whatever it takes in UTF-8. Past 4096, Qt 6.4 would go on behind the quotation
+// mark, where the library saw it begin a value.
+void Hostile::namesBeyondLatin1()
+{
+    const QString text = QStringLiteral("<smil><head/><body><x %1%2/></body></smil>");
+    const QString three(QChar(0x4e00));
+    const QString four = QString(QChar(0xd835)) + QChar(0xdc8f);
+    const QString value = QStringLiteral("=''");
+    for (const QString &character : {three, four}) {
+        const QString longest = character.repeated(4096 / character.size());
+        QCOMPARE(isRefused(read(text.arg(longest, value).toUtf8())),
+                 isRefused(toldByReaderAlone(text.arg(longest, value).toUtf8())));
+        QVERIFY(isRefused(read(text.arg(longest + QLatin1Char('a'), QStringLiteral("\" =''")).toUtf8())));
+        QVERIFY(isRefused(read(wide(text.arg(longest + QLatin1Char('a'), QStringLiteral("\" =''")), 2, false, true))));
+    }
 }
 
 void Hostile::references_data()
@@ -248,6 +270,10 @@ void Hostile::references_data()
         << type + QStringLiteral("<smil><head/><body>&a;</body></smil>") << true << true;
     QTest::newRow("value, with a file") << type + QStringLiteral("<smil><head title='&a;'/><body/></smil>") << true
                                         << true;
+    // A letter that the DOM of Qt 6.11 does not know, and crashes on.
+    const bool known = !QDomDocument().createEntityReference(QString(QChar(0x220))).isNull();
+    QTest::newRow("new letter") << type + QStringLiteral("<smil><head/><body>&%1;</body></smil>").arg(QChar(0x220))
+                                << true << known;
     QTest::newRow("outside") << type + QStringLiteral("&a;<smil/>") << false << false;
 }
 
@@ -257,7 +283,6 @@ void Hostile::references()
     QFETCH(bool, readByQt5);
     QFETCH(bool, readByQt6);
     const QString told = read(text.toUtf8());
-    QCOMPARE(told, toldByReaderAlone(text.toUtf8()));
     QCOMPARE(!isRefused(told), QT_VERSION < QT_VERSION_CHECK(6, 0, 0) ? readByQt5 : readByQt6);
 }
 

@@ -39,12 +39,12 @@ static bool isUtf8(const QByteArray &encoding)
     return qstricmp(encoding.constData(), "UTF-8") == 0;
 }
 
-/** Null when Qt does not know the encoding, or there is none. */
+/** Null when Qt does not know the encoding. */
 static QString decodeAs(const QByteArray &encoding, const QByteArray &bytes)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
     QStringDecoder decoder(encoding.constData());
-    if (encoding.isEmpty() || !decoder.isValid()) {
+    if (!decoder.isValid()) {
         return QString();
     }
     QString text = decoder(bytes);
@@ -59,15 +59,20 @@ static QString decodeAs(const QByteArray &encoding, const QByteArray &bytes)
 #endif
 }
 
-/** Null when the declaration states anything but one encoding. */
-static QByteArray declaredEncoding(const QString &declaration)
+/** The encoding that an XML declaration states, or @p detected when it states none; null when it cannot be told. */
+static QByteArray declaredEncoding(const QString &declaration, const QByteArray &detected)
 {
     const QStringList parts = declaration.split(QLatin1String("encoding"));
-    const QString value = parts.at(1).trimmed().mid(1).trimmed(); // without "="
+    if (declaration.isEmpty() || parts.size() > 2) {
+        return QByteArray();
+    }
+    if (parts.size() == 1) {
+        return detected;
+    }
+    const QString value = parts.at(1).trimmed().mid(1).trimmed(); // behind the "="
     const QString quote = value.left(1);
-    const bool one = parts.size() == 2 && parts.at(1).trimmed().startsWith(QLatin1Char('='))
-        && (quote == QLatin1String("'") || quote == QLatin1String("\""));
-    return one ? value.section(quote, 1, 1).toUtf8() : QByteArray();
+    const bool quoted = quote == QLatin1String("'") || quote == QLatin1String("\"");
+    return quoted ? value.section(quote, 1, 1).toUtf8() : QByteArray();
 }
 
 /**
@@ -80,8 +85,8 @@ static void replaceNoCharacters(QString &text)
     QChar *const begin = text.data();
     QChar *const end = begin + text.size();
     for (QChar *at = begin; at != end; ++at) {
-        if (at->isHighSurrogate() && at + 1 != end && at[1].isLowSurrogate()) {
-            ++at;
+        if (at->isHighSurrogate() && at[1].isLowSurrogate()) {
+            ++at; // at the end of the text, what follows is its final U+0000
         } else if (at->isSurrogate() || (at == begin && *at == QChar(QChar::ByteOrderMark))) {
             *at = QChar::ReplacementCharacter;
         }
@@ -95,22 +100,14 @@ std::optional<QByteArray> decode(const QByteArray &bytes)
     if (utf8 && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
         return std::nullopt;
     }
-    QString declaration = decodeAs(encoding, bytes.left(1024));
-    if (!declaration.startsWith(QLatin1String("<?xml"))) {
-        declaration.clear();
-    } else if (const auto length = declaration.indexOf(QLatin1Char('>')) + 1) {
-        declaration.truncate(length);
-        encoding = declaration.contains(QLatin1String("encoding")) ? declaredEncoding(declaration) : encoding;
-    } else {
-        encoding.clear();
+    const QString beginning = decodeAs(encoding, bytes.left(1024));
+    if (beginning.startsWith(QLatin1String("<?xml"))) {
+        encoding = declaredEncoding(beginning.left(beginning.indexOf(QLatin1Char('>')) + 1), encoding);
     }
     if (utf8 && isUtf8(encoding)) {
         return std::nullopt;
     }
     QString text = decodeAs(encoding, bytes);
-    if (!text.startsWith(declaration)) {
-        text = declaration;
-    }
     replaceNoCharacters(text);
     return text.toUtf8();
 }

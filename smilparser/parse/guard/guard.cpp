@@ -14,36 +14,24 @@ static const char *find(const char *begin, const char *end, char c)
     return found ? static_cast<const char *>(found) : end;
 }
 
+static QString toText(const char *begin, const char *end)
+{
+    return QString::fromUtf8(begin, end - begin);
+}
+
 static bool endsName(char c)
 {
     return uchar(c) <= '[' && std::memchr("\t\n\r \"&'/;<=>?[", c, 14);
 }
 
-/** As QString::size() counts: what takes four bytes in UTF-8 makes two. */
-static qint64 length(const char *begin, const char *end)
-{
-    return std::count_if(begin, end, [](char c) { return (c & 0xc0) != 0x80; })
-        + std::count_if(begin, end, [](char c) { return uchar(c) >= 0xf0; });
-}
-
-// The reader of Qt 5 takes U+FFFE and U+FFFF for marks of its own, and drops what follows, or part of it. Other readers
-// stop there, because XML does not allow them. So nothing behind the first one is handed on.
-static const char *endOfCharacters(const char *begin, const char *end)
-{
-    for (const char *at = begin; (at = find(at, end, '\xef')) != end; ++at) {
-        if (end - at > 2 && at[1] == '\xbf' && uchar(at[2]) >= 0xbe) {
-            return at + 3;
-        }
-    }
-    return end;
-}
-
-// The DOM of Qt 6.11 crashes on a reference by what it does not take for a name. Its tables are older than QChar's.
+// A reference by anything else crashes Qt 6.11, whose DOM has no node for it. Its tables of letters are older than
+// QChar's.
 static bool isXmlName(const QString &name)
 {
     const auto canBegin = [](QChar c) { return c.isLetter() || c == QLatin1Char('_') || c == QLatin1Char(':'); };
     const auto canFollow = [&](QChar c) {
-        return canBegin(c) || c.isDigit() || c.isMark() || c == QLatin1Char('.') || c == QLatin1Char('-');
+        return canBegin(c) || c.isDigit() || c.isMark() || c == QLatin1Char('.') || c == QLatin1Char('-')
+            || c == QChar(0xb7);
     };
     return canBegin(name.at(0)) && std::all_of(name.begin(), name.end(), canFollow)
         && !QDomDocument().createEntityReference(name).isNull();
@@ -56,16 +44,17 @@ namespace
  * of XML for that: where markup ends, and what is nested in what. It does not look for errors: behind the first one the
  * reader has stopped, and the scan goes on in vain.
  *
- * A function that returns bool moves the place past what it is named for; false stops the scan where it is.
+ * A function that returns bool moves the place past what it is named for, or returns false: then the scan stops where
+ * it is, at a limit or at the end.
  */
 class Scanner
 {
 public:
     Scanner(const char *text, qint64 size)
         : begin(text)
-        , end(endOfCharacters(text, text + size))
+        , end(text + size)
         , at(text)
-        , mostNesting(SmilParser::MaxMeanDepth * qMax<qint64>(size, 128 * 1024))
+        , mostNesting(SmilParser::MaxMeanDepth * qMax<qint64>(size, 64 * 1024))
     {
     }
 
@@ -81,7 +70,7 @@ public:
             at = find(at, ampersand, '<');
             nesting += level * (at - start);
             skipPlainTags(ampersand);
-            if (at == end || (level > 0 && nesting > mostNesting)) {
+            if (at == end || nesting > mostNesting) {
                 break;
             }
             start = at;
@@ -131,12 +120,16 @@ private:
     {
         if (startsWith("<?")) {
             at += 2;
-            return name() && skipPast("?>", 0);
+            return name() && skipPast("?>");
         }
-        return startsWith("<!--")     ? skipPast("-->", 4)
-            : startsWith("<![CDATA[") ? skipPast("]]>", 9)
-            : startsWith("<!DOCTYPE") ? documentType()
-                                      : tag();
+        if (startsWith("<!--")) {
+            at += 4;
+            return skipPast("-->");
+        }
+        if (startsWith("<![CDATA[")) {
+            return skipPast("]]>");
+        }
+        return startsWith("<!DOCTYPE") ? documentType() : tag();
     }
 
     bool tag()
@@ -146,13 +139,10 @@ private:
             return false;
         }
         int attributes = 0;
-        for (at += closing ? 2 : 1; name();) {
-            if (at == end || *at == '<') {
-                return true;
-            }
+        for (++at; name() && at != end;) {
             const char c = *at++;
             if (c == '>') {
-                level += closing ? (level > 0 ? -1 : 0) : (at[-2] == '/' ? 0 : 1);
+                level += closing ? -1 : (at[-2] == '/' ? 0 : 1);
                 return true;
             }
             if ((c == '"' || c == '\'') && (++attributes > SmilParser::MaxAttributes || !value(c))) {
@@ -164,31 +154,27 @@ private:
 
     bool value(char quote)
     {
-        for (;;) {
-            at = std::find_if(at, end, [quote](char c) { return c == quote || c == '&'; });
-            if (at == end || *at == quote) {
-                at += at != end;
+        while ((at = std::find_if(at, end, [quote](char c) { return c == quote || c == '&'; })) != end) {
+            if (*at == quote) {
+                ++at;
                 return true;
             }
             if (!reference()) {
                 return false;
             }
         }
+        return false;
     }
 
     bool documentType()
     {
-        for (at += 9; name();) {
-            if (at == end || *at == '[') {
-                return at == end;
-            }
+        for (++at; name() && at != end && *at != '[';) {
             const char c = *at++;
             if (c == '>') {
                 return true;
             }
-            if (c == '"' || c == '\'') {
-                at = find(at, end, c);
-                at += at != end;
+            if ((c == '"' || c == '\'') && !skipPast(c == '"' ? "\"" : "'")) {
+                return false;
             }
         }
         return false;
@@ -205,8 +191,7 @@ private:
             return false;
         }
         // With the "&" before it, U+FEFF at the beginning of the name is not taken for a byte order mark.
-        if (at == end || at == start || *at != ';'
-            || isXmlName(QString::fromUtf8(start - 1, int(at - start) + 1).mid(1))) {
+        if (at == end || at == start || *at != ';' || isXmlName(toText(start - 1, at).mid(1))) {
             return true;
         }
         at = start;
@@ -218,19 +203,19 @@ private:
     {
         const char *const start = at;
         at = std::find_if(at, end, endsName);
-        if (at - start <= SmilParser::MaxName || length(start, at) <= SmilParser::MaxName) {
+        if (at - start <= SmilParser::MaxName || toText(start, at).size() <= SmilParser::MaxName) {
             return true;
         }
         at = start;
         return false;
     }
 
-    bool skipPast(const char *ending, int from)
+    bool skipPast(const char *ending)
     {
         const char *const past = ending + std::strlen(ending);
-        at = std::search(at + from, end, ending, past);
+        at = std::search(at, end, ending, past);
         at += at != end ? past - ending : 0;
-        return true;
+        return at != end;
     }
 
     bool startsWith(const char *text) const
