@@ -35,8 +35,8 @@
  */
 
 /**
- * A size, position or duration: a number and the unit it was written in. Values are never converted between units.
- * The default is the invalid measure: not #valid, #NoUnit, 0.
+ * A size, position or duration: a number and the unit it was written in. Values are never converted between units, but
+ * for convertClock(), which makes seconds of all. The default is the invalid measure: not #valid, #NoUnit, 0.
  */
 class SMILPARSER_EXPORT SmilUnit
 {
@@ -107,7 +107,7 @@ public:
      * has: what is too small becomes 0.
      *
      * @return whether @p text is a clock value, and not beyond the range of a double. If not, also when it is null or
-     * empty, nothing is changed.
+     * empty, nothing is changed. A host that makes a measure of it stores this in #valid.
      *
      * Cost: linear in the length of the text.
      */

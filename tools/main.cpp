@@ -86,8 +86,7 @@ static void setUp(QCommandLineParser &parser, const Command *command)
                                  command->name + QLatin1Char(' ') + QLatin1String(command->arguments));
     if (command->kind == Kind::Show || command->kind == Kind::Storyboard) {
         parser.addOption(
-            {QStringLiteral("plain"),
-             QStringLiteral("Show what a host reads without options: no durations but those that end in s.")});
+            {QStringLiteral("plain"), QStringLiteral("Show durations as a host reads them without options.")});
     }
     if (command->kind == Kind::Render) {
         parser.addOption({QStringLiteral("keep"),
