@@ -23,10 +23,14 @@ int main()
     const QByteArray bytes = file.open(stdin, QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     //! [read]
     SmilParser parser(bytes);
+    SmilParser::Outcome outcome;
     QString error;
     int line = 0;
     int column = 0;
-    const SmilDocument &message = parser.parse(&error, &line, &column);
+    const SmilDocument &message = parser.parse(SmilParser::ClockDurations, &outcome, &error, &line, &column);
+    if (outcome == SmilParser::NotWellFormed) {
+        qWarning() << error << "at" << line << column;
+    }
     for (const SmilNode &slide : message.body.root.children) {
         qInfo() << "slide," << slide.dur.toString();
         for (const SmilRef &ref : slide.refs) {
@@ -34,5 +38,5 @@ int main()
         }
     }
     //! [read]
-    return error.isEmpty() ? 0 : 1;
+    return outcome == SmilParser::Complete ? 0 : 1;
 }

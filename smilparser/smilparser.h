@@ -8,6 +8,7 @@
 
 #include <QtCore/QBuffer>
 #include <QtCore/QByteArray>
+#include <QtCore/QFlags>
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtXml/QDomDocument>
@@ -34,8 +35,8 @@
  */
 
 /**
- * A size, position or duration: a number and the unit it was written in. Values are never converted between units.
- * The default is the invalid measure: not #valid, #NoUnit, 0.
+ * A size, position or duration: a number and the unit it was written in. Values are never converted between units, but
+ * for convertClock(), which makes seconds of all. The default is the invalid measure: not #valid, #NoUnit, 0.
  */
 class SMILPARSER_EXPORT SmilUnit
 {
@@ -87,6 +88,30 @@ public:
      * Cost: linear in the length of the text.
      */
     bool convert(const QString &text);
+
+    /**
+     * Reads a SMIL clock value from @p text into #unit, which becomes #Sec, and #value, in seconds; #valid is neither
+     * read nor changed. Most phones write durations in this way: "5000ms", which convert() does not understand. A
+     * clock value is one of these, where D and F stand for any number of digits, at least one:
+     *
+     * | Written              | Is                        | For example                             |
+     * |----------------------|---------------------------|-----------------------------------------|
+     * | D:MM:SS or D:MM:SS.F | hours:minutes:seconds     | "1:30:00" is 5400 s                     |
+     * | MM:SS or MM:SS.F     | minutes:seconds           | "1:30" is 90 s, "00:02.50" is 2.5 s     |
+     * | D or D.F             | seconds                   | "5" is 5 s                              |
+     * | the same and a unit  | "h", "min", "s" or "ms"   | "1.5min" is 90 s, "5000ms" is 5 s       |
+     *
+     * MM and SS are one or two digits, 59 at most. Digits are those of ASCII. There is no sign and no exponent, and the
+     * units are in lower case. Blanks, tabs, carriage returns and line feeds around the whole are ignored; inside of it
+     * there are none. The number of seconds is the double that is nearest to what is written, however many digits that
+     * has: what is too small becomes 0.
+     *
+     * @return whether @p text is a clock value, and not beyond the range of a double. If not, also when it is null or
+     * empty, nothing is changed. A host that makes a measure of it stores this in #valid.
+     *
+     * Cost: linear in the length of the text.
+     */
+    bool convertClock(const QString &text);
 
     /**
      * The measure as text: the number in its shortest form of at most six significant digits, then the unit's suffix.
@@ -153,7 +178,7 @@ public:
 
     QList<SmilNode> children; ///< the nested "par" and "seq" elements, in document order
     int type; ///< a #Type; any other kind is rendered as "par"
-    SmilUnit dur; ///< attribute "dur"; invalid when absent or not understood ("5000ms", "indefinite")
+    SmilUnit dur; ///< attribute "dur"; invalid when absent or not understood; "5000ms" takes SmilParser::ClockDurations
     QList<SmilRef> refs; ///< the media directly inside this element, in document order
 };
 Q_DECLARE_TYPEINFO(SmilNode, Q_MOVABLE_TYPE);
@@ -205,7 +230,8 @@ Q_DECLARE_TYPEINFO(SmilRegion, Q_MOVABLE_TYPE);
 
 /**
  * Where things are shown, element "layout". All four measures are invalid by default. Rendering writes one
- * "root-layout" whose size is the *top* layout's: a host that wants the size it read kept copies it over.
+ * "root-layout" whose size is the *top* layout's: a host that wants the size it read kept copies it over, or reads with
+ * SmilParser::KeepRootSize.
  */
 class SMILPARSER_EXPORT SmilLayout
 {
@@ -276,6 +302,36 @@ public:
         MaxName = 4096 ///< length of a name, as QString::size() counts it, whatever the encoding
     };
 
+    /** What parse() does beyond reading the message as it is written; combined with "|". */
+    enum ReadOption {
+        AsWritten = 0, ///< nothing
+
+        /**
+         * A "dur" of "body", "par" or "seq" that is a clock value is read as that, by SmilUnit::convertClock(), into
+         * SmilNode::dur: "5000ms" is 5 s, "1.5min" is 90 s, and "5" is 5 s, not 5 pixels. One that is none is read as
+         * without this option: "12px" is 12 pixels, "1e3s" is 1000 s, and "indefinite" is not valid.
+         */
+        ClockDurations = 1,
+
+        /**
+         * SmilLayout::topLayoutWidth is SmilLayout::rootLayoutWidth where no valid one was read, and likewise the
+         * height, so that getContent() writes the size that was read. The root layout's own stay. Where neither is
+         * valid, nothing changes.
+         */
+        KeepRootSize = 2
+    };
+    /** Any of #ReadOption together. */
+    Q_DECLARE_FLAGS(ReadOptions, ReadOption)
+
+    /** What became of the input: the rows of the table at parse(), the last one first. */
+    enum Outcome {
+        Complete = 0, ///< "smil", "head" and "body" were found and read
+        NotWellFormed = 1, ///< it is empty, no XML that Qt reads, beyond a #Limit, or has been read before
+        NoSmil = 2, ///< there is no "smil" root element
+        NoHead = 3, ///< there is no "head" in "smil"
+        NoBody = 4 ///< there is a "head" in "smil", but no "body"
+    };
+
     /**
      * A parser of all that one QIODevice::readAll() on @p device gives: from its position to its end. The device is
      * not opened, moved back, closed or kept. Null, not open (Qt warns of that) or at its end: no input. Cost: one copy
@@ -310,6 +366,27 @@ public:
      * Cost: what QDomDocument::setContent() costs for the input, and a walk linear in the number of its nodes.
      */
     SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);
+
+    /**
+     * The same with @p options: the same warnings and debug lines, the same use of @p errorMsg, @p errorLine and
+     * @p errorColumn, and the same model but for what the options say. With #AsWritten it is what parse() without
+     * options gives; bits that are no #ReadOption are ignored. For messages from phones:
+     * @code
+     * SmilParser::Outcome outcome;
+     * SmilDocument &message = parser.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize, &outcome);
+     * @endcode
+     *
+     * What is read with both options, written, and read so again has the same top layout and the same durations on
+     * every "par" and "seq", to the six digits that SmilUnit::toString() writes.
+     *
+     * @p outcome may be null; if not, what became of the input is written to it in every case.
+     *
+     * Cost: that of parse(). #ClockDurations adds a second walk over the children of "body", "par" and "seq", linear in
+     * their number and in the length of the durations, with one call level per level of nesting. The DOM is not
+     * changed, nor are the operations that take an element: those read as they ever do.
+     */
+    SmilDocument &parse(ReadOptions options, Outcome *outcome = nullptr, QString *errorMsg = nullptr,
+                        int *errorLine = nullptr, int *errorColumn = nullptr);
 
     /**
      * Reads the first "head" child of @p smil, then the first "body" child, into the model, in this order whichever
@@ -383,5 +460,6 @@ private:
     SmilDocument document;
     QDomDocument domDocument;
 };
+Q_DECLARE_OPERATORS_FOR_FLAGS(SmilParser::ReadOptions)
 
 #endif

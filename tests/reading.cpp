@@ -3,6 +3,8 @@
 
 #include "support.h"
 
+#include <memory>
+
 class Reading : public QObject
 {
     Q_OBJECT
@@ -10,6 +12,9 @@ class Reading : public QObject
 private Q_SLOTS:
     void inputs_data();
     void inputs();
+    void options_data();
+    void options();
+    void deepDurations();
     void devices_data();
     void devices();
     void walks_data();
@@ -33,6 +38,21 @@ static QString sent(const QString &letters, int lines = 3)
         all += letter.isUpper() && --lines < 0 ? QString() : texts.value(letter);
     }
     return all;
+}
+
+/** No outcome, so that one that is not written shows. */
+static const auto none = SmilParser::Outcome(7);
+
+/** What the last of these letters says of the input. */
+static SmilParser::Outcome outcomeOf(const QString &letters)
+{
+    const QMap<QChar, SmilParser::Outcome> outcomes = {
+        {QLatin1Char('B'), SmilParser::Complete},
+        {QLatin1Char('r'), SmilParser::NoSmil  },
+        {QLatin1Char('h'), SmilParser::NoHead  },
+        {QLatin1Char('b'), SmilParser::NoBody  },
+    };
+    return outcomes.value(letters.back(), SmilParser::NotWellFormed);
 }
 
 /** Hands the element that @p xml is, or a null one, to the walk for its name; into @p node when there is one. */
@@ -80,8 +100,8 @@ void Reading::inputs()
         model = QStringLiteral("- - 'old' / par 9s [par -]");
     }
     QString warning;
-    // Every choice of null pointers, and debugging switched off after any number of lines.
-    for (int given = 7; given >= 0; --given) {
+    // Every choice of null pointers, with and without an outcome, and debugging switched off after any number of lines.
+    for (int given = 15; given >= 0; --given) {
         SmilParser parser(input.toUtf8());
         QVERIFY(walk(parser, QStringLiteral("<head title='old'/>")));
         QVERIFY(walk(parser, QStringLiteral("<body dur='9s'><par/></body>")));
@@ -90,9 +110,15 @@ void Reading::inputs()
         int column = -8;
         const int lines = given % 4;
         Messages actual(lines);
-        const SmilDocument &result =
-            parser.parse(given & 1 ? &error : nullptr, given & 2 ? &line : nullptr, given & 4 ? &column : nullptr);
-        if (given == 7) {
+        QString *const errorMsg = given & 1 ? &error : nullptr;
+        int *const errorLineAt = given & 2 ? &line : nullptr;
+        int *const errorColumn = given & 4 ? &column : nullptr;
+        SmilParser::Outcome outcome = none;
+        const SmilDocument &result = given & 8
+            ? parser.parse(SmilParser::AsWritten, &outcome, errorMsg, errorLineAt, errorColumn)
+            : parser.parse(errorMsg, errorLineAt, errorColumn);
+        QCOMPARE(int(outcome), int(given & 8 ? outcomeOf(messages) : none));
+        if (given == 15) {
             warning = sent(QStringLiteral("x")).arg(error).arg(line).arg(column);
         }
         QCOMPARE(actual.take(), malformed ? warning : sent(messages, lines));
@@ -106,6 +132,70 @@ void Reading::inputs()
         QCOMPARE(&parser.parse(), &result);
         QCOMPARE(actual.take(), noInput);
         QCOMPARE(Outline::of(result), model);
+    }
+}
+
+void Reading::options_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("model");
+    addCases("options.txt");
+}
+
+void Reading::options()
+{
+    QFETCH(QString, input);
+    QFETCH(QString, options);
+    SmilParser::ReadOptions given;
+    given.setFlag(SmilParser::ClockDurations, options.contains(QLatin1String("ClockDurations")));
+    given.setFlag(SmilParser::KeepRootSize, options.contains(QLatin1String("KeepRootSize")));
+    Messages messages;
+    SmilParser plain(input.toUtf8());
+    SmilParser::Outcome expected = none;
+    plain.parse(SmilParser::AsWritten, &expected);
+    const QString told = messages.take();
+
+    Messages again;
+    SmilParser parser(input.toUtf8());
+    SmilParser::Outcome outcome = none;
+    const SmilDocument &result = parser.parse(given, &outcome);
+    QTEST(Outline::of(result), "model");
+    QCOMPARE(again.take(), told);
+    QCOMPARE(int(outcome), int(expected));
+    // There is no more input: the model stays, and the outcome says why.
+    parser.parse(given, &outcome);
+    QCOMPARE(int(outcome), int(SmilParser::NotWellFormed));
+    QTEST(Outline::of(result), "model");
+}
+
+/** As deep as parse() reads, each level with a duration of its own, on the stack that SECURITY.md promises to do with.
+ */
+void Reading::deepDurations()
+{
+    const int levels = SmilParser::MaxDepth - 2;
+    QString text = QStringLiteral("<smil><head/><body>");
+    for (int i = 1; i <= levels; ++i) {
+        text += QStringLiteral("<par dur='%1ms'>").arg(i);
+    }
+    text += QStringLiteral("</par>").repeated(levels) + QStringLiteral("</body></smil>");
+    QStringList durations;
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        SmilParser parser(text.toUtf8());
+        const SmilDocument &message = parser.parse(SmilParser::ClockDurations);
+        for (const SmilNode *node = &message.body.root; !node->children.isEmpty();) {
+            node = &node->children.first();
+            durations << node->dur.toString();
+        }
+    }));
+#ifndef __SANITIZE_ADDRESS__ // which takes several times the stack
+    thread->setStackSize(512 * 1024);
+#endif
+    thread->start();
+    thread->wait();
+    QCOMPARE(durations.size(), levels);
+    for (int i = 1; i <= levels; ++i) {
+        QCOMPARE(durations.at(i - 1), QStringLiteral("%1s").arg(i / 1000.0));
     }
 }
 

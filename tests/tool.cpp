@@ -75,15 +75,18 @@ void Tool::samples_data()
             QTest::addRow("%s %s", command, sample) << QString::fromLatin1(command) << QString::fromLatin1(sample);
         }
     }
+    QTest::newRow("show --plain holiday") << QStringLiteral("show --plain") << QStringLiteral("holiday");
+    QTest::newRow("render --keep holiday") << QStringLiteral("render --keep") << QStringLiteral("holiday");
 }
 
 void Tool::samples()
 {
     QFETCH(QString, command);
     QFETCH(QString, sample);
-    const Outcome outcome = smiltool({command, sample + QStringLiteral(".smil")});
+    const QStringList words = command.split(QLatin1Char(' '));
+    const Outcome outcome = smiltool(words + QStringList(sample + QStringLiteral(".smil")));
     QCOMPARE(outcome.err, QString());
-    QCOMPARE(outcome.out, golden(sample + QLatin1Char('.') + command));
+    QCOMPARE(outcome.out, golden(sample + QLatin1Char('.') + words.join(QString())));
     QCOMPARE(outcome.status, command == QStringLiteral("check") ? 1 : 0);
 }
 
@@ -128,6 +131,8 @@ void Tool::badUsage_data()
     QTest::newRow("no file") << QStringList{QStringLiteral("show")};
     QTest::newRow("unknown option") << QStringList{QStringLiteral("show"), QStringLiteral("--loud"),
                                                    QStringLiteral("-")};
+    QTest::newRow("option of another command")
+        << QStringList{QStringLiteral("show"), QStringLiteral("--keep"), QStringLiteral("-")};
 }
 
 void Tool::badUsage()
@@ -187,17 +192,28 @@ void Tool::findings_data()
                             << arguments << lines;
     };
     const QString repeated =
-        QStringLiteral("-:2: not understood: dur of par \"1ms\", \"2ms\" (3 times) [unread-measure]\n");
+        QStringLiteral("-:2: not understood: dur of par \"1m\", \"2m\" (3 times) [unread-measure]\n");
     row("nothing", "<body><par><img src='a' region='A'/></par></body></smil>", QString());
     row("an unknown region, and one nothing plays in", "<body><par>\n<img src='a' region='B'/></par></body></smil>",
         QStringLiteral(
             "-:1: nothing plays in region: \"A\" [unused-region]\n-:3: no such region: \"B\" [unknown-region]\n"));
     row("no src", "<body><par><img region='A'/></par></body></smil>",
         QStringLiteral("-:2: no src: img [missing-src]\n"));
-    row("said once",
-        "<body><par dur='1ms'><img src='a' region='A'/></par><par dur='2ms'/><par dur='1ms'/></body></smil>", repeated);
-    row("ignored", "<body><par dur='1ms'><img src='a' region='A'/></par></body></smil>", QString(),
+    row("said once", "<body><par dur='1m'><img src='a' region='A'/></par><par dur='2m'/><par dur='1m'/></body></smil>",
+        repeated);
+    row("ignored", "<body><par dur='1m'><img src='a' region='A'/></par></body></smil>", QString(),
         {QStringLiteral("--ignore"), QStringLiteral("unread-measure")});
+    row("durations of phones",
+        "<body><par dur='1ms'><img src='a' region='A'/></par>\n<par dur='1:30'/><par dur='5'/><par "
+        "dur='5s'/></body></smil>",
+        QStringLiteral("-:2: not understood without ClockDurations: dur of par \"1ms\", \"1:30\" (2 times) "
+                       "[clock-duration]\n"
+                       "-:3: pixels without ClockDurations: dur of par \"5\" [clock-duration]\n"));
+    row("durations of phones ignored", "<body><par dur='1ms'><img src='a' region='A'/></par></body></smil>", QString(),
+        {QStringLiteral("--ignore"), QStringLiteral("clock-duration")});
+    row("duration of the body", "<body dur='1ms'><par><img src='a' region='A'/></par></body></smil>",
+        QStringLiteral("-:2: not understood without ClockDurations: dur of body \"1ms\" [clock-duration]\n"
+                       "-:2: lost when written back: dur of body \"1ms\" [lost-in-body]\n"));
     row("any letter case", "<body><PAR><IMG src='a' region='A'/></PAR></body></smil>", QString());
     row("an empty timeline", "<body/></smil>",
         QStringLiteral("-:1: nothing plays in region: \"A\" [unused-region]\n-:2: nothing plays [empty-timeline]\n"));
@@ -227,6 +243,9 @@ void Tool::drawsToFile()
     QDomDocument dom;
     QVERIFY(dom.setContent(readFile(board)));
     QCOMPARE(dom.documentElement().tagName(), QStringLiteral("svg"));
+    const QString holiday = QStringLiteral("holiday.smil");
+    const QString plain = smiltool({QStringLiteral("storyboard"), QStringLiteral("--plain"), holiday}).out;
+    QVERIFY2(plain.contains(QLatin1String("2 (not stated)")), qPrintable(plain));
     QCOMPARE(smiltool({QStringLiteral("storyboard"), message, QStringLiteral("-o"), message}).status, 1);
     QCOMPARE(readFile(message), before);
     QCOMPARE(readFile(QStringLiteral(EXAMPLES_DIR "/../docs/storyboard.svg")),
@@ -250,8 +269,13 @@ void Tool::examples()
     const Outcome rendered = smiltool({QStringLiteral("render"), QStringLiteral("-")}, composed.out.toUtf8());
     // The root layout's size is written, and not written back.
     QCOMPARE(rendered.out, golden(QStringLiteral("compose.render")));
-    const Outcome listed = run(QStringLiteral(EXAMPLES_BIN_DIR "/read"), {}, composed.out.toUtf8());
+    const QString read = QStringLiteral(EXAMPLES_BIN_DIR "/read");
+    const Outcome listed = run(read, {}, composed.out.toUtf8());
     QCOMPARE(listed.err, golden(QStringLiteral("read.err")));
+    QCOMPARE(listed.status, 0);
+    const Outcome ofPhone = run(read, {}, "<smil><head/><body><par dur='5000ms'/></body></smil>");
+    QCOMPARE(ofPhone.err, QStringLiteral("slide, \"5s\"\n"));
+    QCOMPARE(run(read, {}, "<smil><head/></smil>").status, 1);
 
     const QString readme = readFile(QStringLiteral(EXAMPLES_DIR "/../README.md"));
     static const QRegularExpression snippet(QStringLiteral("//! \\[(\\w+)\\]\n(.*)\n *//! \\[\\1\\]\n"),

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void edits_data();
     void edits();
     void again();
+    void kept_data();
+    void kept();
 };
 
 static const QString plain = QStringLiteral("<smil><head><layout><root-layout/></layout></head><body/></smil>");
@@ -136,6 +138,33 @@ void Writing::again()
     QCOMPARE(canonical(earlier), plain);
     QCOMPARE(canonical(root), plain);
     QCOMPARE(canonical(dom), QString(plain).replace(QStringLiteral("<body/>"), QStringLiteral("<body><par/></body>")));
+}
+
+void Writing::kept_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("model");
+    addCases("options.txt");
+}
+
+/** Read with both options, written, and read so again: the same top layout, and the same durations of slides. */
+void Writing::kept()
+{
+    QFETCH(QString, input);
+    const SmilParser::ReadOptions both = SmilParser::ClockDurations | SmilParser::KeepRootSize;
+    Messages messages;
+    SmilParser first(input.toUtf8());
+    SmilDocument model = first.parse(both);
+    SmilParser second(first.getContent().toByteArray());
+    const SmilDocument &again = second.parse(both);
+    // What the body itself holds is not written, and the size is written as the root layout's.
+    model.body.root.dur = SmilUnit();
+    model.body.root.refs.clear();
+    SmilLayout &layout = model.header.layout;
+    layout.rootLayoutWidth = layout.topLayoutWidth;
+    layout.rootLayoutHeight = layout.topLayoutHeight;
+    QCOMPARE(Outline::of(again), Outline::of(model));
 }
 
 QTEST_GUILESS_MAIN(Writing)

@@ -37,6 +37,7 @@ struct Region {
 }
 
 static const QString unreadMeasure = QStringLiteral("unread-measure");
+static const QString clockDuration = QStringLiteral("clock-duration");
 static const QString lostRootSize = QStringLiteral("lost-root-size");
 static const QString movedTopSize = QStringLiteral("moved-top-size");
 static const QString lostInBody = QStringLiteral("lost-in-body");
@@ -51,8 +52,8 @@ static const QString emptyTimeline = QStringLiteral("empty-timeline");
 
 QStringList findingNames()
 {
-    return {unreadMeasure, lostRootSize,  movedTopSize, lostInBody,      lostElement, lostAttribute,
-            changedOrder,  unknownRegion, unusedRegion, duplicateRegion, missingSrc,  emptyTimeline};
+    return {unreadMeasure, clockDuration, lostRootSize, movedTopSize,    lostInBody, lostElement,  lostAttribute,
+            changedOrder,  unknownRegion, unusedRegion, duplicateRegion, missingSrc, emptyTimeline};
 }
 
 static QStringList words(const char *text)
@@ -199,16 +200,30 @@ private:
         for (const QString &attribute : std::as_const(names)) {
             const QString value = element.attribute(attribute);
             if (place.measures.contains(attribute)) {
-                if (!SmilUnit(value).valid) {
-                    add(unreadMeasure, element, QStringLiteral("not understood: %1 of %2").arg(attribute, name),
-                        shown(value));
-                } else if (name == QLatin1String("body")) {
-                    add(lostInBody, element, QStringLiteral("lost when written back: dur of body"), shown(value));
-                }
+                checkMeasure(element, name, attribute, value);
             } else if (!place.texts.contains(attribute)) {
                 add(lostAttribute, element,
                     QStringLiteral("lost when written back: %1 of %2").arg(printable(attribute.left(40)), name));
             }
+        }
+    }
+
+    void checkMeasure(const QDomElement &element, const QString &name, const QString &attribute, const QString &value)
+    {
+        const SmilUnit plain(value);
+        const bool clock = attribute == QLatin1String("dur") && SmilUnit().convertClock(value);
+        const QString what = QStringLiteral("%1 of %2").arg(attribute, name);
+        if (clock && plain.unit != SmilUnit::Sec) {
+            add(clockDuration, element,
+                (plain.valid ? QStringLiteral("pixels without ClockDurations: ")
+                             : QStringLiteral("not understood without ClockDurations: "))
+                    + what,
+                shown(value));
+        } else if (!plain.valid) {
+            add(unreadMeasure, element, QStringLiteral("not understood: ") + what, shown(value));
+        }
+        if (name == QLatin1String("body") && (clock || plain.valid)) {
+            add(lostInBody, element, QStringLiteral("lost when written back: ") + what, shown(value));
         }
     }
 
@@ -233,7 +248,7 @@ private:
                 QStringLiteral("written back as the root-layout's size: topLayout"));
         } else if (layout.rootLayoutWidth.valid || layout.rootLayoutHeight.valid) {
             add(lostRootSize, element.firstChildElement(QStringLiteral("root-layout")),
-                QStringLiteral("lost when written back: size of root-layout"));
+                QStringLiteral("lost when written back without KeepRootSize: size of root-layout"));
         }
     }
 

@@ -84,6 +84,14 @@ static void setUp(QCommandLineParser &parser, const Command *command)
     }
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A SMIL part; - is standard input."),
                                  command->name + QLatin1Char(' ') + QLatin1String(command->arguments));
+    if (command->kind == Kind::Show || command->kind == Kind::Storyboard) {
+        parser.addOption(
+            {QStringLiteral("plain"), QStringLiteral("Show durations as a host reads them without options.")});
+    }
+    if (command->kind == Kind::Render) {
+        parser.addOption({QStringLiteral("keep"),
+                          QStringLiteral("Keep the size of the root-layout, and all durations, in seconds.")});
+    }
     if (command->kind == Kind::Storyboard) {
         parser.addOption({
             {QStringLiteral("o"), QStringLiteral("output")},
@@ -127,6 +135,18 @@ static bool drawTo(const QString &name, const Message &message)
     return false;
 }
 
+static SmilParser::ReadOptions readOptions(const Command &command, const QCommandLineParser &options)
+{
+    const bool shows = command.kind == Kind::Show || command.kind == Kind::Storyboard;
+    if (shows && !options.isSet(QStringLiteral("plain"))) {
+        return SmilParser::ClockDurations;
+    }
+    if (command.kind == Kind::Render && options.isSet(QStringLiteral("keep"))) {
+        return SmilParser::ClockDurations | SmilParser::KeepRootSize;
+    }
+    return SmilParser::AsWritten;
+}
+
 /** Returns whether all went well and, for a check, nothing was found. */
 static bool run(const Command &command, const QCommandLineParser &options, const Message &message, QIODevice &out)
 {
@@ -157,7 +177,7 @@ static int run(const Command &command, const QCommandLineParser &options)
     const QStringList files = options.positionalArguments();
     for (const QString &file : files) {
         Message message;
-        if (!readMessage(file, message) || !run(command, options, message, out)) {
+        if (!readMessage(file, readOptions(command, options), message) || !run(command, options, message, out)) {
             status = Failure;
         }
         written = out.flush() && written; // before the next file's problems

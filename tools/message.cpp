@@ -46,7 +46,7 @@ static bool readFile(const QString &name, QByteArray &bytes)
     return true;
 }
 
-bool readMessage(const QString &file, Message &message)
+bool readMessage(const QString &file, SmilParser::ReadOptions options, Message &message)
 {
     qInstallMessageHandler(handleMessage);
     message.file = file;
@@ -55,12 +55,13 @@ bool readMessage(const QString &file, Message &message)
     }
     lastWarning.clear();
     SmilParser parser(message.bytes);
+    SmilParser::Outcome outcome;
     QString error;
-    int line = -1;
-    int column = -1;
-    message.document = parser.parse(&error, &line, &column);
+    int line = 0;
+    int column = 0;
+    message.document = parser.parse(options, &outcome, &error, &line, &column);
 
-    const bool wellFormed = line == -1;
+    const bool wellFormed = outcome != SmilParser::NotWellFormed;
     if (!wellFormed) {
         complain(QStringLiteral("%1:%2:%3: %4").arg(file).arg(line).arg(column).arg(error));
     } else if (!lastWarning.isEmpty()) {

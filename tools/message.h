@@ -14,10 +14,10 @@ struct Message {
 };
 
 /**
- * Reads the message part @p file ("-" is standard input) into @p message. If it cannot be read, is not well formed or
- * lacks smil, head or body, says so in one line on standard error and returns false.
+ * Reads the message part @p file ("-" is standard input) into @p message, with the library's @p options. If it cannot
+ * be read, is not well formed or lacks smil, head or body, says so in one line on standard error and returns false.
  */
-bool readMessage(const QString &file, Message &message);
+bool readMessage(const QString &file, SmilParser::ReadOptions options, Message &message);
 
 /** Writes a line to standard error, as printable(). */
 void complain(const QString &text);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mmslogger.h"
+#include "options.h"
 #include "reader.h"
 
 #include <smilparser/smilparser.h>
@@ -36,12 +37,21 @@ SmilParser::SmilParser(const SmilDocument &model)
 
 SmilDocument &SmilParser::parse(QString *errorMsg, int *errorLine, int *errorColumn)
 {
+    return parse(AsWritten, nullptr, errorMsg, errorLine, errorColumn);
+}
+
+SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *errorMsg, int *errorLine,
+                                int *errorColumn)
+{
+    Outcome ownOutcome = NotWellFormed;
     QString ownMsg;
     int ownLine = 0;
     int ownColumn = 0;
+    Outcome &result = outcome ? *outcome : ownOutcome;
     QString *const msg = errorMsg ? errorMsg : &ownMsg;
     int *const line = errorLine ? errorLine : &ownLine;
     int *const column = errorColumn ? errorColumn : &ownColumn;
+    result = NotWellFormed;
     if (!readXml(buffer, domDocument, msg, line, column)) {
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", msg->toLocal8Bit().constData(), *line, *column);
         return document;
@@ -50,9 +60,18 @@ SmilDocument &SmilParser::parse(QString *errorMsg, int *errorLine, int *errorCol
     document = SmilDocument();
     QDomElement smil = domDocument.firstChildElement(QStringLiteral("smil"));
     if (smil.isNull()) {
+        result = NoSmil;
         qWarning("Fail to find SMIL document!");
+    } else if (parseSmilDocument(smil)) {
+        result = Complete;
     } else {
-        parseSmilDocument(smil);
+        result = smil.firstChildElement(QStringLiteral("head")).isNull() ? NoHead : NoBody;
+    }
+    if (result == Complete && options.testFlag(ClockDurations)) {
+        readClockDurations(smil.firstChildElement(QStringLiteral("body")), document.body.root);
+    }
+    if (options.testFlag(KeepRootSize)) {
+        keepRootSize(document.header.layout);
     }
     return document;
 }

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+// The public header alone, in the oldest language that each Qt allows and with a host's strictest options. It need only
+// compile.
+
+#include <smilparser/smilparser.h>
+
+#include <cstddef>
+
+void callWithoutOptions(SmilParser &parser);
+void callWithOptions(SmilParser &parser);
+
+/** What hosts may have written before there were options: with two ways to call parse(), none is ambiguous. */
+void callWithoutOptions(SmilParser &parser)
+{
+    QString error;
+    int line = 0;
+    int column = 0;
+    const std::nullptr_t none = nullptr;
+    parser.parse();
+    parser.parse(nullptr);
+    parser.parse(none);
+    parser.parse(NULL);
+    parser.parse(0);
+    parser.parse({});
+    parser.parse(&error);
+    parser.parse({}, {}, {});
+    parser.parse(0, 0, 0);
+    parser.parse(nullptr, nullptr);
+    parser.parse(nullptr, &line, &column);
+    parser.parse(&error, nullptr, &column);
+    parser.parse(&error, &line, &column);
+}
+
+void callWithOptions(SmilParser &parser)
+{
+    SmilParser::Outcome outcome;
+    QString error;
+    int line = 0;
+    int column = 0;
+    SmilParser::ReadOptions options = SmilParser::ClockDurations;
+    options |= SmilParser::KeepRootSize;
+    parser.parse(SmilParser::AsWritten);
+    parser.parse(SmilParser::ReadOptions(), nullptr, nullptr, nullptr, nullptr);
+    parser.parse({}, &outcome);
+    parser.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize, &outcome);
+    parser.parse(options, &outcome, &error, &line, &column);
+}
