@@ -297,7 +297,7 @@ public:
      */
     enum Limit {
         MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
-        MaxMeanDepth = 32, ///< levels around a byte of UTF-8, on average; a document counts as 64 KiB at least
+        MaxMeanDepth = 32, ///< levels around a byte of UTF-8, on average; a document counts as 128 KiB at least
         MaxAttributes = 64, ///< attributes of an element, those of equal names too
         MaxName = 4096 ///< length of a name, as QString::size() counts it, whatever the encoding
     };

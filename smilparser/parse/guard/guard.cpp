@@ -54,7 +54,7 @@ public:
         : begin(text)
         , end(text + size)
         , at(text)
-        , mostNesting(SmilParser::MaxMeanDepth * qMax<qint64>(size, 64 * 1024))
+        , mostNesting(SmilParser::MaxMeanDepth * qMax<qint64>(size, 128 * 1024))
     {
     }
 
