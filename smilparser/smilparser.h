@@ -363,6 +363,9 @@ public:
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *
+     * The model is the parser's. Of a parser that is a temporary, take a copy: after
+     * `const SmilDocument &model = SmilParser(bytes).parse();` the reference refers to nothing.
+     *
      * Cost: what QDomDocument::setContent() costs for the input, and a walk linear in the number of its nodes.
      */
     SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); } // its decimal comma must not matter
     void texts_data();
     void texts();
+    void leavesTheTextAlone();
     void oddKinds();
     void clocks_data();
     void clocks();
@@ -56,6 +57,18 @@ void Measures::texts()
     QTEST(QStringLiteral("%1 %2").arg(measure.unit).arg(measure.value, 0, 'g', 12), "expected");
     QCOMPARE(measure.toString(), printed);
     QCOMPARE(measure.toString().isNull(), printed.isNull());
+}
+
+// A text of raw data has nothing behind its last character, and ending it would copy it: into the host's constant.
+void Measures::leavesTheTextAlone()
+{
+    for (const char16_t *const digits : {u"12px", u"123456789", u"5", u"5000ms", u"1.5in"}) {
+        const std::u16string characters(digits);
+        const std::vector<QChar> unended(characters.begin(), characters.end());
+        const QString text = QString::fromRawData(unended.data(), int(unended.size()));
+        SmilUnit(text).toString();
+        QVERIFY2(text.constData() == unended.data(), qPrintable(QStringLiteral("copied: ") + text));
+    }
 }
 
 void Measures::oddKinds()

@@ -52,9 +52,15 @@ inline void addCases(const char *name)
 {
     QFile file(QFINDTESTDATA("cases/") + QLatin1String(name));
     QVERIFY(file.open(QIODevice::ReadOnly));
-    for (QByteArray line = file.readLine().trimmed(); !line.isEmpty(); line = file.readLine().trimmed()) {
-        QStringList texts = QString::fromUtf8(line.replace("\\n", "\n")).split(QStringLiteral(" | "));
-        QTestData &row = QTest::newRow(texts.takeFirst().toUtf8().constData());
+    QSet<QByteArray> names;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed().replace("\\n", "\n");
+        QStringList texts = QString::fromUtf8(line).split(QStringLiteral(" | "));
+        const QByteArray rowName = texts.takeFirst().toUtf8();
+        QVERIFY2(!texts.isEmpty() && !names.contains(rowName),
+                 "a line without a case, or a second case of its name: " + line);
+        names.insert(rowName);
+        QTestData &row = QTest::newRow(rowName.constData());
         for (const QString &text : std::as_const(texts)) {
             row << (text == QStringLiteral("~") ? QString() : text);
         }

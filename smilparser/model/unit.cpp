@@ -32,21 +32,24 @@ enum class Outcome { Read, NoNumber, Undecided };
 /** Reads up to nine digits and one suffix or none, as nearly all texts are, for a tenth of what readAny() takes. */
 static Outcome readPlain(const QString &text, SmilUnit &measure)
 {
-    const ushort *const begin = text.utf16();
-    const ushort *const end = begin + text.size();
-    const ushort *at = begin;
+    // Not utf16(): that would end a host's text that has no end of its own with one, in a copy or in place.
+    const QChar *const begin = text.constData();
+    const QChar *const end = begin + text.size();
+    const QChar *const limit = begin + qMin<qint64>(text.size(), 9);
+    const QChar *at = begin;
     int number = 0;
-    for (; at - begin < 9 && *at >= '0' && *at <= '9'; ++at) {
-        number = 10 * number + (*at - '0');
+    for (; at != limit && at->unicode() >= '0' && at->unicode() <= '9'; ++at) {
+        number = 10 * number + (at->unicode() - '0');
     }
     if (at == begin) {
         return Outcome::Undecided;
     }
-    if (*at == 'm') {
+    if (at != end && *at == QLatin1Char('m')) {
         return Outcome::NoNumber; // the milliseconds of many phones: no suffix begins with m, and no number contains it
     }
     for (const Suffix &suffix : suffixes) {
-        if (std::equal(at, end, suffix.text.begin(), suffix.text.end())) {
+        if (std::equal(at, end, suffix.text.begin(), suffix.text.end(),
+                       [](QChar a, char b) { return a == QLatin1Char(b); })) {
             measure.unit = suffix.unit;
             at = end;
             break;
