@@ -64,6 +64,8 @@ void Hostile::documents_data()
 {
     QTest::addColumn<QString>("text"); // "{3*a#}" stands for "a0a1a2"; it reads without what is between bars
     addCases("hostile.txt");
+    QTest::newRow("blanks in a tag") << QStringLiteral(
+        "<smil><head/><body><x{5000* }{5000*\t}{5000*\r}{5000*\n}a=''/></body></smil>");
 }
 
 void Hostile::documents()
@@ -124,6 +126,7 @@ void Hostile::encodings()
     const QByteArray start = "<!DOCTYPE smil SYSTEM ']>[<x>'><smil><head/><body>";
     check(start + open.repeated(200) + QByteArray("<x>").repeated(310) + "\xb6<x>", encode);
     check(start + flat.repeated(600) + "</body></smil>", encode);
+    check("<smil><head/><body>" + QByteArray("<x></x>").repeated(600) + "</body></smil>", encode);
     SmilParser parser(encode("<smil><head/><body/></smil>"));
     QString error;
     parser.parse(&error);
@@ -274,6 +277,12 @@ void Hostile::references_data()
     const bool known = !QDomDocument().createEntityReference(QString(QChar(0x220))).isNull();
     QTest::newRow("new letter") << type + QStringLiteral("<smil><head/><body>&%1;</body></smil>").arg(QChar(0x220))
                                 << true << known;
+    const QString accented = QStringLiteral("a%1").arg(QChar(0x301));
+    QTest::newRow("mark on a letter") << type + QStringLiteral("<smil><head/><body>&%1;</body></smil>").arg(accented)
+                                      << true << true;
+    QTest::newRow("byte order mark") << type
+            + QStringLiteral("<smil><head/><body>&%1a;</body></smil>").arg(QChar(0xfeff))
+                                     << false << false;
     QTest::newRow("outside") << type + QStringLiteral("&a;<smil/>") << false << false;
 }
 

@@ -91,9 +91,9 @@ private:
         const char *tag = at;
         qint64 depth = level;
         qint64 sum = nesting;
-        while (depth > 0 && ampersand - tag > 2 && tag[1] != '!' && tag[1] != '?') {
+        while (ampersand - tag > 2 && tag[1] != '!' && tag[1] != '?') {
             const char *const limit = ampersand - tag > longest ? tag + longest : ampersand;
-            const char *const close = find(tag + 2, limit - 1, '>');
+            const char *const close = find(tag, limit - 1, '>');
             const char *next = close + 1;
             while (next != limit && uchar(*next) <= ' ') {
                 ++next;
