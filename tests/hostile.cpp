@@ -195,8 +195,8 @@ void Hostile::characters_data()
     QTest::newRow("U+FFFF") << QString(QChar(0xffff)) << false;
 }
 
-// Characters that XML forbids. Nothing is hidden behind one: whether the reader stops there, goes on, or drops what
-// follows, which is what Qt 5 does at the last two, the library scans and hands on the same.
+// Characters that XML forbids. Nothing is hidden behind one: Qt 6 stops at each, Qt 5 reads the first two like any
+// other and takes the last two for the end of the document.
 void Hostile::characters()
 {
     QFETCH(QString, character);
@@ -216,13 +216,8 @@ void Hostile::characters()
             QVERIFY2(isRefused(read(encode(hidden))), qPrintable(place));
         }
     }
-    // What Qt 5 drops is the rest of the kilobyte it has read.
-    QVERIFY(isRefused(
-                read((body.arg(QStringLiteral("<x>").repeated(200) + character + QStringLiteral("</x>").repeated(200)))
-                         .toUtf8()))
-            != readHere);
-    QCOMPARE(read(body.arg(QString()).toUtf8() + character.toUtf8()),
-             toldByReaderAlone(body.arg(QString()).toUtf8() + character.toUtf8()));
+    const QByteArray behind = (body.arg(QString()) + character).toUtf8();
+    QCOMPARE(read(behind), toldByReaderAlone(behind));
 }
 
 // No characters either: Qt 6.4 and 6.8 make them "?", and Qt 6.11 crashes on them.
