@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
+#include "frames.h"
 #include "geometry.h"
+#include "svg.h"
 #include "text.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QMap>
-#include <QtCore/QXmlStreamWriter>
+
+#include <algorithm>
 
 // In units of the picture; a page is some 800 of them wide.
 static const double frameWidth = 184;
@@ -15,6 +18,7 @@ static const double frameHeight = 220;
 static const double margin = 16;
 static const int columns = 4;
 static const double lineHeight = 15;
+static const double narrowest = 80; // that enough of a long name still fits into
 static const int mostLines = 6; // below a frame
 
 static const char style[] = R"(
@@ -26,6 +30,7 @@ text { fill: currentColor; }
 .r0 { fill: #9ecae9; } .r1 { fill: #ffd08a; } .r2 { fill: #a8dba0; } .r3 { fill: #e2b3dd; } .r4 { fill: #f3b0a6; }
 .region { fill-opacity: 0.8; }
 .number { font-weight: bold; font-size: 13px; }
+.id { font-style: italic; }
 @media (prefers-color-scheme: dark) {
   svg { color: #e6eaf0; }
   .page { fill: #171b22; }
@@ -35,255 +40,197 @@ text { fill: currentColor; }
 }
 )";
 
-/** The name of what plays, with a sign for its kind. */
-static QString describe(const SmilRef &ref)
-{
-    static const char16_t signs[] = {u'\u00b6', u'\u25a3', u'\u266a', u'\u25b6', u'\u25c6'};
-    return QString(QChar(signs[ref.type])) + QLatin1Char(' ')
-        + (ref.src.isEmpty() ? QStringLiteral("?") : printable(ref.src.left(80)));
-}
-
-/** Adds to @p text what follows what in the node: "(a + b)" at once, "a → b" one after another. */
-static void describeOrder(const SmilNode &node, QString &text)
-{
-    const QString separator = node.type == SmilNode::Seq ? QStringLiteral(" \u2192 ") : QStringLiteral(" + ");
-    const auto begin = text.size();
-    const int enough = 300;
-    for (const SmilNode &child : node.children) {
-        if (text.size() > enough) {
-            return;
-        }
-        text += text.size() == begin ? QString() : separator;
-        text += QLatin1Char('(');
-        describeOrder(child, text);
-        text += QLatin1Char(')');
-    }
-    for (const SmilRef &ref : node.refs) {
-        if (text.size() > enough) {
-            return;
-        }
-        text += (text.size() == begin ? QString() : separator) + describe(ref);
-    }
-}
-
 namespace
 {
-/** What plays in one frame, by where. */
-struct Frame {
-    QMap<int, QStringList> inRegions; ///< by the region's index
+struct Label {
+    QRectF area;
+    QString text;
+    bool isId;
+};
+
+/** What is drawn for one frame. */
+struct Picture {
+    QMap<int, QStringList> inRegions; ///< the names of what plays, by the region's index
+    QList<Label> labels;
     QStringList below; ///< what has no place on the screen, and what follows what
 };
 
-class Board
+/** Where things are drawn: the regions of a layout, in units of the picture. */
+class Screen
 {
 public:
-    Board(const Message &message, QIODevice &device)
-        : layout(message.document.header.layout)
-        , nodes(message.document.body.root.children)
-        , root(rootSize(layout))
-        , scale(qMin(frameWidth / root.width(), frameHeight / root.height()))
-        , writer(&device)
+    explicit Screen(const SmilLayout &layout)
     {
-        for (int i = 0; i < layout.regions.size(); ++i) {
-            const QString &id = layout.regions.at(i).id;
-            if (!indexes.contains(id)) {
-                indexes.insert(id, i);
+        const QSizeF root = rootSize(layout);
+        const double scale = qMin(frameWidth / root.width(), frameHeight / root.height());
+        size = root * scale;
+        for (const SmilRegion &region : layout.regions) {
+            const QRectF whole = place(region, root);
+            if (!indexes.contains(region.id)) {
+                indexes.insert(region.id, int(areas.size()));
             }
-        }
-        for (const SmilNode &node : nodes) {
-            frames.append(frameOf(node));
-            lines = qMax(lines, qMin(mostLines, int(frames.last().below.size())));
-        }
-        writer.setAutoFormatting(true);
-        writer.setAutoFormattingIndent(1);
-    }
-
-    void draw(const QString &file)
-    {
-        const double cellHeight = root.height() * scale + (lines + 2) * lineHeight + margin;
-        const auto rows = (nodes.size() + columns - 1) / columns;
-        const double width = margin + qMin<double>(columns, qMax<double>(1, nodes.size())) * (frameWidth + margin);
-        const double height = margin + qMax<double>(1, rows) * cellHeight;
-        writer.writeStartDocument();
-        writer.writeStartElement(QStringLiteral("svg"));
-        writer.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
-        attribute("width", width);
-        attribute("height", height);
-        writer.writeAttribute(QStringLiteral("viewBox"), QStringLiteral("0 0 %1 %2").arg(width).arg(height));
-        writer.writeAttribute(QStringLiteral("role"), QStringLiteral("img"));
-        writer.writeAttribute(QStringLiteral("aria-labelledby"), QStringLiteral("title desc"));
-        writeNamed("title", QStringLiteral("Storyboard of %1").arg(printable(file)));
-        writeNamed("desc", summary());
-        writer.writeTextElement(QStringLiteral("style"), QLatin1String(style));
-        rectangle(QRectF(0, 0, width, height), QStringLiteral("page"));
-        if (nodes.isEmpty()) {
-            text(margin, 2 * lineHeight, QStringLiteral("Nothing plays."));
-        }
-        for (int i = 0; i < nodes.size(); ++i) {
-            drawFrame(i, QPointF(margin + i % columns * (frameWidth + margin), margin + i / columns * cellHeight));
-        }
-        writer.writeEndElement();
-        writer.writeEndDocument();
-    }
-
-private:
-    static QString duration(const SmilNode &node)
-    {
-        return node.dur.valid ? node.dur.toString() : QStringLiteral("not stated");
-    }
-
-    QString summary() const
-    {
-        QStringList all;
-        for (int i = 0; i < nodes.size(); ++i) {
-            QString order;
-            describeOrder(nodes.at(i), order);
-            all.append(QStringLiteral("%1 (%2): %3").arg(i + 1).arg(duration(nodes.at(i)), order));
-        }
-        return all.isEmpty() ? QStringLiteral("Nothing plays.") : all.join(QLatin1String("; "));
-    }
-
-    void gather(const SmilNode &node, Frame &frame) const
-    {
-        for (const SmilNode &child : node.children) {
-            gather(child, frame);
-        }
-        for (const SmilRef &ref : node.refs) {
-            const int region = ref.type == SmilRef::Audio ? -1 : indexes.value(ref.region, -1);
-            if (region >= 0 && !place(layout.regions.at(region), root).isEmpty()) {
-                frame.inRegions[region].append(describe(ref));
-            } else {
-                frame.below.append(describe(ref));
-            }
+            ids.append(elided(printable(shortened(region.id, 40)), frameWidth / 2));
+            areas.append(QRectF(whole.topLeft() * scale, whole.size() * scale));
         }
     }
 
-    Frame frameOf(const SmilNode &node) const
-    {
-        Frame frame;
-        gather(node, frame);
-        if (!node.children.isEmpty() || node.type == SmilNode::Seq) {
-            QString order;
-            describeOrder(node, order);
-            frame.below.append(wrapped(order));
-        } else if (node.refs.isEmpty()) {
-            frame.below.append(QStringLiteral("nothing plays"));
-        }
-        return frame;
-    }
-
-    void drawFrame(int index, const QPointF &corner)
-    {
-        const Frame &frame = frames.at(index);
-        writer.writeStartElement(QStringLiteral("g"));
-        writer.writeAttribute(QStringLiteral("transform"),
-                              QStringLiteral("translate(%1 %2)").arg(corner.x()).arg(corner.y()));
-        rectangle(QRectF(QPointF(), root * scale), QStringLiteral("screen"));
-        for (auto region = frame.inRegions.cbegin(); region != frame.inRegions.cend(); ++region) {
-            drawRegion(region.key(), region.value());
-        }
-        const double below = root.height() * scale;
-        startClip(QRectF(0, below, frameWidth, (lines + 1.5) * lineHeight));
-        writer.writeStartElement(QStringLiteral("text"));
-        writer.writeAttribute(QStringLiteral("y"), QString::number(1.2 * lineHeight));
-        writer.writeAttribute(QStringLiteral("class"), QStringLiteral("number"));
-        writer.writeCharacters(QStringLiteral("%1 \u00b7 %2").arg(index + 1).arg(duration(nodes.at(index))));
-        writer.writeEndElement();
-        writeLines(frame.below, lines, 2.3 * lineHeight, 0);
-        writer.writeEndElement();
-        writer.writeEndElement();
-    }
-
-    void drawRegion(int index, const QStringList &media)
-    {
-        const QRectF full = place(layout.regions.at(index), root);
-        const QRectF area(full.topLeft() * scale, full.size() * scale);
-        rectangle(area, QStringLiteral("region r%1").arg(index % 5));
-        startClip(area);
-        writeLines(media, int(area.height() / lineHeight), lineHeight, 4);
-        writer.writeEndElement();
-    }
-
-    /** Everything up to the end of the element that this starts is cut off at the edges of @p area. */
-    void startClip(const QRectF &area)
-    {
-        writer.writeStartElement(QStringLiteral("svg"));
-        attribute("x", area.x());
-        attribute("y", area.y());
-        attribute("width", area.width());
-        attribute("height", area.height());
-    }
-
-    void writeLines(const QStringList &all, int most, double y, double x)
-    {
-        const auto shown = all.size() > most ? most - 1 : all.size();
-        for (int i = 0; i < shown; ++i) {
-            text(x, y + i * lineHeight, all.at(i));
-        }
-        if (shown < all.size() && shown >= 0) {
-            text(x, y + shown * lineHeight, QStringLiteral("\u2026 %1 more").arg(all.size() - shown));
-        }
-    }
-
-    /** Lines of about the width of a frame. */
-    static QStringList wrapped(const QString &words)
-    {
-        const int width = 34;
-        QStringList result(QString{});
-        const QStringList all = words.split(QLatin1Char(' '));
-        for (const QString &word : all) {
-            if (!result.last().isEmpty() && result.last().size() + word.size() >= width) {
-                result.append(QString());
-            }
-            result.last() += (result.last().isEmpty() ? QString() : QStringLiteral(" ")) + word;
-        }
-        return result;
-    }
-
-    void rectangle(const QRectF &area, const QString &kind)
-    {
-        writer.writeEmptyElement(QStringLiteral("rect"));
-        attribute("x", area.x());
-        attribute("y", area.y());
-        attribute("width", area.width());
-        attribute("height", area.height());
-        writer.writeAttribute(QStringLiteral("class"), kind);
-    }
-
-    void text(double x, double y, const QString &line)
-    {
-        writer.writeStartElement(QStringLiteral("text"));
-        attribute("x", x);
-        attribute("y", y);
-        writer.writeCharacters(line);
-        writer.writeEndElement();
-    }
-
-    void writeNamed(const char *name, const QString &content)
-    {
-        writer.writeStartElement(QLatin1String(name));
-        writer.writeAttribute(QStringLiteral("id"), QLatin1String(name));
-        writer.writeCharacters(content);
-        writer.writeEndElement();
-    }
-
-    void attribute(const char *name, double value)
-    {
-        writer.writeAttribute(QLatin1String(name), QString::number(value));
-    }
-
-    const SmilLayout &layout;
-    const QList<SmilNode> &nodes;
-    const QSizeF root;
-    const double scale;
-    QHash<QString, int> indexes; ///< of the regions, by id
-    QList<Frame> frames;
-    int lines = 0;
-    QXmlStreamWriter writer;
+    QSizeF size;
+    QHash<QString, int> indexes; ///< of the first region with each id
+    QStringList ids;
+    QList<QRectF> areas;
 };
+}
+
+/** The name, cut to leave room for what is said of it, on a line below the frame. */
+static QString lineBelow(const QString &name, const QString &remark = QString())
+{
+    return elided(name, frameWidth - width(remark)) + remark;
+}
+
+static void sort(const SmilRef &ref, const Screen &screen, Picture &picture)
+{
+    const int region = screen.indexes.value(ref.region, -1);
+    const QString id = quoted(elided(shortened(ref.region, 40), frameWidth / 3));
+    if (ref.type == SmilRef::Audio || ref.region.isEmpty()) {
+        picture.below.append(lineBelow(describe(ref)));
+    } else if (region < 0) {
+        picture.below.append(lineBelow(describe(ref), QLatin1String(", no region ") + id));
+    } else if (screen.areas.at(region).isEmpty()) {
+        picture.below.append(lineBelow(describe(ref), QLatin1String(", off screen in ") + id));
+    } else {
+        picture.inRegions[region].append(describe(ref));
+    }
+}
+
+/** The first line of the region, from @p from on, that no other label takes; -1 when there is none. */
+static int freeLine(const QRectF &region, const QList<Label> &labels, int from, double length)
+{
+    for (int line = from; (line + 1) * lineHeight <= region.height(); ++line) {
+        const QRectF area(region.x(), region.y() + line * lineHeight, length, lineHeight);
+        const auto taken = [&area](const Label &label) { return label.area.intersects(area); };
+        if (std::none_of(labels.cbegin(), labels.cend(), taken)) {
+            return line;
+        }
+    }
+    return -1;
+}
+
+/** Writes the id and the names into the region where they fit. What does not is listed below the frame. */
+static void label(const QRectF &region, const QString &id, const QStringList &names, Picture &picture)
+{
+    const bool withId = !id.isEmpty() && (names.size() + 1) * lineHeight <= region.height();
+    const QStringList lines = withId ? QStringList(id) + names : names;
+    int next = 0;
+    for (int i = 0; i < lines.size(); ++i) {
+        const bool isId = withId && i == 0;
+        const QString text = region.width() < narrowest ? lines.at(i) : elided(lines.at(i), region.width() - 8);
+        const double length = width(text) + 8;
+        const bool fits = length <= region.width() && next >= 0;
+        const int line = fits ? freeLine(region, picture.labels, next, length) : -1;
+        if (line >= 0) {
+            picture.labels.append({QRectF(region.x(), region.y() + line * lineHeight, length, lineHeight), text, isId});
+            next = line + 1;
+        } else if (!isId) {
+            picture.below.append(lineBelow(lines.at(i), id.isEmpty() ? id : QLatin1String(" in ") + id));
+            next = -1; // names stay in order
+        }
+    }
+}
+
+/** The text in lines of the width of a frame. */
+static QStringList wrapped(const QString &text)
+{
+    QStringList lines(QString{});
+    const QStringList words = text.split(QLatin1Char(' '));
+    for (const QString &word : words) {
+        if (!lines.last().isEmpty() && width(lines.last() + word) + 4 > frameWidth) {
+            lines.append(QString());
+        }
+        lines.last() += (lines.last().isEmpty() ? QString() : QStringLiteral(" ")) + elided(word, frameWidth);
+    }
+    return lines;
+}
+
+static Picture pictureOf(const Frame &frame, const Screen &screen)
+{
+    Picture picture;
+    for (const SmilRef *const ref : frame.media) {
+        sort(*ref, screen, picture);
+    }
+    for (auto region = picture.inRegions.cbegin(); region != picture.inRegions.cend(); ++region) {
+        label(screen.areas.at(region.key()), screen.ids.at(region.key()), region.value(), picture);
+    }
+    if (frame.nested) {
+        picture.below += wrapped(frame.order);
+    } else if (frame.media.isEmpty()) {
+        picture.below.append(QStringLiteral("nothing plays"));
+    }
+    if (picture.below.size() > mostLines) {
+        const auto more = picture.below.size() - mostLines + 1;
+        picture.below = picture.below.mid(0, mostLines - 1) << QStringLiteral("\u2026 %1 more").arg(more);
+    }
+    return picture;
+}
+
+static void draw(Svg &svg, const Picture &picture, const Screen &screen, const QString &heading)
+{
+    svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
+    for (auto region = picture.inRegions.cbegin(); region != picture.inRegions.cend(); ++region) {
+        svg.rectangle(screen.areas.at(region.key()), QStringLiteral("region r%1").arg(region.key() % 5));
+    }
+    // After all regions, so that none hides a name in another.
+    for (const Label &label : picture.labels) {
+        svg.beginClip(label.area);
+        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.isId ? "id" : nullptr);
+        svg.endGroup();
+    }
+    const double lines = picture.below.size() + 1.5;
+    svg.beginClip(QRectF(0, screen.size.height(), frameWidth + margin / 2, lines * lineHeight));
+    svg.text(QPointF(0, 1.2 * lineHeight), heading, "number");
+    for (int i = 0; i < picture.below.size(); ++i) {
+        svg.text(QPointF(0, (2.3 + i) * lineHeight), picture.below.at(i));
+    }
+    svg.endGroup();
+}
+
+static QString summary(const QList<Frame> &frames)
+{
+    QStringList all;
+    for (const Frame &frame : frames) {
+        all.append(QStringLiteral("%1 (%2): %3").arg(all.size() + 1).arg(frame.dur, frame.order));
+    }
+    return all.isEmpty() ? QStringLiteral("Nothing plays.") : all.join(QLatin1String("; "));
 }
 
 void storyboard(const Message &message, QIODevice &out)
 {
-    Board(message, out).draw(message.file);
+    const Screen screen(message.document.header.layout);
+    const QList<Frame> frames = framesOf(message.document.body.root);
+    QList<Picture> pictures;
+    double lines = 0;
+    for (const Frame &frame : frames) {
+        pictures.append(pictureOf(frame, screen));
+        lines = qMax<double>(lines, pictures.last().below.size());
+    }
+    const double cellWidth = frameWidth + margin;
+    const double cellHeight = screen.size.height() + (lines + 2) * lineHeight + margin;
+    const auto count = qMax<qsizetype>(1, frames.size());
+    const auto rows = (count + columns - 1) / columns;
+    const QSizeF page(margin + qMin<double>(columns, count) * cellWidth, margin + rows * cellHeight);
+
+    Svg svg(out);
+    svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)), summary(frames), style);
+    svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
+    if (frames.isEmpty()) {
+        svg.text(QPointF(margin, 2 * lineHeight), QStringLiteral("Nothing plays."));
+    }
+    for (int i = 0; i < frames.size(); ++i) {
+        svg.beginGroup(QPointF(margin + i % columns * cellWidth, margin + i / columns * cellHeight));
+        draw(svg, pictures.at(i), screen, QStringLiteral("%1 \u00b7 %2").arg(i + 1).arg(frames.at(i).dur));
+        svg.endGroup();
+    }
+    if (frames.size() == mostFrames) {
+        svg.text(QPointF(margin, page.height() - 4), QStringLiteral("No more than %1 are drawn.").arg(mostFrames));
+    }
+    svg.end();
 }

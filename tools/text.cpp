@@ -3,9 +3,12 @@
 
 #include "text.h"
 
+#include <QtCore/QTextBoundaryFinder>
+
+#include <numeric>
 #include <string>
 
-static bool isHidden(uint c)
+static bool isObeyedOrHidden(char32_t c)
 {
     switch (QChar::category(c)) {
     case QChar::Other_Control:
@@ -14,8 +17,17 @@ static bool isHidden(uint c)
     case QChar::Separator_Paragraph:
         return true;
     default:
-        return false;
+        return QChar::isNonCharacter(c);
     }
+}
+
+/** Whether a joiner stands between two characters that show, as in Persian words and many emoji. */
+static bool joins(const std::u32string &text, size_t i)
+{
+    const auto shows = [&text](size_t at) {
+        return at < text.size() && !isObeyedOrHidden(text[at]) && !QChar::isSpace(text[at]);
+    };
+    return (text[i] == 0x200c || text[i] == 0x200d) && i > 0 && shows(i - 1) && shows(i + 1);
 }
 
 template<typename Escape>
@@ -24,8 +36,9 @@ static QString escape(const QString &text, Escape escaped)
     QString result;
     result.reserve(text.size());
     const std::u32string characters = text.toStdU32String();
-    for (const char32_t c : characters) {
-        result += isHidden(c) ? escaped(c) : QString::fromUcs4(&c, 1);
+    for (size_t i = 0; i < characters.size(); ++i) {
+        result += isObeyedOrHidden(characters[i]) && !joins(characters, i) ? escaped(characters[i])
+                                                                           : QString::fromUcs4(&characters[i], 1);
     }
     return result;
 }
@@ -38,7 +51,7 @@ QString printable(const QString &text)
 QString printableXml(const QString &text)
 {
     return escape(text, [](uint c) {
-        const bool allowed = c == '\t' || c == '\n' || c == '\r' || c >= 0x20;
+        const bool allowed = c == '\t' || c == '\n' || c == '\r' || (c >= 0x20 && c != 0xfffe && c != 0xffff);
         return c == '\n' ? QString(QLatin1Char('\n'))
             : allowed    ? QStringLiteral("&#x%1;").arg(c, 0, 16)
                          : QString(QChar(QChar::ReplacementCharacter));
@@ -50,4 +63,51 @@ QString quoted(const QString &text)
     QString escaped = text;
     escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
     return QLatin1Char('"') + printable(escaped) + QLatin1Char('"');
+}
+
+QString shortened(const QString &text, int most)
+{
+    if (text.size() <= most) {
+        return text;
+    }
+    const int end = most - 1 - (text.at(most - 2).isHighSurrogate() ? 1 : 0);
+    return text.left(end) + QChar(0x2026);
+}
+
+static double characterWidth(QChar c)
+{
+    if (QStringLiteral("ijl.,:;'|!()[] tfr-").contains(c)) {
+        return 4.5;
+    }
+    if (c.isSurrogate()) { // two of which are one sign
+        return 6;
+    }
+    const bool wide = c.unicode() >= 0x2000 || c == QLatin1Char('m') || c == QLatin1Char('w');
+    return wide ? 11 : c.isUpper() || !c.isLetterOrNumber() ? 8.5 : 7;
+}
+
+double width(const QString &text)
+{
+    return std::accumulate(text.cbegin(), text.cend(), 0.0,
+                           [](double sum, QChar c) { return sum + characterWidth(c); });
+}
+
+QString elided(const QString &text, double most)
+{
+    if (width(text) <= most) {
+        return text;
+    }
+    const auto dot = text.lastIndexOf(QLatin1Char('.'));
+    const QString end = QChar(0x2026) + (dot > 0 && text.size() - dot <= 6 ? text.mid(dot + 1) : QString());
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    auto kept = finder.position();
+    double used = width(end);
+    while (finder.toNextBoundary() > 0) {
+        used += width(text.mid(kept, finder.position() - kept));
+        if (used > most) {
+            break;
+        }
+        kept = finder.position();
+    }
+    return text.left(kept) + end;
 }

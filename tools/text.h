@@ -6,7 +6,10 @@
 
 #include <QtCore/QString>
 
-/** The text with what a terminal would obey or hide (control and format characters) written as \u{XXXX}. */
+/**
+ * The text with what a terminal would obey or hide (control and format characters, but no joiner inside a word) written
+ * as \u{XXXX}.
+ */
 QString printable(const QString &text);
 
 /** The same for XML: as &#xXXXX;, and U+FFFD for what XML does not allow at all. Line feeds stay. */
@@ -14,5 +17,15 @@ QString printableXml(const QString &text);
 
 /** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
 QString quoted(const QString &text);
+
+/** At most that many characters of the text; "\u2026" is the last when some are left out. */
+QString shortened(const QString &text, int most);
+
+/** About how long the text is in a sans-serif font of size 11, rather more than less. */
+double width(const QString &text);
+
+/** The text if it is no longer than @p most. If it is, "\u2026" stands for its end up to the extension.
+ */
+QString elided(const QString &text, double most);
 
 #endif

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_SVG_H
+#define SMILTOOL_SVG_H
+
+#include <QtCore/QRectF>
+#include <QtCore/QXmlStreamWriter>
+
+/** Writes a picture, element by element. */
+class Svg
+{
+public:
+    explicit Svg(QIODevice &device);
+
+    /** @p description is for who cannot see the picture. */
+    void begin(const QSizeF &size, const QString &title, const QString &description, const char *style);
+    void end();
+
+    /** Everything up to endGroup() has its origin at @p corner. */
+    void beginGroup(const QPointF &corner);
+    /** Everything up to endGroup() has its origin at the corner of @p area, and is cut off at its edges. */
+    void beginClip(const QRectF &area);
+    void endGroup();
+
+    void rectangle(const QRectF &area, const QString &kind);
+    void text(const QPointF &at, const QString &line, const char *kind = nullptr);
+
+private:
+    void attribute(const char *name, double value);
+    void area(const QRectF &area);
+    void named(const char *name, const QString &content);
+
+    QXmlStreamWriter writer;
+};
+
+#endif
