@@ -3,22 +3,25 @@
 
 #include "commands.h"
 #include "mmslogger.h"
+#include "output.h"
 
 #include <smilparser/smilparser_version.h>
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
+#include <QtCore/QFile>
 
+#include <clocale>
 #include <cstdio>
+#include <langinfo.h>
 
 bool MMSLogger::qdebugEnabled = false;
 
 namespace
 {
 enum ExitStatus { Success = 0, Failure = 1, BadUsage = 2 };
-enum class Kind { Show, Render, Storyboard, Check };
+enum Kind { Show = 1, Render = 2, Storyboard = 4, Check = 8 };
+const int every = Show | Render | Storyboard | Check;
 
 struct Command {
     QLatin1String name;
@@ -29,13 +32,31 @@ struct Command {
 };
 
 const Command commands[] = {
-    {QLatin1String("show"),       Kind::Show,       "FILE...", "Prints an outline of each message.",                     "smiltool show message.smil"},
-    {QLatin1String("render"),     Kind::Render,     "FILE...", "Prints each message as read and written back.",
-     "smiltool render message.smil > written.smil"                                                                                                   },
-    {QLatin1String("storyboard"), Kind::Storyboard, "FILE",    "Draws a message as a picture, in SVG.",
-     "smiltool storyboard message.smil -o board.svg"                                                                                                 },
-    {QLatin1String("check"),      Kind::Check,      "FILE...", "Tells what is odd in each message, or lost on writing.",
-     "smiltool check --ignore lost-attribute message.smil"                                                                                           },
+    {QLatin1String("show"),       Show,       "FILE...", "Prints an outline of each message.",                     "smiltool show message.smil"},
+    {QLatin1String("render"),     Render,     "FILE...", "Prints each message as read and written back.",
+     "smiltool render message.smil > written.smil"                                                                                             },
+    {QLatin1String("storyboard"), Storyboard, "FILE",    "Draws a message as a picture, in SVG.",
+     "smiltool storyboard message.smil -o board.svg"                                                                                           },
+    {QLatin1String("check"),      Check,      "FILE...", "Tells what is odd in each message, or lost on writing.",
+     "smiltool check --ignore lost message.smil"                                                                                               },
+};
+
+struct Option {
+    int kinds; ///< of the commands that it belongs to
+    const char *names; ///< between blanks
+    const char *value;
+    const char *summary;
+};
+
+const Option allOptions[] = {
+    {Show | Storyboard, "plain",     "",        "Show durations as a host reads them without options."            },
+    {Render,            "keep",      "",        "Keep the size of the root-layout, and all durations, in seconds."},
+    {Storyboard,        "o output",  "OUT.svg", "Write to OUT.svg, not to standard output."                       },
+    {Check,             "ignore",    "NAME",
+     "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: "           },
+    {every,             "debug",     "",        "Print the library's debug messages."                             },
+    {every,             "h help",    "",        "Print this help."                                                },
+    {every,             "v version", "",        "Print the version."                                              },
 };
 }
 
@@ -65,83 +86,55 @@ static QString describe(const Command *command)
     QString text =
         QStringLiteral("Reads the slide show of a multimedia message.\n\nCommands, each with a --help of its own:");
     for (const Command &each : commands) {
-        text += QStringLiteral("\n  %1 %2").arg(each.name, -11).arg(QString::fromLatin1(each.summary).simplified());
+        text += QStringLiteral("\n  %1 %2").arg(each.name, -11).arg(QLatin1String(each.summary));
     }
+    text += QStringLiteral("\n  %1 %2")
+                .arg(QLatin1String("help"), -11)
+                .arg(QLatin1String("Prints this, or the help of a command."));
     return text;
+}
+
+static void addOption(QCommandLineParser &parser, const Option &option)
+{
+    const QString values = option.kinds == Check ? findingNames().join(QLatin1String(", ")) : QString();
+    parser.addOption({QString::fromLatin1(option.names).split(QLatin1Char(' ')), QLatin1String(option.summary) + values,
+                      QLatin1String(option.value)});
 }
 
 static void setUp(QCommandLineParser &parser, const Command *command)
 {
     parser.setApplicationDescription(describe(command));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOption({QStringLiteral("debug"), QStringLiteral("Print the library's debug messages.")});
+    for (const Option &option : allOptions) {
+        if (command ? option.kinds & command->kind : option.kinds == every) {
+            addOption(parser, option);
+        }
+    }
     if (!command) {
         parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."));
-        parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A SMIL part; - is standard input."),
-                                     QStringLiteral("FILE..."));
-        return;
     }
     parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A SMIL part; - is standard input."),
-                                 command->name + QLatin1Char(' ') + QLatin1String(command->arguments));
-    if (command->kind == Kind::Show || command->kind == Kind::Storyboard) {
-        parser.addOption(
-            {QStringLiteral("plain"), QStringLiteral("Show durations as a host reads them without options.")});
-    }
-    if (command->kind == Kind::Render) {
-        parser.addOption({QStringLiteral("keep"),
-                          QStringLiteral("Keep the size of the root-layout, and all durations, in seconds.")});
-    }
-    if (command->kind == Kind::Storyboard) {
-        parser.addOption({
-            {QStringLiteral("o"), QStringLiteral("output")},
-            QStringLiteral("Write to OUT.svg, not to standard output."),
-            QStringLiteral("OUT.svg")
-        });
-    }
-    if (command->kind == Kind::Check) {
-        parser.addOption({QStringLiteral("ignore"),
-                          QStringLiteral("Say nothing of findings called NAME; may be repeated. The names: ")
-                              + findingNames().join(QLatin1String(", ")),
-                          QStringLiteral("NAME")});
-    }
+                                 command ? command->name + QLatin1Char(' ') + QLatin1String(command->arguments)
+                                         : QStringLiteral("FILE..."));
 }
 
-/** The first argument that is no option, taken out of @p arguments. */
-static QString takeCommand(QStringList &arguments)
+/** The arguments that are neither options nor their values, whatever the command. */
+static QStringList words(const QStringList &arguments)
 {
-    for (int i = 1; i < arguments.size(); ++i) {
-        if (!arguments.at(i).startsWith(QLatin1Char('-'))) {
-            return arguments.takeAt(i);
-        }
+    QCommandLineParser parser;
+    for (const Option &option : allOptions) {
+        addOption(parser, option);
     }
-    return QString();
-}
-
-static bool drawTo(const QString &name, const Message &message)
-{
-    if (QFileInfo(name) == QFileInfo(message.file)) {
-        complain(name + QLatin1String(": is the message itself"));
-        return false;
-    }
-    QSaveFile out(name);
-    if (out.open(QIODevice::WriteOnly)) {
-        storyboard(message, out);
-        if (out.commit()) {
-            return true;
-        }
-    }
-    complain(name + QLatin1String(": ") + out.errorString());
-    return false;
+    parser.parse(arguments);
+    return parser.positionalArguments();
 }
 
 static SmilParser::ReadOptions readOptions(const Command &command, const QCommandLineParser &options)
 {
-    const bool shows = command.kind == Kind::Show || command.kind == Kind::Storyboard;
+    const bool shows = command.kind == Show || command.kind == Storyboard;
     if (shows && !options.isSet(QStringLiteral("plain"))) {
         return SmilParser::ClockDurations;
     }
-    if (command.kind == Kind::Render && options.isSet(QStringLiteral("keep"))) {
+    if (command.kind == Render && options.isSet(QStringLiteral("keep"))) {
         return SmilParser::ClockDurations | SmilParser::KeepRootSize;
     }
     return SmilParser::AsWritten;
@@ -151,19 +144,20 @@ static SmilParser::ReadOptions readOptions(const Command &command, const QComman
 static bool run(const Command &command, const QCommandLineParser &options, const Message &message, QIODevice &out)
 {
     switch (command.kind) {
-    case Kind::Show:
+    case Show:
         show(message, out);
         return true;
-    case Kind::Render:
+    case Render:
         render(message, out);
         return true;
-    case Kind::Check:
+    case Check:
         return !check(message, options.values(QStringLiteral("ignore")), out);
-    case Kind::Storyboard:
+    case Storyboard:
         break;
     }
-    if (options.isSet(QStringLiteral("output"))) {
-        return drawTo(options.value(QStringLiteral("output")), message);
+    const QString output = options.value(QStringLiteral("output"));
+    if (!output.isEmpty() && output != QLatin1String("-")) {
+        return drawTo(output, message);
     }
     storyboard(message, out);
     return true;
@@ -174,7 +168,7 @@ static int run(const Command &command, const QCommandLineParser &options)
     int status = Success;
     QFile out;
     bool written = out.open(stdout, QIODevice::WriteOnly);
-    const QStringList files = options.positionalArguments();
+    const QStringList files = options.positionalArguments().mid(1);
     for (const QString &file : files) {
         Message message;
         if (!readMessage(file, readOptions(command, options), message) || !run(command, options, message, out)) {
@@ -192,14 +186,18 @@ static int run(const Command &command, const QCommandLineParser &options)
 /** What is wrong with how the command is called; empty when nothing is. */
 static QString problemWith(const Command &command, const QCommandLineParser &options)
 {
-    const QStringList files = options.positionalArguments();
+    const QStringList files = options.positionalArguments().mid(1);
     if (files.isEmpty()) {
         return QStringLiteral("no file given.");
     }
-    if (command.kind == Kind::Storyboard && files.size() > 1) {
+    const bool hasOutput = command.kind == Storyboard && options.isSet(QStringLiteral("output"));
+    if (files.contains(QString()) || (hasOutput && options.value(QStringLiteral("output")).isEmpty())) {
+        return QStringLiteral("the name of a file is empty.");
+    }
+    if (command.kind == Storyboard && files.size() > 1) {
         return QStringLiteral("a storyboard is of one file.");
     }
-    if (command.kind == Kind::Check) {
+    if (command.kind == Check) {
         const QStringList ignored = options.values(QStringLiteral("ignore"));
         for (const QString &name : ignored) {
             if (!findingNames().contains(name)) {
@@ -210,14 +208,27 @@ static QString problemWith(const Command &command, const QCommandLineParser &opt
     return QString();
 }
 
+/** All names and all output are UTF-8. Where the locale is of another encoding, Qt 6 says so in four lines at every
+ * start. */
+static void useUtf8()
+{
+    std::setlocale(LC_ALL, "");
+    if (qstrcmp(nl_langinfo(CODESET), "UTF-8") != 0) {
+        qputenv("LC_ALL", "C.UTF-8");
+    }
+}
+
 int main(int argc, char *argv[])
 {
+    useUtf8();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("smiltool"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SMILPARSER_VERSION_STRING));
 
-    QStringList arguments = QCoreApplication::arguments();
-    const QString name = takeCommand(arguments);
+    const QStringList arguments = QCoreApplication::arguments();
+    const QStringList given = words(arguments);
+    const bool help = given.value(0) == QLatin1String("help");
+    const QString name = given.value(help ? 1 : 0);
     const Command *const command = findCommand(name);
     if (!command && !name.isEmpty()) {
         return badUsage(QStringLiteral("unknown command '%1'.").arg(name));
@@ -230,7 +241,7 @@ int main(int argc, char *argv[])
     if (parser.isSet(QStringLiteral("version"))) {
         parser.showVersion();
     }
-    if (parser.isSet(QStringLiteral("help"))) {
+    if (help || parser.isSet(QStringLiteral("help"))) {
         parser.showHelp(Success);
     }
     const QString problem = command ? problemWith(*command, parser) : QStringLiteral("no command given.");

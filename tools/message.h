@@ -19,6 +19,9 @@ struct Message {
  */
 bool readMessage(const QString &file, SmilParser::ReadOptions options, Message &message);
 
+/** The DOM of bytes that the library has found well formed and harmless, with the lines that the model lacks. */
+QDomDocument readDom(const QByteArray &bytes);
+
 /** Writes a line to standard error, as printable(). */
 void complain(const QString &text);
 
