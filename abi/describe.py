@@ -14,13 +14,15 @@ import gdb
 library = gdb.objfiles()[0].filename
 
 
-def symbols(option):
-    output = subprocess.check_output(["nm", "--dynamic", "--demangle", option, library], text=True)
+def symbols(*options):
+    output = subprocess.check_output(["nm", "--dynamic", "--demangle", *options, library], text=True)
     return output.splitlines()
 
 
 def describe_symbol(line):
     address, kind, name = line.split(maxsplit=2)
+    if kind == "A":
+        return f"    version {name}"
     if kind not in "TW":
         return f"    {kind} {name}"
     returned = gdb.block_for_pc(int(address, 16)).function.type.target()
@@ -46,7 +48,7 @@ print(re.search(r"soname: \[(.*)]", dynamic)[1])
 
 print("\nexported")
 # As a set, because a constructor is there twice.
-print("\n".join(sorted({describe_symbol(line) for line in symbols("--defined-only")})))
+print("\n".join(sorted({describe_symbol(line) for line in symbols("--defined-only", "--without-symbol-versions")})))
 
 print("\nleft to the host")
 print("\n".join("    " + line.split()[1] for line in symbols("--undefined-only") if " U " in line and "@" not in line))

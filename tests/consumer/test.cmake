@@ -29,6 +29,19 @@ if(NOT status EQUAL 1)
     message(FATAL_ERROR "A host that does not export its flag should not be able to load the library: ${status}")
 endif()
 
+# Where the library was replaced by one for another Qt, the loader says so: the host would crash.
+string(REGEX MATCH "[0-9]+" major "${qt}")
+set(other "${WORK_DIR}/other/libsmilparser.so.1")
+file(WRITE "${other}.map" "SMILPARSER_1_QTOTHER { *; };")
+file(WRITE "${other}.cpp" "")
+run("${CXX}" -shared "-Wl,--version-script,${other}.map" "${other}.cpp" -o "${other}")
+execute_process(COMMAND "${CMAKE_COMMAND}" -E env "LD_LIBRARY_PATH=${WORK_DIR}/other" "${WORK_DIR}/build/linked"
+    ERROR_VARIABLE error
+)
+if(NOT error MATCHES "version .SMILPARSER_1_QT${major}. not found")
+    message(FATAL_ERROR "The loader should refuse a library for another Qt: ${error}")
+endif()
+
 set(ENV{PKG_CONFIG_PATH} "${prefix}/${LIBDIR}/pkgconfig")
 execute_process(COMMAND pkg-config --cflags --libs smilparser
     OUTPUT_VARIABLE flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY
