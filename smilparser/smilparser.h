@@ -440,7 +440,8 @@ public:
      * Renders the model as a DOM document with the root element "smil", and returns that. What an earlier call or
      * parse() left in the document is dropped; a copy of it keeps the earlier tree. The model is not changed, and
      * every model renders: empty texts and invalid measures are left out, the rest is written verbatim. There is no
-     * XML declaration, document type or namespace. How the document is turned into text is up to the host.
+     * XML declaration, document type or namespace. How the document is turned into text is up to the host. Qt writes
+     * the attributes of an element in an order that differs from run to run, but for QT_HASH_SEED=0 in the environment.
      *
      * Cost: linear in the size of the model.
      */
