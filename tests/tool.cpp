@@ -76,7 +76,7 @@ private Q_SLOTS:
     void otherFilesAreHandled();
     void textFromStrangersIsEscaped();
     void lostOutputIsAnError();
-    void sizeLimit();
+    void inputIsReadToItsEnd();
     void debugLines();
     void findings_data();
     void findings();
@@ -232,11 +232,16 @@ void Tool::lostOutputIsAnError()
     QCOMPARE(outcome.status, 1);
 }
 
-void Tool::sizeLimit()
+void Tool::inputIsReadToItsEnd()
 {
     const QByteArray message = QByteArray("<smil><head/><body/></smil>").leftJustified(1024 * 1024, ' ');
     const Outcome largest = smiltool({QStringLiteral("check"), QStringLiteral("-")}, message);
     QCOMPARE(largest.out, QStringLiteral("-:1: nothing plays [empty-timeline]\n"));
+    const QTemporaryDir folder;
+    const Outcome slow =
+        runScript(folder.path(),
+                  QStringLiteral("(head -c 99 holiday.smil; sleep 0.2; tail -c +100 holiday.smil) | $tool render -"));
+    QCOMPARE(slow.out, golden(QStringLiteral("holiday.render")));
     const Outcome larger = smiltool({QStringLiteral("check"), QStringLiteral("-")}, message + ' ');
     QCOMPARE(larger.err, QStringLiteral("-: larger than 1 MiB\n"));
 }

@@ -36,9 +36,12 @@ static bool readFile(const QString &name, QByteArray &bytes)
     QFile file(name);
     const bool opened =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    if (opened) {
-        bytes = file.read(largestMessage + 1);
-    }
+    // A pipe gives what is there so far, and nothing at its end only.
+    QByteArray more;
+    do {
+        more = opened ? file.read(largestMessage + 1 - bytes.size()) : QByteArray();
+        bytes += more;
+    } while (!more.isEmpty());
     if (!opened || file.error() != QFileDevice::NoError) {
         complain(name + QLatin1String(": ") + file.errorString());
         return false;
