@@ -5,7 +5,7 @@
 # pkg-config, and with the library loaded at run time.
 #
 # cmake -D BUILD_DIR=... -D WORK_DIR=... -D QT_DIR=... -D LIBDIR=... -D CXX=... -D CXX_FLAGS=...
-#     -D GENERATOR=... -P test.cmake
+#     -D GENERATOR=... -D SOURCE_DIR=... -P test.cmake
 
 function(run)
     execute_process(COMMAND ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
@@ -19,9 +19,11 @@ file(RENAME "${WORK_DIR}/installed" "${prefix}")
 set(library "${prefix}/${LIBDIR}/libsmilparser.so.1")
 
 cmake_path(GET QT_DIR FILENAME qt)
-run("${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${CMAKE_CURRENT_LIST_DIR}" -B "${WORK_DIR}/build"
-    "-DCMAKE_PREFIX_PATH=${prefix}" "-D${qt}_DIR=${QT_DIR}" "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+string(REGEX MATCH "[0-9]+" major "${qt}")
+set(configure "${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${CMAKE_CURRENT_LIST_DIR}" "-D${qt}_DIR=${QT_DIR}"
+    "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
 )
+run(${configure} -B "${WORK_DIR}/build" "-DCMAKE_PREFIX_PATH=${prefix}")
 run("${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
 run("${WORK_DIR}/build/linked")
 run("${WORK_DIR}/build/loading" "${library}")
@@ -31,7 +33,6 @@ if(NOT status EQUAL 1)
 endif()
 
 # Where the library was replaced by one for another Qt, the loader says so: the host would crash.
-string(REGEX MATCH "[0-9]+" major "${qt}")
 set(other "${WORK_DIR}/other/libsmilparser.so.1")
 file(WRITE "${other}.map" "SMILPARSER_1_QTOTHER { *; };")
 file(WRITE "${other}.cpp" "")
@@ -51,3 +52,6 @@ separate_arguments(flags UNIX_COMMAND "-std=c++17 -fPIC ${CXX_FLAGS} ${flags}")
 run("${CXX}" "${CMAKE_CURRENT_LIST_DIR}/main.cpp" -o "${WORK_DIR}/pkgconfig" ${flags})
 set(ENV{LD_LIBRARY_PATH} "${prefix}/${LIBDIR}")
 run("${WORK_DIR}/pkgconfig")
+
+# As a part of the host's project, the library brings nothing that the host could have itself.
+run(${configure} -B "${WORK_DIR}/part" "-DSOURCE_DIR=${SOURCE_DIR}" -DQT_MAJOR_VERSION=${major})
