@@ -1,0 +1,227 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "mms.h"
+#include "charset.h"
+#include "parts.h"
+
+#include <cstring>
+
+// A part or a receiver takes three bytes of the message, and much more than that once it is read.
+static const int most = 1000;
+
+namespace
+{
+/** Bytes of the message, read from the front. What is not there reads as nothing, and makes them bad for good. */
+struct Bytes {
+    enum Kind { Number, Text, Data };
+
+    const char *at;
+    const char *end;
+    Kind kind = Data; ///< as the value of a header or of a parameter
+    bool bad = false;
+
+    bool more() const { return !bad && at != end; }
+    uchar peek() const { return more() ? uchar(*at) : 0; }
+    uchar byte() { return uchar(*take(1).at); }
+    QByteArray all() const { return QByteArray(at, QByteArray::size_type(end - at)); }
+
+    Bytes take(quint64 length, Kind as = Data)
+    {
+        static const char nothing = 0;
+        bad = bad || length > quint64(end - at);
+        if (bad) {
+            return {&nothing, &nothing, as};
+        }
+        at += length;
+        return {at - length, at, as};
+    }
+
+    /** A number in up to five bytes of seven bits; the highest bit says that another byte follows. */
+    quint64 uintvar()
+    {
+        quint64 result = 0;
+        uchar digits = 0x80;
+        for (int i = 0; i < 5 && digits >= 0x80; ++i) {
+            digits = byte();
+            result = result << 7 | (digits & 0x7F);
+        }
+        bad = bad || digits >= 0x80;
+        return result;
+    }
+
+    /** The first byte of a value says where it ends, whatever it is the value of. */
+    Bytes value()
+    {
+        const uchar first = peek();
+        if (first >= 0x80) {
+            return take(1, Number);
+        }
+        if (first < 0x20) {
+            byte();
+            return take(first < 31 ? first : uintvar());
+        }
+        take(first == 0x7F ? 1 : 0); // goes before a text that begins with 0x80 or more
+        const void *const zero = std::memchr(at, 0, size_t(end - at));
+        const Bytes text = take(zero ? quint64(static_cast<const char *>(zero) - at) : ~0ull, Text);
+        byte();
+        return text;
+    }
+
+    quint64 number() const
+    {
+        quint64 result = 0;
+        for (const char *digit = at; digit != end; ++digit) {
+            result = result << 8 | uchar(*digit);
+        }
+        return kind == Number ? result & 0x7F : result;
+    }
+
+    /** Whether this calls a header or a parameter by its number or its name. */
+    bool is(quint64 assigned, const char *name) const
+    {
+        return kind == Number ? number() == assigned : kind == Text && qstrnicmp(at, end - at, name) == 0;
+    }
+};
+}
+
+// Of the public list of assigned numbers, what messages are made of.
+static const struct {
+    quint64 number;
+    const char *name;
+} mediaTypes[] = {
+    {0x02, "text/html"                                },
+    {0x03, "text/plain"                               },
+    {0x07, "text/x-vcard"                             },
+    {0x1D, "image/gif"                                },
+    {0x1E, "image/jpeg"                               },
+    {0x20, "image/png"                                },
+    {0x21, "image/vnd.wap.wbmp"                       },
+    {0x23, "application/vnd.wap.multipart.mixed"      },
+    {0x26, "application/vnd.wap.multipart.alternative"},
+    {0x33, "application/vnd.wap.multipart.related"    },
+};
+
+/** An encoded string: a text, or data that begins with the number of its character set. */
+static QString textOf(Bytes value)
+{
+    quint64 charset = 0;
+    if (value.kind == Bytes::Data && value.more()) {
+        charset = value.value().number();
+        value.take(value.peek() == 0x7F ? 1 : 0);
+    }
+    return decoded(value.all(), charset).section(QChar(0), 0, 0);
+}
+
+static QString typeOf(const Bytes &value)
+{
+    if (value.kind == Bytes::Text) {
+        return QString::fromLatin1(value.all()).section(QLatin1Char(';'), 0, 0).trimmed().toLower();
+    }
+    const quint64 number = value.number();
+    for (const auto &type : mediaTypes) {
+        if (type.number == number) {
+            return QLatin1String(type.name);
+        }
+    }
+    return QStringLiteral("0x%1").arg(number, 2, 16, QLatin1Char('0'));
+}
+
+/** Reads a content type or a disposition: a value, or data with a value and parameters. Returns the value. */
+static Bytes readParameters(Bytes &in, MmsPart &part, QString &start)
+{
+    Bytes data = in.value();
+    if (data.kind != Bytes::Data) {
+        return data;
+    }
+    const Bytes result = data.value();
+    while (data.more()) {
+        const Bytes key = data.value();
+        const Bytes said = data.value();
+        const bool named = key.is(0x05, "name") || key.is(0x17, "name");
+        if (key.is(0x0A, "start") || key.is(0x19, "start")) {
+            start = bareId(textOf(said));
+        } else if (part.name.isEmpty() && (named || key.is(0x06, "filename") || key.is(0x18, "filename"))) {
+            part.name = bareId(textOf(said));
+        }
+    }
+    in.bad = in.bad || data.bad;
+    return result;
+}
+
+static bool readPartHeaders(Bytes in, MmsPart &part)
+{
+    QString start;
+    part.type = typeOf(readParameters(in, part, start));
+    while (in.more()) {
+        const Bytes key = in.value();
+        const bool disposition = key.is(0x2E, "content-disposition") || key.is(0x45, "content-disposition");
+        const Bytes said = disposition ? readParameters(in, part, start) : in.value();
+        if (key.is(0x40, "content-id")) {
+            part.id = bareId(textOf(said));
+        } else if (key.is(0x0E, "content-location")) {
+            part.location = bareId(textOf(said));
+        }
+    }
+    return !in.bad;
+}
+
+static QString readParts(Bytes in, QString start, MmsMessage &message)
+{
+    const quint64 count = in.uintvar();
+    if (in.bad || count > most) {
+        return QStringLiteral("does not say how many parts it has, or has more than %1").arg(most);
+    }
+    for (int i = 0; i < int(count); ++i) {
+        const quint64 headersLength = in.uintvar();
+        const quint64 dataLength = in.uintvar();
+        const Bytes headers = in.take(headersLength);
+        const Bytes data = in.take(dataLength);
+        MmsPart part;
+        if (in.bad || !readPartHeaders(headers, part)) {
+            return QStringLiteral("part %1 of %2 is cut off, or has a length that is wrong").arg(i + 1).arg(count);
+        }
+        part.data = data.all();
+        message.parts.append(part);
+        if (!start.isEmpty() && (part.id == start || part.location == start)) {
+            message.smil = i;
+            start.clear();
+        } else if (message.smil < 0 && part.type == QLatin1String("application/smil")) {
+            message.smil = i;
+        }
+    }
+    return message.smil < 0 ? QStringLiteral("has no SMIL part") : QString();
+}
+
+QString decodeMms(const QByteArray &bytes, MmsMessage &message)
+{
+    message = MmsMessage();
+    const QLatin1String numberingPlan("/TYPE=PLMN");
+    MmsPart body;
+    QString start;
+    Bytes in{bytes.constData(), bytes.constData() + bytes.size()};
+    while (body.type.isEmpty()) { // the content type is the last header
+        const auto place = in.at - bytes.constData();
+        const Bytes key = in.value();
+        const bool last = key.is(0x04, "content-type");
+        Bytes said = last ? readParameters(in, body, start) : in.value();
+        if (in.bad) {
+            return QStringLiteral("is cut off at byte %1, or has a length there that is wrong").arg(place);
+        }
+        if (last) {
+            body.type = typeOf(said);
+        } else if (key.is(0x0C, "x-mms-message-type") && said.number() != 0 && said.number() != 4) {
+            return QStringLiteral("is a notification or a report, which has no parts");
+        } else if (key.is(0x05, "date") && said.number() <= 0xFFFFFFFF) {
+            message.date = QDateTime::fromSecsSinceEpoch(qint64(said.number())).toUTC();
+        } else if (key.is(0x09, "from") && said.byte() == 0x80) { // otherwise the network is asked to put it in
+            message.from = textOf(said.value()).remove(numberingPlan);
+        } else if (key.is(0x16, "subject")) {
+            message.subject = textOf(said);
+        } else if (key.is(0x17, "to") && message.to.size() < most) {
+            message.to.append(textOf(said).remove(numberingPlan));
+        }
+    }
+    const bool multipart = body.type.contains(QLatin1String("multipart"));
+    return multipart ? readParts(in, start, message) : QStringLiteral("has no parts");
+}
