@@ -18,8 +18,9 @@ static QString fromUtf16(const QByteArray &bytes, bool littleEndian)
 
 QString decoded(const QByteArray &bytes, quint64 charset)
 {
+    // With their size: without it, Qt 5 ends the text at the first zero.
     if (bytes.startsWith("\xEF\xBB\xBF")) {
-        return QString::fromUtf8(bytes.mid(3));
+        return QString::fromUtf8(bytes.constData() + 3, bytes.size() - 3);
     }
     if (bytes.startsWith("\xFE\xFF") || bytes.startsWith("\xFF\xFE")) {
         return fromUtf16(bytes.mid(2), bytes.startsWith('\xFF'));
@@ -31,10 +32,10 @@ QString decoded(const QByteArray &bytes, quint64 charset)
     case 1015: // UTF-16
         return fromUtf16(bytes, charset == 1014);
     case 4:
-        return QString::fromLatin1(bytes);
+        return QString::fromLatin1(bytes.constData(), bytes.size());
     default:
         break;
     }
-    const QString text = QString::fromUtf8(bytes);
-    return text.toUtf8() == bytes ? text : QString::fromLatin1(bytes);
+    const QString text = QString::fromUtf8(bytes.constData(), bytes.size());
+    return text.toUtf8() == bytes ? text : QString::fromLatin1(bytes.constData(), bytes.size());
 }

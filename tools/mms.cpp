@@ -6,6 +6,7 @@
 #include "parts.h"
 
 #include <cstring>
+#include <utility>
 
 // A part or a receiver takes three bytes of the message, and much more than that once it is read.
 static const int most = 1000;
@@ -15,7 +16,6 @@ namespace
 /** Bytes of the message, read from the front. What is not there reads as nothing, and makes them bad for good. */
 struct Bytes {
     enum Kind { Number, Text, Data };
-
     const char *at;
     const char *end;
     Kind kind = Data; ///< as the value of a header or of a parameter
@@ -62,8 +62,7 @@ struct Bytes {
             return take(first < 31 ? first : uintvar());
         }
         take(first == 0x7F ? 1 : 0); // goes before a text that begins with 0x80 or more
-        const void *const zero = std::memchr(at, 0, size_t(end - at));
-        const Bytes text = take(zero ? quint64(static_cast<const char *>(zero) - at) : ~0ull, Text);
+        const Bytes text = take(strnlen(at, size_t(end - at)), Text);
         byte();
         return text;
     }
@@ -86,10 +85,7 @@ struct Bytes {
 }
 
 // Of the public list of assigned numbers, what messages are made of.
-static const struct {
-    quint64 number;
-    const char *name;
-} mediaTypes[] = {
+static const std::pair<quint64, const char *> mediaTypes[] = {
     {0x02, "text/html"                                },
     {0x03, "text/plain"                               },
     {0x07, "text/x-vcard"                             },
@@ -110,32 +106,32 @@ static QString textOf(Bytes value)
         charset = value.value().number();
         value.take(value.peek() == 0x7F ? 1 : 0);
     }
-    return decoded(value.all(), charset).section(QChar(0), 0, 0);
+    const QString text = decoded(value.all(), charset);
+    return text.left(text.indexOf(QChar(0))); // all of it, if there is none
 }
 
 static QString typeOf(const Bytes &value)
 {
     if (value.kind == Bytes::Text) {
-        return QString::fromLatin1(value.all()).section(QLatin1Char(';'), 0, 0).trimmed().toLower();
+        const QString text = QString::fromLatin1(value.all());
+        return text.left(text.indexOf(QLatin1Char(';'))).trimmed().toLower();
     }
-    const quint64 number = value.number();
-    for (const auto &type : mediaTypes) {
-        if (type.number == number) {
-            return QLatin1String(type.name);
+    const quint64 said = value.number();
+    for (const auto &[number, name] : mediaTypes) {
+        if (number == said) {
+            return QLatin1String(name);
         }
     }
-    return QStringLiteral("0x%1").arg(number, 2, 16, QLatin1Char('0'));
+    return QStringLiteral("0x%1").arg(said, 2, 16, QLatin1Char('0'));
 }
 
 /** Reads a content type or a disposition: a value, or data with a value and parameters. Returns the value. */
 static Bytes readParameters(Bytes &in, MmsPart &part, QString &start)
 {
     Bytes data = in.value();
-    if (data.kind != Bytes::Data) {
-        return data;
-    }
-    const Bytes result = data.value();
-    while (data.more()) {
+    const bool alone = data.kind != Bytes::Data;
+    const Bytes result = alone ? data : data.value();
+    while (!alone && data.more()) {
         const Bytes key = data.value();
         const Bytes said = data.value();
         const bool named = key.is(0x05, "name") || key.is(0x17, "name");
@@ -166,7 +162,7 @@ static bool readPartHeaders(Bytes in, MmsPart &part)
     return !in.bad;
 }
 
-static QString readParts(Bytes in, QString start, MmsMessage &message)
+static QString readParts(Bytes in, const QString &start, MmsMessage &message)
 {
     const quint64 count = in.uintvar();
     if (in.bad || count > most) {
@@ -183,10 +179,8 @@ static QString readParts(Bytes in, QString start, MmsMessage &message)
         }
         part.data = data.all();
         message.parts.append(part);
-        if (!start.isEmpty() && (part.id == start || part.location == start)) {
-            message.smil = i;
-            start.clear();
-        } else if (message.smil < 0 && part.type == QLatin1String("application/smil")) {
+        const bool starts = !start.isEmpty() && (part.id == start || part.location == start);
+        if (starts || (message.smil < 0 && part.type == QLatin1String("application/smil"))) {
             message.smil = i;
         }
     }
@@ -212,7 +206,8 @@ QString decodeMms(const QByteArray &bytes, MmsMessage &message)
             body.type = typeOf(said);
         } else if (key.is(0x0C, "x-mms-message-type") && said.number() != 0 && said.number() != 4) {
             return QStringLiteral("is a notification or a report, which has no parts");
-        } else if (key.is(0x05, "date") && said.number() <= 0xFFFFFFFF) {
+        } else if (key.is(0x05, "date") && message.date.isNull() && said.number() <= 0xFFFFFFFF) {
+            // The first of several only: this looks up the time zone, and a million of them take ten seconds.
             message.date = QDateTime::fromSecsSinceEpoch(qint64(said.number())).toUTC();
         } else if (key.is(0x09, "from") && said.byte() == 0x80) { // otherwise the network is asked to put it in
             message.from = textOf(said.value()).remove(numberingPlan);

@@ -34,9 +34,9 @@ inline bool isMms(const QByteArray &bytes)
 }
 
 /**
- * Takes a message apart, by OMA MMS Encapsulation (its headers) and WAP-230-WSP, section 8 (all else). A multipart in
- * it stays one part. Returns empty if it is whole and has a SMIL part, or else what is wrong, to be written after its
- * name.
+ * Takes a message apart; a multipart in it stays one part. Returns empty if it is whole and has a SMIL part, or else
+ * what is wrong, to be written after its name. See OMA MMS Encapsulation for the headers, WAP-230-WSP section 8 for the
+ * rest.
  */
 QString decodeMms(const QByteArray &bytes, MmsMessage &message);
 

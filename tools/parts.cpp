@@ -123,7 +123,8 @@ Parts Parts::ofMessage(const MmsMessage &message)
 int Parts::find(const QString &src) const
 {
     const QString bare = bareId(src);
-    const QString decodedName = QString::fromUtf8(QByteArray::fromPercentEncoding(bare.toUtf8()));
+    const QByteArray bytes = QByteArray::fromPercentEncoding(bare.toUtf8());
+    const QString decodedName = QString::fromUtf8(bytes.constData(), bytes.size());
     for (const QString &name : {src, bare, decodedName}) {
         const auto found = m_names.constFind(name);
         if (found != m_names.constEnd()) {

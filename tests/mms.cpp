@@ -1,0 +1,315 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "parts.h"
+
+#include <QtTest/QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <utility>
+#include <vector>
+
+static const QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452");
+static const QByteArray slides("<smil><head/><body/></smil>");
+
+static QByteArray uintvar(int number)
+{
+    QByteArray bytes(1, char(number & 0x7F));
+    while (number >>= 7) {
+        bytes.prepend(char(number | 0x80));
+    }
+    return bytes;
+}
+
+static QByteArray text(const QByteArray &bytes)
+{
+    return bytes + '\0';
+}
+
+/** The bytes after their length, as a value. */
+static QByteArray sized(const QByteArray &bytes)
+{
+    return (bytes.size() < 31 ? QByteArray(1, char(bytes.size())) : '\x1F' + uintvar(int(bytes.size()))) + bytes;
+}
+
+static QByteArray part(const QByteArray &headers, const QByteArray &data)
+{
+    return uintvar(int(headers.size())) + uintvar(int(data.size())) + headers + data;
+}
+
+static QByteArray message(const QByteArray &contentType, int count, const QByteArray &parts)
+{
+    return QByteArray("\x8C\x80\x8D\x92") + '\x84' + contentType + uintvar(count) + parts;
+}
+
+/** A message that uses every way to write something. */
+static QByteArray greeting()
+{
+    const QByteArray headers = QByteArray("\x8C\x84\x98") + text("T1") + "\x8D\x90" + "\x85\x04\x3E\x4F\x0A\x11"
+        + '\x89' + sized('\x80' + text("+15550100/TYPE=PLMN")) + '\x97' + text("anna@example.org") + '\x97'
+        + sized('\x83' + text("+15550101/TYPE=PLMN")) + '\x96'
+        + sized(QByteArray("\xEA\x7F") + text("\xC3\xA9t\xC3\xA9")) + text("X-Extra") + text("anything");
+    const QByteArray type = '\x84'
+        + sized('\xB3' + QByteArray("\x8A") + text("<start>") + '\x89' + text("application/smil") + text("x")
+                + text("y"));
+    const QByteArray photo = sized('\xA0' + QByteArray("\x85") + text("photo.png")) + "\xAE"
+        + sized("\x81\x86" + text("other.png")) + text("Content-ID") + text("\"<one>");
+    return headers + type + uintvar(4) + part(text("application/smil"), "decoy") + part(photo, png)
+        + part(sized("\x83\x81\xEA") + "\x8E" + text("hello.txt") + "\xC5" + sized("\x81\x98" + text("said.txt")),
+               "Hello")
+        + part(text("Application/SMIL; charset=utf-8") + "\xC0" + text("\"<start>\""), slides);
+}
+
+Q_DECLARE_METATYPE(Parts::Kind)
+
+class Mms : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void whole();
+    void problems_data();
+    void problems();
+    void encodedTexts_data();
+    void encodedTexts();
+    void anyDamage();
+    void srcOfMessage_data();
+    void srcOfMessage();
+    void srcOfFolder_data();
+    void srcOfFolder();
+    void onlyFilesOfTheFolder();
+    void kinds_data();
+    void kinds();
+};
+
+void Mms::whole()
+{
+    MmsMessage read;
+    QCOMPARE(decodeMms(greeting(), read), QString());
+    QCOMPARE(read.from, QStringLiteral("+15550100"));
+    QCOMPARE(read.to.join(QLatin1Char(' ')), QStringLiteral("anna@example.org +15550101"));
+    QCOMPARE(read.subject, QStringLiteral("\u00e9t\u00e9"));
+    QCOMPARE(read.date.toString(Qt::ISODate), QStringLiteral("2003-02-16T03:48:33Z"));
+    QStringList parts;
+    for (const MmsPart &each : std::as_const(read.parts)) {
+        parts += QStringList{each.name, each.id, each.location, each.type}.join(QLatin1Char(','));
+    }
+    QCOMPARE(parts.join(QLatin1Char(' ')),
+             QStringLiteral(",,,application/smil photo.png,one,,image/png "
+                            "said.txt,,hello.txt,text/plain ,start,,application/smil"));
+    QCOMPARE(read.parts.at(1).data, png);
+    QCOMPARE(read.parts.at(3).data, slides);
+    QCOMPARE(read.smil, 3);
+}
+
+void Mms::problems_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("problem");
+    const auto row = [](const char *name, const QByteArray &bytes, const char *problem) {
+        QTest::newRow(name) << bytes << QString::fromLatin1(problem);
+    };
+    const QByteArray smil = part(text("application/smil"), slides);
+    row("nothing after the type", "\x8C\x80", "is cut off at byte 2, or has a length there that is wrong");
+    row("long header", "\x8C\x80\x96\x1EHi", "is cut off at byte 2, or has a length there that is wrong");
+    row("notification", "\x8C\x82\x98" + text("T"), "is a notification or a report, which has no parts");
+    row("no parts", message("\x83", 0, "Hello"), "has no parts");
+    row("no SMIL", message("\xB3", 1, part("\x83", "Hello")), "has no SMIL part");
+    row("too few", message("\xB3", 2, smil), "part 2 of 2 is cut off, or has a length that is wrong");
+    row("long header of a part", message("\xB3", 2, smil + part("\x03\x83", slides)),
+        "part 2 of 2 is cut off, or has a length that is wrong");
+    row("long parameter", message("\xB3", 1, part("\x03\x83\x85\x40\xC0" + text("x"), slides)),
+        "part 1 of 1 is cut off, or has a length that is wrong");
+    row("too many", message("\xB3", 1001, QByteArray(4004, '\0')),
+        "does not say how many parts it has, or has more than 1000");
+    row("endless count", message("\xB3", 0, QByteArray()).chopped(1) + QByteArray(9, '\xFF'),
+        "does not say how many parts it has, or has more than 1000");
+}
+
+void Mms::problems()
+{
+    QFETCH(QByteArray, bytes);
+    MmsMessage read;
+    QTEST(decodeMms(bytes, read), "problem");
+}
+
+void Mms::encodedTexts_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("subject");
+    const QString accented = QStringLiteral("\u00c3\u00a9");
+    QTest::newRow("UTF-8 without a number") << text("\x7F\xC3\xA9") << QStringLiteral("\u00e9");
+    QTest::newRow("not UTF-8") << text("a\xE9") << QStringLiteral("a\u00e9");
+    QTest::newRow("Latin-1 that could be UTF-8") << sized("\x84" + text("\xC3\xA9")) << accented;
+    QTest::newRow("number 106, without an end") << sized("\xEA\xC3\xA9") << QStringLiteral("\u00e9");
+    QTest::newRow("UTF-16 in two bytes of number")
+        << sized(QByteArray("\x02\x03\xF7\x00\xC3\x00\xA9\x00\x00", 9)) << accented;
+    QTest::newRow("UCS-2 with a mark") << sized(QByteArray("\x02\x03\xE8\xFF\xFE\xC3\x00\xA9\x00", 9)) << accented;
+    QTest::newRow("little endian") << sized(QByteArray("\x02\x03\xF6\xC3\x00\xA9\x00", 7)) << accented;
+}
+
+void Mms::encodedTexts()
+{
+    QFETCH(QByteArray, value);
+    MmsMessage read;
+    QCOMPARE(decodeMms("\x8C\x80\x96" + value + '\x84' + "\x83", read), QStringLiteral("has no parts"));
+    QTEST(read.subject, "subject");
+}
+
+/** Whatever is missing or changed: a message, or a problem in one line. */
+void Mms::anyDamage()
+{
+    const QByteArray good = greeting();
+    QVector<QByteArray> damaged;
+    for (int i = 0; i < int(good.size()); ++i) {
+        damaged.append(good.left(i));
+        for (const char byte : {'\x00', '\x1F', '\x7F', '\x80', '\xFF'}) {
+            damaged.append(QByteArray(good).replace(i, 1, &byte, 1));
+        }
+    }
+    for (const QByteArray &bytes : std::as_const(damaged)) {
+        // Nothing behind the last byte, so that a sanitizer sees who reads on.
+        const std::vector<char> exact(bytes.begin(), bytes.end());
+        MmsMessage read;
+        const QString problem = decodeMms(QByteArray::fromRawData(exact.data(), bytes.size()), read);
+        const bool whole = problem.isEmpty() && bytes.size() == good.size() && read.smil >= 0;
+        const bool told = !problem.isEmpty() && !problem.contains(QLatin1Char('\n'));
+        QVERIFY2(whole || told, qPrintable(problem + QString::fromLatin1(bytes.toHex(' '))));
+    }
+}
+
+/** Adds a row for each "src=part"; without a part, the src means none. */
+static void addMeanings(const char *rows)
+{
+    QTest::addColumn<QString>("src");
+    QTest::addColumn<QString>("part");
+    const QStringList each = QString::fromLatin1(rows).split(QLatin1Char(' '));
+    for (const QString &row : each) {
+        QTest::newRow(qPrintable(row)) << row.section(QLatin1Char('='), 0, 0) << row.section(QLatin1Char('='), 1);
+    }
+}
+
+static QString meaning(const Parts &parts, const QString &src)
+{
+    const int found = parts.find(src);
+    return found < 0 ? QString() : parts.name(found);
+}
+
+void Mms::srcOfMessage_data()
+{
+    // "shared" is the location of one part, and the name of a part before it.
+    addMeanings("cid:one=shared CID:<ONE>=shared shared=photo.png photo.png=photo.png hello.txt=hello.txt "
+                "%68ello%2Etxt=hello.txt cid:start=start cid:3= cid:=");
+}
+
+void Mms::srcOfMessage()
+{
+    MmsMessage read;
+    for (const char *const headers : {"|start|", "shared|one|", "photo.png|two|shared", "||hello.txt"}) {
+        const QStringList each = QString::fromLatin1(headers).split(QLatin1Char('|'));
+        read.parts.append({each.at(0), each.at(1), each.at(2), QString(), png});
+    }
+    read.smil = 0;
+    QFETCH(QString, src);
+    QTEST(meaning(Parts::ofMessage(read), src), "part");
+    QCOMPARE(Parts::ofMessage(read).smil(), 0);
+}
+
+/** Writes a file, of that size if one is given. */
+static bool write(const QString &name, qint64 size = 0)
+{
+    QFile file(name);
+    return file.open(QIODevice::WriteOnly) && file.write(png) == png.size() && (size == 0 || file.resize(size));
+}
+
+void Mms::srcOfFolder_data()
+{
+    addMeanings(
+        "photo.png=photo.png cid:a=cid:a cid:<a>=a 100%25=100%25 cid:100%2525=100%25 %50hoto.png=Photo.png "
+        "PHOTO.%70ng=Photo.png .hidden=.hidden ../secret= %2e%2e/secret= inner= inner/photo.png= link= inwards= "
+        "pipe= .= ..= ./photo.png= photo.png/= photo= a%00b=");
+}
+
+void Mms::srcOfFolder()
+{
+    const QTemporaryDir outer;
+    const QDir folder(outer.path() + QStringLiteral("/parts"));
+    QVERIFY(folder.mkpath(QStringLiteral("inner")));
+    for (const char *const name :
+         {"photo.png", "Photo.png", "cid:a", "a", "100%25", ".hidden", "../secret", "inner/photo.png"}) {
+        QVERIFY(write(folder.filePath(QString::fromLatin1(name))));
+    }
+    const auto path = [&folder](const char *name) { return QFile::encodeName(folder.path()) + '/' + name; };
+    QCOMPARE(symlink("../secret", path("link").constData()), 0);
+    QCOMPARE(symlink("a", path("inwards").constData()), 0);
+    QCOMPARE(mkfifo(path("pipe").constData(), 0600), 0);
+
+    QString problem;
+    Parts parts = Parts::ofFolder(folder.path(), folder.filePath(QStringLiteral("a")), problem);
+    QCOMPARE(problem, QString());
+    QCOMPARE(parts.size(), 6);
+    QCOMPARE(parts.name(parts.smil()), QStringLiteral("a"));
+    QFETCH(QString, src);
+    QTEST(meaning(parts, src), "part");
+    QCOMPARE(meaning(parts, folder.filePath(QStringLiteral("photo.png"))), QString());
+    QCOMPARE(parts.read(0).data, png);
+}
+
+/** Also not if it took the place of a file after the folder was listed. */
+void Mms::onlyFilesOfTheFolder()
+{
+    const QTemporaryDir folder;
+    const qint64 limit = 8 * 1024 * 1024;
+    const QString file = folder.filePath(QStringLiteral("1"));
+    const QString pipe = folder.filePath(QStringLiteral("2"));
+    QVERIFY(write(file) && write(pipe) && write(folder.filePath(QStringLiteral("3")), limit + 1));
+    for (int i = 0; i < 9; ++i) {
+        QVERIFY(write(folder.filePath(QStringLiteral("4%1").arg(i)), limit));
+    }
+    QString problem;
+    Parts parts = Parts::ofFolder(folder.path(), QString(), problem);
+    QVERIFY(QFile::remove(file) && QFile::link(QStringLiteral("3"), file));
+    QVERIFY(QFile::remove(pipe) && mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0);
+    QCOMPARE(parts.read(0).problem, QStringLiteral("cannot be read"));
+    QCOMPARE(parts.read(1).problem, QStringLiteral("cannot be read"));
+    QCOMPARE(parts.read(2).problem, QStringLiteral("is larger than 8 MiB"));
+    for (int i = 3; i < 11; ++i) {
+        QCOMPARE(parts.read(i).problem, QString());
+        QCOMPARE(qint64(parts.read(i).data.size()), limit);
+    }
+    QCOMPARE(parts.read(11).problem, QStringLiteral("would be more than 64 MiB with the files before it"));
+    QCOMPARE(parts.smil(), -1);
+    QCOMPARE(Parts::ofFolder(QStringLiteral("/dev"), QString(), problem).find(QStringLiteral("zero")), -1);
+    QCOMPARE(problem, QString());
+    QCOMPARE(Parts::ofFolder(file, QString(), problem).size(), 0);
+    QCOMPARE(problem, QStringLiteral("is not a folder that can be read"));
+}
+
+void Mms::kinds_data()
+{
+    QTest::addColumn<QByteArray>("data");
+    QTest::addColumn<Parts::Kind>("kind");
+    QTest::newRow("PNG") << png << Parts::Picture;
+    QTest::newRow("WebP") << QByteArray("RIFF\x1A\x00\x00\x00WEBPVP8L", 16) << Parts::Picture;
+    QTest::newRow("SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>") << Parts::OtherPicture;
+    QTest::newRow("text") << QByteArray("Hello") << Parts::Text;
+    QTest::newRow("empty") << QByteArray() << Parts::Text;
+    QTest::newRow("Latin-1") << QByteArray("Gru\xDF") << Parts::Text;
+    QTest::newRow("UTF-16") << QByteArray("\xFF\xFEH\x00i\x00", 6) << Parts::Text;
+    QTest::newRow("SMIL") << slides << Parts::Xml;
+    QTest::newRow("AMR") << QByteArray("#!AMR\n\x3C") << Parts::Audio;
+    QTest::newRow("3GP") << QByteArray::fromHex("000000186674797033677034") << Parts::Video;
+    QTest::newRow("anything") << QByteArray("\x00\x01\x02\x03", 4) << Parts::Other;
+}
+
+void Mms::kinds()
+{
+    QFETCH(QByteArray, data);
+    MmsMessage read;
+    read.parts.append({QStringLiteral("photo.png"), QString(), QString(), QStringLiteral("image/png"), data});
+    QTEST(Parts::ofMessage(read).read(0).kind, "kind");
+}
+
+QTEST_APPLESS_MAIN(Mms)
+#include "mms.moc"
