@@ -193,7 +193,7 @@ static void addMeanings(const char *rows)
 static QString meaning(const Parts &parts, const QString &src)
 {
     const int found = parts.find(src);
-    return found < 0 ? QString() : parts.name(found);
+    return found < 0 ? QString() : parts.at(found).name;
 }
 
 void Mms::srcOfMessage_data()
@@ -249,7 +249,7 @@ void Mms::srcOfFolder()
     Parts parts = Parts::ofFolder(folder.path(), folder.filePath(QStringLiteral("a")), problem);
     QCOMPARE(problem, QString());
     QCOMPARE(parts.size(), 6);
-    QCOMPARE(parts.name(parts.smil()), QStringLiteral("a"));
+    QCOMPARE(parts.at(parts.smil()).name, QStringLiteral("a"));
     QFETCH(QString, src);
     QTEST(meaning(parts, src), "part");
     QCOMPARE(meaning(parts, folder.filePath(QStringLiteral("photo.png"))), QString());

@@ -51,6 +51,9 @@ static const QString duplicateRegion = QStringLiteral("duplicate-region");
 static const QString missingId = QStringLiteral("missing-id");
 static const QString missingSrc = QStringLiteral("missing-src");
 static const QString emptyTimeline = QStringLiteral("empty-timeline");
+static const QString missingPart = QStringLiteral("missing-part");
+static const QString unusedPart = QStringLiteral("unused-part");
+static const QString wrongKind = QStringLiteral("wrong-kind");
 
 /** What matters only to who writes the message back. */
 static const QString lost = QStringLiteral("lost");
@@ -59,7 +62,8 @@ static const QStringList lostFindings{lostRootSize, movedTopSize, lostInBody, lo
 QStringList findingNames()
 {
     return QStringList{unreadMeasure,   wrongMeasure, clockDuration, unknownRegion, unusedRegion,
-                       duplicateRegion, missingId,    missingSrc,    emptyTimeline, lost}
+                       duplicateRegion, missingId,    missingSrc,    emptyTimeline, missingPart,
+                       unusedPart,      wrongKind,    lost}
     + lostFindings;
 }
 
@@ -107,19 +111,44 @@ static bool isNode(const QString &name)
     return name == QLatin1String("par") || name == QLatin1String("seq");
 }
 
+/** Whether media of this name cannot be what the part holds. Sound may come in a container that is also a film's. */
+static bool isWrong(const QString &name, Parts::Kind kind)
+{
+    switch (kind) {
+    case Parts::Picture:
+    case Parts::OtherPicture:
+        return name != QLatin1String("img") && name != QLatin1String("ref");
+    case Parts::Text:
+    case Parts::Xml:
+        return name != QLatin1String("text") && name != QLatin1String("ref");
+    case Parts::Audio:
+        return name == QLatin1String("img") || name == QLatin1String("text");
+    case Parts::Video:
+        return name == QLatin1String("img") || name == QLatin1String("text");
+    default:
+        return false;
+    }
+}
+
 namespace
 {
 /** Walks the message's own DOM, which has the lines and what the model leaves out. */
 class Checker
 {
 public:
-    QList<Finding> findings(const Message &message)
+    explicit Checker(Message &from)
+        : message(from)
+    {
+    }
+
+    QList<Finding> findings()
     {
         const QDomDocument dom = readDom(message.bytes);
         const QDomElement smil = dom.documentElement();
         walk(smil, QStringLiteral("smil"));
         checkLayout(smil, message.document.header.layout);
         checkRegions();
+        checkParts(smil.lineNumber());
         const SmilNode &root = message.document.body.root;
         if (root.children.isEmpty() && root.refs.isEmpty()) {
             add(emptyTimeline, smil.firstChildElement(QStringLiteral("body")), QStringLiteral("nothing plays"));
@@ -248,6 +277,8 @@ private:
         const QString src = element.attribute(QStringLiteral("src"));
         if (src.isEmpty()) {
             add(missingSrc, element, QStringLiteral("no src: %1").arg(name));
+        } else if (message.hasParts) {
+            checkPart(element, name, src);
         }
         const QString region = element.attribute(QStringLiteral("region"));
         if (!region.isEmpty()) {
@@ -304,6 +335,31 @@ private:
         }
     }
 
+    void checkPart(const QDomElement &element, const QString &name, const QString &src)
+    {
+        const int part = message.parts.find(src);
+        if (part < 0) {
+            add(missingPart, element, QStringLiteral("no such part: src of %1").arg(name), shown(src));
+            return;
+        }
+        usedParts.insert(part);
+        const Parts::Part &read = message.parts.read(part);
+        if (isWrong(name, read.kind)) {
+            add(wrongKind, element, QStringLiteral("the part of %1 is %2:").arg(name, read.type), shown(src));
+        }
+    }
+
+    void checkParts(int line)
+    {
+        for (int i = 0; i < message.parts.size(); ++i) {
+            if (i != message.parts.smil() && !usedParts.contains(i)) {
+                add(unusedPart, line, QStringLiteral("nothing refers to the part"), shown(message.parts.at(i).name));
+            }
+        }
+    }
+
+    Message &message;
+    QSet<int> usedParts;
     QList<Finding> found;
     QHash<QString, int> known;
     QList<Region> regions;
@@ -311,10 +367,10 @@ private:
 };
 }
 
-bool check(const Message &message, const QStringList &ignored, QIODevice &out)
+bool check(Message &message, const QStringList &ignored, QIODevice &out)
 {
     bool any = false;
-    const QList<Finding> findings = Checker().findings(message);
+    const QList<Finding> findings = Checker(message).findings();
     for (const Finding &finding : findings) {
         if (ignored.contains(finding.name) || (ignored.contains(lost) && lostFindings.contains(finding.name))) {
             continue;

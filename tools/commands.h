@@ -14,14 +14,14 @@ void show(const Message &message, QIODevice &out);
 /** Writes the model to @p out as indented XML, the attributes of an element always in the same order. */
 void render(const Message &message, QIODevice &out);
 
-/** Draws the message as a picture in SVG: a frame for each element at the top of the timeline. */
-void storyboard(const Message &message, QIODevice &out);
+/** Draws the message as a picture in SVG, with the parts that it has: a frame for each thing that plays by itself. */
+void storyboard(Message &message, QIODevice &out);
 
 /**
  * Writes to @p out what its sender or receiver might want to know of the message, a line each, but for the kinds of
  * findings in @p ignored. Returns whether there was any.
  */
-bool check(const Message &message, const QStringList &ignored, QIODevice &out);
+bool check(Message &message, const QStringList &ignored, QIODevice &out);
 
 /** The names of the kinds of findings. */
 QStringList findingNames();

@@ -49,14 +49,15 @@ struct Option {
 };
 
 const Option allOptions[] = {
-    {Show | Storyboard, "plain",     "",        "Show durations as a host reads them without options."            },
-    {Render,            "keep",      "",        "Keep the size of the root-layout, and all durations, in seconds."},
-    {Storyboard,        "o output",  "OUT.svg", "Write to OUT.svg, not to standard output."                       },
-    {Check,             "ignore",    "NAME",
-     "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: "           },
-    {every,             "debug",     "",        "Print the library's debug messages."                             },
-    {every,             "h help",    "",        "Print this help."                                                },
-    {every,             "v version", "",        "Print the version."                                              },
+    {Show | Storyboard,  "plain",     "",        "Show durations as a host reads them without options."            },
+    {Render,             "keep",      "",        "Keep the size of the root-layout, and all durations, in seconds."},
+    {Storyboard,         "o output",  "OUT.svg", "Write to OUT.svg, not to standard output."                       },
+    {Storyboard | Check, "parts",     "DIR",     "The folder with the message's other parts."                      },
+    {Check,              "ignore",    "NAME",
+     "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: "            },
+    {every,              "debug",     "",        "Print the library's debug messages."                             },
+    {every,              "h help",    "",        "Print this help."                                                },
+    {every,              "v version", "",        "Print the version."                                              },
 };
 }
 
@@ -112,9 +113,9 @@ static void setUp(QCommandLineParser &parser, const Command *command)
     if (!command) {
         parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."));
     }
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A SMIL part; - is standard input."),
-                                 command ? command->name + QLatin1Char(' ') + QLatin1String(command->arguments)
-                                         : QStringLiteral("FILE..."));
+    parser.addPositionalArgument(
+        QStringLiteral("FILE"), QStringLiteral("A SMIL part, or a message as it is sent; - is standard input."),
+        command ? command->name + QLatin1Char(' ') + QLatin1String(command->arguments) : QStringLiteral("FILE..."));
 }
 
 /** The arguments that are neither options nor their values, whatever the command. */
@@ -126,6 +127,18 @@ static QStringList words(const QStringList &arguments)
     }
     parser.parse(arguments);
     return parser.positionalArguments();
+}
+
+/** Null where the option is not given, or the command has none of this name. */
+static QString valueOf(const Command &command, const QCommandLineParser &options, const QString &name)
+{
+    for (const Option &option : allOptions) {
+        const bool isIt = QString::fromLatin1(option.names).split(QLatin1Char(' ')).contains(name);
+        if (isIt && (option.kinds & command.kind) && options.isSet(name)) {
+            return options.value(name);
+        }
+    }
+    return QString();
 }
 
 static SmilParser::ReadOptions readOptions(const Command &command, const QCommandLineParser &options)
@@ -141,7 +154,7 @@ static SmilParser::ReadOptions readOptions(const Command &command, const QComman
 }
 
 /** Returns whether all went well and, for a check, nothing was found. */
-static bool run(const Command &command, const QCommandLineParser &options, const Message &message, QIODevice &out)
+static bool run(const Command &command, const QCommandLineParser &options, Message &message, QIODevice &out)
 {
     switch (command.kind) {
     case Show:
@@ -155,7 +168,7 @@ static bool run(const Command &command, const QCommandLineParser &options, const
     case Storyboard:
         break;
     }
-    const QString output = options.value(QStringLiteral("output"));
+    const QString output = valueOf(command, options, QStringLiteral("output"));
     if (!output.isEmpty() && output != QLatin1String("-")) {
         return drawTo(output, message);
     }
@@ -169,9 +182,12 @@ static int run(const Command &command, const QCommandLineParser &options)
     QFile out;
     bool written = out.open(stdout, QIODevice::WriteOnly);
     const QStringList files = options.positionalArguments().mid(1);
+    const QString folder = valueOf(command, options, QStringLiteral("parts"));
     for (const QString &file : files) {
         Message message;
-        if (!readMessage(file, readOptions(command, options), message) || !run(command, options, message, out)) {
+        const bool well =
+            readMessage(file, folder, readOptions(command, options), message) && run(command, options, message, out);
+        if (!complainOfParts(message, folder) || !well) {
             status = Failure;
         }
         written = out.flush() && written; // before the next file's problems
@@ -190,9 +206,13 @@ static QString problemWith(const Command &command, const QCommandLineParser &opt
     if (files.isEmpty()) {
         return QStringLiteral("no file given.");
     }
-    const bool hasOutput = command.kind == Storyboard && options.isSet(QStringLiteral("output"));
-    if (files.contains(QString()) || (hasOutput && options.value(QStringLiteral("output")).isEmpty())) {
-        return QStringLiteral("the name of a file is empty.");
+    const QStringList names = files
+        + QStringList{valueOf(command, options, QStringLiteral("output")),
+                      valueOf(command, options, QStringLiteral("parts"))};
+    for (const QString &name : names) {
+        if (name.isEmpty() && !name.isNull()) {
+            return QStringLiteral("the name of a file is empty.");
+        }
     }
     if (command.kind == Storyboard && files.size() > 1) {
         return QStringLiteral("a storyboard is of one file.");

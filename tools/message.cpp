@@ -12,8 +12,11 @@
 #include <algorithm>
 #include <cstdio>
 
-// A presentation takes a few kilobytes. What is larger than this is none, and may have no end.
-static const qint64 largestMessage = 1024 * 1024;
+// A presentation takes a few kilobytes, and networks carry messages of less than a megabyte. What is larger than this
+// is none, and may have no end.
+static const int mebibyte = 1024 * 1024;
+static const int largestPresentation = mebibyte;
+static const int largestMessage = 8 * mebibyte;
 
 static QString lastWarning;
 
@@ -31,26 +34,61 @@ static void handleMessage(QtMsgType type, const QMessageLogContext &, const QStr
     }
 }
 
+static bool complainOf(const QString &file, const QString &problem)
+{
+    complain(file + QLatin1String(": ") + problem);
+    return false;
+}
+
+/** Reads up to @p size bytes in all. */
+static void readUpTo(QFile &file, int size, QByteArray &bytes)
+{
+    // A pipe gives what is there so far, and nothing at its end only.
+    QByteArray more;
+    do {
+        more = file.read(size - bytes.size());
+        bytes += more;
+    } while (!more.isEmpty());
+}
+
 static bool readFile(const QString &name, QByteArray &bytes)
 {
     QFile file(name);
     const bool opened =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    // A pipe gives what is there so far, and nothing at its end only.
-    QByteArray more;
-    do {
-        more = opened ? file.read(largestMessage + 1 - bytes.size()) : QByteArray();
-        bytes += more;
-    } while (!more.isEmpty());
+    int largest = largestPresentation;
+    if (opened) {
+        readUpTo(file, largest + 1, bytes);
+        if (isMms(bytes)) {
+            largest = largestMessage;
+            readUpTo(file, largest + 1, bytes);
+        }
+    }
     if (!opened || file.error() != QFileDevice::NoError) {
-        complain(name + QLatin1String(": ") + file.errorString());
-        return false;
+        return complainOf(name, file.errorString());
     }
-    if (bytes.size() > largestMessage) {
-        complain(name + QStringLiteral(": larger than %1 MiB").arg(largestMessage / (1024 * 1024)));
-        return false;
+    return bytes.size() <= largest || complainOf(name, QStringLiteral("larger than %1 MiB").arg(largest / mebibyte));
+}
+
+/** Finds the SMIL part and its companions in what was read. */
+static bool findParts(const QString &folder, Message &message)
+{
+    QString problem;
+    if (isMms(message.bytes)) {
+        problem = decodeMms(message.bytes, message.mms);
+        if (!problem.isEmpty()) {
+            return complainOf(message.file, problem);
+        }
+        message.parts = Parts::ofMessage(message.mms);
+        message.bytes = message.mms.parts.at(message.mms.smil).data;
+        if (message.bytes.size() > largestPresentation) {
+            return complainOf(message.file, QStringLiteral("the SMIL part is larger than 1 MiB"));
+        }
+    } else if (!folder.isEmpty()) {
+        message.parts = Parts::ofFolder(folder, message.file, problem);
     }
-    return true;
+    message.hasParts = message.mms.smil >= 0 || !folder.isEmpty();
+    return problem.isEmpty() || complainOf(folder, problem);
 }
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -100,13 +138,8 @@ static QString describe(SmilParser::Outcome outcome, const QByteArray &bytes)
     return lastWarning + QStringLiteral(" The root element is %1, not \"smil\".").arg(quoted(root.left(40)));
 }
 
-bool readMessage(const QString &file, SmilParser::ReadOptions options, Message &message)
+static bool parse(SmilParser::ReadOptions options, Message &message)
 {
-    qInstallMessageHandler(handleMessage);
-    message.file = file;
-    if (!readFile(file, message.bytes)) {
-        return false;
-    }
     lastWarning.clear();
     SmilParser parser(message.bytes);
     SmilParser::Outcome outcome;
@@ -114,13 +147,29 @@ bool readMessage(const QString &file, SmilParser::ReadOptions options, Message &
     int line = 0;
     int column = 0;
     message.document = parser.parse(options, &outcome, &error, &line, &column);
-
-    const bool wellFormed = outcome != SmilParser::NotWellFormed;
-    if (!wellFormed) {
+    if (outcome == SmilParser::NotWellFormed) {
         const QString what = looksLikeXml(message.bytes) ? QString() : QStringLiteral("this is no XML: ");
-        complain(QStringLiteral("%1:%2:%3: %4").arg(file).arg(line).arg(column).arg(what + error));
-    } else if (!lastWarning.isEmpty()) {
-        complain(file + QLatin1String(": ") + describe(outcome, message.bytes));
+        return complainOf(QStringLiteral("%1:%2:%3").arg(message.file).arg(line).arg(column), what + error);
     }
-    return wellFormed && lastWarning.isEmpty();
+    return lastWarning.isEmpty() || complainOf(message.file, describe(outcome, message.bytes));
+}
+
+bool readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message)
+{
+    qInstallMessageHandler(handleMessage);
+    message.file = file;
+    return readFile(file, message.bytes) && findParts(folder, message) && parse(options, message);
+}
+
+bool complainOfParts(const Message &message, const QString &folder)
+{
+    bool none = true;
+    for (int i = 0; i < message.parts.size(); ++i) {
+        const Parts::Part &part = message.parts.at(i);
+        none = none && part.problem.isEmpty();
+        if (!part.problem.isEmpty()) {
+            complainOf(folder + QLatin1Char('/') + part.name, part.problem);
+        }
+    }
+    return none;
 }

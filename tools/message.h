@@ -4,20 +4,31 @@
 #ifndef SMILTOOL_MESSAGE_H
 #define SMILTOOL_MESSAGE_H
 
+#include "mms.h"
+#include "parts.h"
+
 #include <smilparser/smilparser.h>
 
-/** A message part as the library reads it. */
+/** A presentation as the library reads it, and what came with it. */
 struct Message {
     QString file;
-    QByteArray bytes;
+    QByteArray bytes; ///< of the SMIL part alone
     SmilDocument document;
+    MmsMessage mms; ///< without parts when the file is no message as it is sent
+    bool hasParts = false;
+    Parts parts;
 };
 
 /**
- * Reads the message part @p file ("-" is standard input) into @p message, with the library's @p options. If it cannot
- * be read, is not well formed or lacks smil, head or body, says so in one line on standard error and returns false.
+ * Reads @p file ("-" is standard input), a SMIL part or a message as it is sent, into @p message, with the library's @p
+ * options. The other parts are those of the message, or else the files in @p folder unless that is empty. If the SMIL
+ * cannot be read, is not well formed or lacks smil, head or body, or if the folder cannot be read, says so in one line
+ * on standard error and returns false.
  */
-bool readMessage(const QString &file, SmilParser::ReadOptions options, Message &message);
+bool readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message);
+
+/** Says on standard error which parts could not be read when they were needed. Returns whether there was none. */
+bool complainOfParts(const Message &message, const QString &folder);
 
 /** The DOM of bytes that the library has found well formed and harmless, with the lines that the model lacks. */
 QDomDocument readDom(const QByteArray &bytes);

@@ -34,7 +34,7 @@ static bool complainOf(const QString &name, const QString &problem)
     return false;
 }
 
-static bool writeTo(const QString &name, const Message &message)
+static bool writeTo(const QString &name, Message &message)
 {
     QFile out(name);
     // Appending, since what /dev/stdout stands for may be a file that others have written to.
@@ -45,7 +45,7 @@ static bool writeTo(const QString &name, const Message &message)
     return out.error() == QFileDevice::NoError || complainOf(name, out.errorString());
 }
 
-static bool replace(const QString &name, const Message &message)
+static bool replace(const QString &name, Message &message)
 {
     QSaveFile out(name);
     if (out.open(QIODevice::WriteOnly)) {
@@ -57,7 +57,7 @@ static bool replace(const QString &name, const Message &message)
     return complainOf(name, out.errorString());
 }
 
-bool drawTo(const QString &name, const Message &message)
+bool drawTo(const QString &name, Message &message)
 {
     struct stat status;
     if (stat(QFile::encodeName(name).constData(), &status) != 0) {

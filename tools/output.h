@@ -11,6 +11,6 @@
  * it is the message itself; a device, a pipe or a descriptor (/dev/stdout) is written to. Returns false, having said
  * why on standard error, when that fails.
  */
-bool drawTo(const QString &name, const Message &message);
+bool drawTo(const QString &name, Message &message);
 
 #endif

@@ -40,7 +40,8 @@ public:
     static Parts ofMessage(const MmsMessage &message);
 
     int size() const { return int(m_parts.size()); } // never many: both kinds have a limit
-    QString name(int part) const { return m_parts.at(part).name; }
+    /** The part as far as it has been read. */
+    const Part &at(int part) const { return m_parts.at(part); }
 
     /** Which of the parts is the presentation, or -1. */
     int smil() const { return m_smil; }

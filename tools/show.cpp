@@ -112,10 +112,28 @@ static void showLayout(Outline &outline, const SmilLayout &layout)
     }
 }
 
+static void showMessage(Outline &outline, const MmsMessage &message)
+{
+    outline.text(1, QLatin1String("from"), message.from);
+    for (const QString &receiver : message.to) {
+        outline.text(1, QLatin1String("to"), receiver);
+    }
+    outline.text(1, QLatin1String("subject"), message.subject);
+    if (message.date.isValid()) {
+        outline.line(1, QLatin1String("date ") + message.date.toString(Qt::ISODate));
+    }
+    for (const MmsPart &part : message.parts) {
+        const QString name = part.name.isEmpty() ? part.location.isEmpty() ? part.id : part.location : part.name;
+        outline.line(
+            1, QStringLiteral("part %1, %2, %3 bytes").arg(quoted(name), printable(part.type)).arg(part.data.size()));
+    }
+}
+
 void show(const Message &message, QIODevice &out)
 {
     Outline outline(out);
     outline.line(0, printable(message.file));
+    showMessage(outline, message.mms);
     showHeader(outline, message.document.header);
     showLayout(outline, message.document.header.layout);
     const SmilNode &body = message.document.body.root;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "charset.h"
 #include "commands.h"
 #include "frames.h"
 #include "geometry.h"
@@ -9,6 +10,8 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QMap>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 
 #include <algorithm>
 
@@ -20,6 +23,8 @@ static const int columns = 4;
 static const double lineHeight = 15;
 static const double narrowest = 80; // that enough of a long name still fits into
 static const int mostLines = 6; // below a frame
+static const int longestText = 4000; // of which a frame shows less
+static const int mostPictureBytes = 32 * 1024 * 1024; // in one storyboard
 
 static const char style[] = R"(
 svg { color: #1c2330; font: 11px sans-serif; }
@@ -31,6 +36,8 @@ text { fill: currentColor; }
 .region { fill-opacity: 0.8; }
 .number { font-weight: bold; font-size: 13px; }
 .id { font-style: italic; }
+.rtl { direction: rtl; }
+.cross { stroke: currentColor; stroke-width: 0.75; fill: none; }
 @media (prefers-color-scheme: dark) {
   svg { color: #e6eaf0; }
   .page { fill: #171b22; }
@@ -48,9 +55,16 @@ struct Label {
     bool isId;
 };
 
+/** What plays in one region. */
+struct Content {
+    QList<const SmilRef *> drawn; ///< whose parts are drawn
+    QStringList names; ///< of all others
+    bool missing = false; ///< whether one of these has no part
+};
+
 /** What is drawn for one frame. */
 struct Picture {
-    QMap<int, QStringList> inRegions; ///< the names of what plays, by the region's index
+    QMap<int, Content> inRegions; ///< by the region's index
     QList<Label> labels;
     QStringList below; ///< what has no place on the screen, and what follows what
 };
@@ -62,7 +76,7 @@ public:
     explicit Screen(const SmilLayout &layout)
     {
         const QSizeF root = rootSize(layout);
-        const double scale = qMin(frameWidth / root.width(), frameHeight / root.height());
+        scale = qMin(frameWidth / root.width(), frameHeight / root.height());
         size = root * scale;
         for (const SmilRegion &region : layout.regions) {
             const QRectF whole = place(region, root);
@@ -71,13 +85,16 @@ public:
             }
             ids.append(elided(printable(shortened(region.id, 40)), frameWidth / 2));
             areas.append(QRectF(whole.topLeft() * scale, whole.size() * scale));
+            fits.append(region.fit);
         }
     }
 
+    double scale;
     QSizeF size;
     QHash<QString, int> indexes; ///< of the first region with each id
     QStringList ids;
     QList<QRectF> areas;
+    QStringList fits;
 };
 }
 
@@ -87,18 +104,28 @@ static QString lineBelow(const QString &name, const QString &remark = QString())
     return elided(name, frameWidth - width(remark)) + remark;
 }
 
-static void sort(const SmilRef &ref, const Screen &screen, Picture &picture)
+static bool isDrawn(Parts::Kind kind)
+{
+    return kind == Parts::Picture || kind == Parts::Text || kind == Parts::Xml;
+}
+
+static void sort(const SmilRef &ref, const Screen &screen, Message &message, Picture &picture)
 {
     const int region = screen.indexes.value(ref.region, -1);
     const QString id = quoted(elided(shortened(ref.region, 40), frameWidth / 3));
+    const int part = message.parts.find(ref.src);
+    const QString missing = message.hasParts && part < 0 ? QStringLiteral(", missing") : QString();
     if (ref.type == SmilRef::Audio || ref.region.isEmpty()) {
-        picture.below.append(lineBelow(describe(ref)));
+        picture.below.append(lineBelow(describe(ref), missing));
     } else if (region < 0) {
-        picture.below.append(lineBelow(describe(ref), QLatin1String(", no region ") + id));
+        picture.below.append(lineBelow(describe(ref), missing + QLatin1String(", no region ") + id));
     } else if (screen.areas.at(region).isEmpty()) {
-        picture.below.append(lineBelow(describe(ref), QLatin1String(", off screen in ") + id));
+        picture.below.append(lineBelow(describe(ref), missing + QLatin1String(", off screen in ") + id));
+    } else if (part >= 0 && isDrawn(message.parts.read(part).kind)) {
+        picture.inRegions[region].drawn.append(&ref);
     } else {
-        picture.inRegions[region].append(describe(ref));
+        picture.inRegions[region].names.append(describe(ref));
+        picture.inRegions[region].missing |= !missing.isEmpty();
     }
 }
 
@@ -116,16 +143,18 @@ static int freeLine(const QRectF &region, const QList<Label> &labels, int from, 
 }
 
 /** Writes the id and the names into the region where they fit. What does not is listed below the frame. */
-static void label(const QRectF &region, const QString &id, const QStringList &names, Picture &picture)
+static void label(const QRectF &region, const QString &id, const Content &content, Picture &picture)
 {
-    const bool withId = !id.isEmpty() && (names.size() + 1) * lineHeight <= region.height();
+    const QStringList &names = content.names;
+    const bool isFree = content.drawn.isEmpty();
+    const bool withId = isFree && !id.isEmpty() && (names.size() + 1) * lineHeight <= region.height();
     const QStringList lines = withId ? QStringList(id) + names : names;
     int next = 0;
     for (int i = 0; i < lines.size(); ++i) {
         const bool isId = withId && i == 0;
         const QString text = region.width() < narrowest ? lines.at(i) : elided(lines.at(i), region.width() - 8);
         const double length = width(text) + 8;
-        const bool fits = length <= region.width() && next >= 0;
+        const bool fits = isFree && length <= region.width() && next >= 0;
         const int line = fits ? freeLine(region, picture.labels, next, length) : -1;
         if (line >= 0) {
             picture.labels.append({QRectF(region.x(), region.y() + line * lineHeight, length, lineHeight), text, isId});
@@ -137,31 +166,17 @@ static void label(const QRectF &region, const QString &id, const QStringList &na
     }
 }
 
-/** The text in lines of the width of a frame. */
-static QStringList wrapped(const QString &text)
-{
-    QStringList lines(QString{});
-    const QStringList words = text.split(QLatin1Char(' '));
-    for (const QString &word : words) {
-        if (!lines.last().isEmpty() && width(lines.last() + word) + 4 > frameWidth) {
-            lines.append(QString());
-        }
-        lines.last() += (lines.last().isEmpty() ? QString() : QStringLiteral(" ")) + elided(word, frameWidth);
-    }
-    return lines;
-}
-
-static Picture pictureOf(const Frame &frame, const Screen &screen)
+static Picture pictureOf(const Frame &frame, const Screen &screen, Message &message)
 {
     Picture picture;
     for (const SmilRef *const ref : frame.media) {
-        sort(*ref, screen, picture);
+        sort(*ref, screen, message, picture);
     }
     for (auto region = picture.inRegions.cbegin(); region != picture.inRegions.cend(); ++region) {
         label(screen.areas.at(region.key()), screen.ids.at(region.key()), region.value(), picture);
     }
     if (frame.nested) {
-        picture.below += wrapped(frame.order);
+        picture.below += wrapped(frame.order, frameWidth, mostLines);
     } else if (frame.media.isEmpty()) {
         picture.below.append(QStringLiteral("nothing plays"));
     }
@@ -172,11 +187,87 @@ static Picture pictureOf(const Frame &frame, const Screen &screen)
     return picture;
 }
 
-static void draw(Svg &svg, const Picture &picture, const Screen &screen, const QString &heading)
+namespace
+{
+/** Draws the parts, each with its data only once in a region, however many frames show it. */
+class Contents
+{
+public:
+    Contents(Svg &picture, const Screen &layout, Message &of)
+        : svg(picture)
+        , screen(layout)
+        , message(of)
+    {
+    }
+
+    void draw(const Content &content, int region)
+    {
+        const QRectF &area = screen.areas.at(region);
+        for (const SmilRef *const ref : content.drawn) {
+            const int number = message.parts.find(ref->src);
+            const Parts::Part &part = message.parts.read(number);
+            svg.beginClip(area);
+            svg.title(describe(*ref) + QLatin1String(" in ") + screen.ids.at(region));
+            if (part.kind == Parts::Picture) {
+                drawPicture(part, QStringLiteral("p%1-%2").arg(number).arg(region), region);
+            } else {
+                drawText(part, area.size());
+            }
+            svg.endGroup();
+        }
+        if (content.missing) {
+            svg.cross(area);
+        }
+    }
+
+private:
+    void drawPicture(const Parts::Part &part, const QString &id, int region)
+    {
+        if (drawn.contains(id)) {
+            svg.reuse(id);
+        } else if (part.data.size() <= left) {
+            const QString &fit = screen.fits.at(region);
+            const char *const aspectRatio = fit == QLatin1String("meet") ? "xMinYMin meet"
+                : fit == QLatin1String("slice")                          ? "xMinYMin slice"
+                : fit == QLatin1String("fill")                           ? "none"
+                                                                         : nullptr;
+            svg.image(id, part.type, part.data, screen.areas.at(region).size(), aspectRatio, screen.scale);
+            left -= part.data.size();
+            drawn.insert(id);
+        }
+    }
+
+    void drawText(const Parts::Part &part, const QSizeF &size)
+    {
+        const QString text = decoded(part.data.left(4 * longestText)).left(longestText);
+        const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
+        QStringList printed;
+        for (const QString &paragraph : paragraphs) {
+            printed.append(printable(paragraph));
+        }
+        const QStringList lines =
+            wrapped(printed.join(QLatin1Char('\n')), size.width() - 8, qMax(1, int(size.height() / lineHeight)));
+        for (int i = 0; i < lines.size(); ++i) {
+            const bool rightToLeft = lines.at(i).isRightToLeft();
+            svg.text(QPointF(rightToLeft ? size.width() - 4 : 4, (i + 0.75) * lineHeight), lines.at(i),
+                     rightToLeft ? "rtl" : nullptr);
+        }
+    }
+
+    Svg &svg;
+    const Screen &screen;
+    Message &message;
+    QSet<QString> drawn;
+    qint64 left = mostPictureBytes;
+};
+}
+
+static void draw(Svg &svg, Contents &contents, const Picture &picture, const Screen &screen, const QString &heading)
 {
     svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
     for (auto region = picture.inRegions.cbegin(); region != picture.inRegions.cend(); ++region) {
         svg.rectangle(screen.areas.at(region.key()), QStringLiteral("region r%1").arg(region.key() % 5));
+        contents.draw(region.value(), region.key());
     }
     // After all regions, so that none hides a name in another.
     for (const Label &label : picture.labels) {
@@ -202,14 +293,14 @@ static QString summary(const QList<Frame> &frames)
     return all.isEmpty() ? QStringLiteral("Nothing plays.") : all.join(QLatin1String("; "));
 }
 
-void storyboard(const Message &message, QIODevice &out)
+void storyboard(Message &message, QIODevice &out)
 {
     const Screen screen(message.document.header.layout);
     const QList<Frame> frames = framesOf(message.document.body.root);
     QList<Picture> pictures;
     double lines = 0;
     for (const Frame &frame : frames) {
-        pictures.append(pictureOf(frame, screen));
+        pictures.append(pictureOf(frame, screen, message));
         lines = qMax<double>(lines, pictures.last().below.size());
     }
     const double cellWidth = frameWidth + margin;
@@ -224,9 +315,10 @@ void storyboard(const Message &message, QIODevice &out)
     if (frames.isEmpty()) {
         svg.text(QPointF(margin, 2 * lineHeight), QStringLiteral("Nothing plays."));
     }
+    Contents contents(svg, screen, message);
     for (int i = 0; i < frames.size(); ++i) {
         svg.beginGroup(QPointF(margin + i % columns * cellWidth, margin + i / columns * cellHeight));
-        draw(svg, pictures.at(i), screen, QStringLiteral("%1 \u00b7 %2").arg(i + 1).arg(frames.at(i).dur));
+        draw(svg, contents, pictures.at(i), screen, QStringLiteral("%1 \u00b7 %2").arg(i + 1).arg(frames.at(i).dur));
         svg.endGroup();
     }
     if (frames.size() == mostFrames) {

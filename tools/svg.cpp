@@ -68,6 +68,45 @@ void Svg::text(const QPointF &at, const QString &line, const char *kind)
     writer.writeEndElement();
 }
 
+void Svg::title(const QString &text)
+{
+    writer.writeTextElement(QStringLiteral("title"), text);
+}
+
+void Svg::cross(const QRectF &edges)
+{
+    writer.writeEmptyElement(QStringLiteral("path"));
+    writer.writeAttribute(QStringLiteral("d"),
+                          QStringLiteral("M%1 %2 %3 %4M%1 %4 %3 %2")
+                              .arg(edges.left())
+                              .arg(edges.top())
+                              .arg(edges.right())
+                              .arg(edges.bottom()));
+    writer.writeAttribute(QStringLiteral("class"), QStringLiteral("cross"));
+}
+
+void Svg::image(const QString &id, const QString &type, const QByteArray &data, const QSizeF &size,
+                const char *aspectRatio, double scale)
+{
+    writer.writeEmptyElement(QStringLiteral("image"));
+    writer.writeAttribute(QStringLiteral("id"), id);
+    if (aspectRatio) {
+        attribute("width", size.width());
+        attribute("height", size.height());
+        writer.writeAttribute(QStringLiteral("preserveAspectRatio"), QLatin1String(aspectRatio));
+    } else {
+        writer.writeAttribute(QStringLiteral("transform"), QStringLiteral("scale(%1)").arg(scale));
+    }
+    writer.writeAttribute(QStringLiteral("href"),
+                          QLatin1String("data:") + type + QLatin1String(";base64,") + QLatin1String(data.toBase64()));
+}
+
+void Svg::reuse(const QString &id)
+{
+    writer.writeEmptyElement(QStringLiteral("use"));
+    writer.writeAttribute(QStringLiteral("href"), QLatin1Char('#') + id);
+}
+
 void Svg::attribute(const char *name, double value)
 {
     writer.writeAttribute(QLatin1String(name), QString::number(value));

@@ -23,8 +23,19 @@ public:
     void beginClip(const QRectF &area);
     void endGroup();
 
+    /** What a viewer says of the element that this is in. */
+    void title(const QString &text);
     void rectangle(const QRectF &area, const QString &kind);
+    void cross(const QRectF &area);
     void text(const QPointF &at, const QString &line, const char *kind = nullptr);
+
+    /**
+     * A picture of the given type, "image/png" for example, that reuse() draws again by its @p id. It is fitted into
+     * @p size as the aspect ratio says ("none" is one), or drawn in its own size times @p scale when that is null.
+     */
+    void image(const QString &id, const QString &type, const QByteArray &data, const QSizeF &size,
+               const char *aspectRatio, double scale);
+    void reuse(const QString &id);
 
 private:
     void attribute(const char *name, double value);

@@ -111,3 +111,46 @@ QString elided(const QString &text, double most)
     }
     return text.left(kept) + end;
 }
+
+/** Where the line that begins at @p from ends: at a break or, in a word longer than it, between two letters. */
+static int endOfLine(const QString &text, int from, double most)
+{
+    for (const auto unit : {QTextBoundaryFinder::Line, QTextBoundaryFinder::Grapheme}) {
+        QTextBoundaryFinder finder(unit, text);
+        finder.setPosition(from);
+        int end = from;
+        for (auto next = finder.toNextBoundary(); next > 0; next = finder.toNextBoundary()) {
+            if (width(text.mid(from, next - from).trimmed()) > most) {
+                break;
+            }
+            end = int(next);
+        }
+        if (end > from) {
+            return end;
+        }
+    }
+    return from + 1;
+}
+
+QStringList wrapped(const QString &text, double most, int count)
+{
+    QStringList lines;
+    const QStringList paragraphs = text.split(QLatin1Char('\n'));
+    for (const QString &paragraph : paragraphs) {
+        int from = 0;
+        do {
+            if (lines.size() == count) {
+                QString &last = lines.last();
+                while (!last.isEmpty() && width(last) + 11 > most) {
+                    last.chop(last.size() > 1 && last.back().isLowSurrogate() ? 2 : 1);
+                }
+                last += QChar(0x2026);
+                return lines;
+            }
+            const int end = paragraph.isEmpty() ? 0 : endOfLine(paragraph, from, most);
+            lines.append(paragraph.mid(from, end - from).trimmed());
+            from = end;
+        } while (from < paragraph.size());
+    }
+    return lines;
+}

@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_TEXT_H
 #define SMILTOOL_TEXT_H
 
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 /**
  * The text with what a terminal would obey or hide (control and format characters, but no joiner inside a word) written
@@ -27,5 +27,8 @@ double width(const QString &text);
 /** The text if it is no longer than @p most. If it is, "\u2026" stands for its end up to the extension.
  */
 QString elided(const QString &text, double most);
+
+/** The text in lines that are no longer than @p most; "\u2026" ends the last when there are more than @p count. */
+QStringList wrapped(const QString &text, double most, int count);
 
 #endif
