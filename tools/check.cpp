@@ -352,10 +352,17 @@ private:
     void checkParts(int line)
     {
         for (int i = 0; i < message.parts.size(); ++i) {
-            if (i != message.parts.smil() && !usedParts.contains(i)) {
+            if (!usedParts.contains(i) && !isPresentation(i)) {
                 add(unusedPart, line, QStringLiteral("nothing refers to the part"), shown(message.parts.at(i).name));
             }
         }
+    }
+
+    /** Whether the part is the SMIL itself, or a copy of what came from elsewhere, such as standard input. */
+    bool isPresentation(int part)
+    {
+        const int smil = message.parts.smil();
+        return part == smil || (smil < 0 && message.parts.read(part).data == message.bytes);
     }
 
     Message &message;

@@ -3,10 +3,10 @@
 
 #include "mms.h"
 #include "charset.h"
+#include "mediatypes.h"
 #include "parts.h"
 
 #include <cstring>
-#include <utility>
 
 // A part or a receiver takes three bytes of the message, and much more than that once it is read.
 static const int most = 1000;
@@ -84,20 +84,6 @@ struct Bytes {
 };
 }
 
-// Of the public list of assigned numbers, what messages are made of.
-static const std::pair<quint64, const char *> mediaTypes[] = {
-    {0x02, "text/html"                                },
-    {0x03, "text/plain"                               },
-    {0x07, "text/x-vcard"                             },
-    {0x1D, "image/gif"                                },
-    {0x1E, "image/jpeg"                               },
-    {0x20, "image/png"                                },
-    {0x21, "image/vnd.wap.wbmp"                       },
-    {0x23, "application/vnd.wap.multipart.mixed"      },
-    {0x26, "application/vnd.wap.multipart.alternative"},
-    {0x33, "application/vnd.wap.multipart.related"    },
-};
-
 /** An encoded string: a text, or data that begins with the number of its character set. */
 static QString textOf(Bytes value)
 {
@@ -116,13 +102,7 @@ static QString typeOf(const Bytes &value)
         const QString text = QString::fromLatin1(value.all());
         return text.left(text.indexOf(QLatin1Char(';'))).trimmed().toLower();
     }
-    const quint64 said = value.number();
-    for (const auto &[number, name] : mediaTypes) {
-        if (number == said) {
-            return QLatin1String(name);
-        }
-    }
-    return QStringLiteral("0x%1").arg(said, 2, 16, QLatin1Char('0'));
+    return mediaType(value.number());
 }
 
 /** Reads a content type or a disposition: a value, or data with a value and parameters. Returns the value. */

@@ -209,7 +209,7 @@ public:
             svg.beginClip(area);
             svg.title(describe(*ref) + QLatin1String(" in ") + screen.ids.at(region));
             if (part.kind == Parts::Picture) {
-                drawPicture(part, QStringLiteral("p%1-%2").arg(number).arg(region), region);
+                drawPicture(part, QStringLiteral("p%1-%2").arg(number).arg(region), region, describe(*ref));
             } else {
                 drawText(part, area.size());
             }
@@ -221,7 +221,7 @@ public:
     }
 
 private:
-    void drawPicture(const Parts::Part &part, const QString &id, int region)
+    void drawPicture(const Parts::Part &part, const QString &id, int region, const QString &name)
     {
         if (drawn.contains(id)) {
             svg.reuse(id);
@@ -234,6 +234,8 @@ private:
             svg.image(id, part.type, part.data, screen.areas.at(region).size(), aspectRatio, screen.scale);
             left -= part.data.size();
             drawn.insert(id);
+        } else {
+            svg.text(QPointF(4, 0.75 * lineHeight), name);
         }
     }
 
