@@ -6,6 +6,8 @@
 
 #include "grammar.h"
 
+#include <QtCore/QThread>
+
 #include <ctime>
 #include <memory>
 

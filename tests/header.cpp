@@ -8,6 +8,10 @@
 
 #include <cstddef>
 
+// Hosts store the numbers.
+static_assert(SmilNode::Seq == 1 && SmilNode::Par == 2 && SmilRef::Text == 0 && SmilRef::Img == 1, "fixed");
+static_assert(SmilRef::Audio == 2 && SmilRef::Video == 3 && SmilRef::Ref == 4, "fixed");
+
 void callWithoutOptions(SmilParser &parser);
 void callWithOptions(SmilParser &parser);
 

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_CASES_H
+#define SMILPARSER_CASES_H
+
+#include <QtTest/QtTest>
+
+#include <algorithm>
+
+/** @p text, in which "{3*a#}" stands for "a0a1a2" and "\\u00e9" for a character by its number. */
+inline QString expanded(QString text)
+{
+    static const QRegularExpression repeated(QStringLiteral("\\{(\\d+)\\*([^{}]*)\\}"));
+    for (QRegularExpressionMatch match; (match = repeated.match(text)).hasMatch();) {
+        QString all;
+        for (int i = 0; i < match.captured(1).toInt(); ++i) {
+            all += match.captured(2).replace(QLatin1Char('#'), QString::number(i));
+        }
+        text.replace(match.capturedStart(), match.capturedLength(), all);
+    }
+    static const QRegularExpression number(QStringLiteral("\\\\u([0-9a-f]{4})"));
+    int shorter = 0;
+    for (auto numbers = number.globalMatch(text); numbers.hasNext(); shorter += 5) {
+        const QRegularExpressionMatch match = numbers.next();
+        text.replace(match.capturedStart() - shorter, 6, QChar(match.captured(1).toUShort(nullptr, 16)));
+    }
+    return text;
+}
+
+/**
+ * Makes the columns and rows of the table cases/@p name. Its first line names the columns. Each other has a name and a
+ * text for each column, divided by " | ": "~" is null, "\n" ends a line, and the rest is expanded(). Lines with "#" in
+ * front say something to the reader, and "end" is the last one, without which the file is cut off.
+ */
+inline void addCases(const char *name)
+{
+    QFile file(QFINDTESTDATA("cases/") + QLatin1String(name));
+    QVERIFY2(file.open(QIODevice::ReadOnly), name);
+    static QByteArrayList columns; // the table does not copy their names
+    columns.clear();
+    QSet<QString> names;
+    QString line;
+    while (file.bytesAvailable() > 0 && line != QLatin1String("end")) {
+        line = QString::fromUtf8(file.readLine()).remove(QLatin1Char('\n'));
+        QStringList texts = line.split(QLatin1String(" | "));
+        const QString rowName = texts.takeFirst();
+        if (texts.isEmpty() && (line.startsWith(QLatin1Char('#')) || line == QLatin1String("end"))) {
+            continue;
+        }
+        if (columns.isEmpty()) {
+            columns = texts.join(QLatin1Char('|')).toLatin1().split('|');
+            for (const QByteArray &column : std::as_const(columns)) {
+                QTest::addColumn<QString>(column.constData());
+            }
+            continue;
+        }
+        QVERIFY2(texts.size() == columns.size() && !names.contains(rowName),
+                 "not a text per column, or a second case of that name: " + line.toUtf8());
+        names.insert(rowName);
+        QTestData &row = QTest::newRow(rowName.toUtf8().constData());
+        for (QString &text : texts) {
+            row << (text == QLatin1String("~") ? QString()
+                                               : expanded(text.replace(QLatin1String("\\n"), QLatin1String("\n"))));
+        }
+    }
+    QVERIFY2(line == QLatin1String("end"), name);
+}
+
+/** Says what a host sees and what it ought to see, both from a little before they part. */
+inline QByteArray difference(const QString &does, const QString &seen, const QString &expected)
+{
+    const auto part = std::mismatch(seen.begin(), seen.end(), expected.begin(), expected.end());
+    const auto begin = qMax<qint64>(0, part.first - seen.begin() - 300);
+    const auto shown = [](const QString &text, qint64 from) {
+        return (from ? QStringLiteral("...") : QString()) + text.mid(int(from), 600)
+            + (text.size() > from + 600 ? QStringLiteral("... (%1 characters)").arg(text.size()) : QString());
+    };
+    return QStringLiteral("a host that %1\n--- sees\n%2\n--- and not\n%3")
+        .arg(shown(does, 0), shown(seen, begin), shown(expected, begin))
+        .toUtf8();
+}
+
+/** Fails unless a host that @p does something sees what is expected. */
+#define COMPARE_SEEN(does, seen, expected) \
+    do { \
+        const QString seenHere = seen; \
+        const QString expectedHere = expected; \
+        if (seenHere != expectedHere) { \
+            QFAIL(difference(does, seenHere, expectedHere).constData()); \
+        } \
+    } while (false)
+
+#endif

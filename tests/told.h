@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_TOLD_H
+#define SMILPARSER_TOLD_H
+
+#include "messages.h"
+#include "outline.h"
+
+/** All that a host is told of the input: the messages, and the model. */
+inline QString toldByLibrary(const QByteArray &input)
+{
+    Messages messages(0);
+    SmilParser parser(input);
+    const QString model = Outline::of(parser.parse());
+    parser.getContent();
+    return messages.take() + model;
+}
+
+/** The same, from the XML reader without the library before it. */
+inline QString toldByReaderAlone(QByteArray input)
+{
+    Messages messages(0);
+    QBuffer buffer(&input);
+    buffer.open(QIODevice::ReadOnly);
+    QDomDocument dom;
+    QString error;
+    int line = 0;
+    int column = 0;
+    SmilParser parser((SmilDocument()));
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED // from Qt 6.8, in favour of one that Qt 5 and 6.4 do not have
+        const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
+    QT_WARNING_POP
+    if (!wellFormed) {
+        qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", qPrintable(error), line, column);
+    } else if (QDomElement smil = dom.firstChildElement(QStringLiteral("smil")); smil.isNull()) {
+        qWarning("Fail to find SMIL document!");
+    } else {
+        parser.parseSmilDocument(smil);
+    }
+    const QString told = messages.take();
+    return told + Outline::of(parser.parse()); // finds no input, so that the model stays
+}
+
+inline bool isRefused(const QString &told)
+{
+    return told.contains(QLatin1String("warning: Fail to parse"));
+}
+
+/** Each code unit of @p text in @p width bytes, after a byte order mark when it is @p marked. */
+inline QByteArray wide(const QString &text, int width, bool bigEndian, bool marked)
+{
+    const QString units = (marked ? QString(QChar(QChar::ByteOrderMark)) : QString()) + text;
+    QByteArray bytes(int(units.size()) * width, '\0');
+    for (int i = 0; i < int(units.size()); ++i) {
+        const ushort unit = units.at(i).unicode();
+        bytes[i * width + (bigEndian ? width - 1 : 0)] = char(unit & 0xff);
+        bytes[i * width + (bigEndian ? width - 2 : 1)] = char(unit >> 8);
+    }
+    return bytes;
+}
+
+#endif
