@@ -6,10 +6,7 @@
 
 #include "grammar.h"
 
-#include <QtCore/QThread>
-
 #include <ctime>
-#include <memory>
 
 bool MMSLogger::qdebugEnabled = false;
 
@@ -21,7 +18,7 @@ static const double negligible = 0.03; // seconds, in which nobody is kept waiti
 static double timeOf(const QByteArray &input)
 {
     double seconds = 0;
-    const std::unique_ptr<QThread> thread(QThread::create([&] {
+    onSmallStack([&] {
         timespec begin;
         timespec end;
         clock_gettime(CLOCK_THREAD_CPUTIME_ID, &begin);
@@ -32,10 +29,7 @@ static double timeOf(const QByteArray &input)
         }
         clock_gettime(CLOCK_THREAD_CPUTIME_ID, &end);
         seconds = double(end.tv_sec - begin.tv_sec) + double(end.tv_nsec - begin.tv_nsec) / 1e9;
-    }));
-    thread->setStackSize(512 * 1024);
-    thread->start();
-    thread->wait();
+    });
     return seconds;
 }
 

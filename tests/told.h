@@ -7,6 +7,22 @@
 #include "messages.h"
 #include "outline.h"
 
+#include <QtCore/QThread>
+
+#include <memory>
+
+/** Calls @p function on a stack such as SECURITY.md promises to do with. */
+template<typename Function>
+inline void onSmallStack(Function function)
+{
+    const std::unique_ptr<QThread> thread(QThread::create(function));
+#ifndef __SANITIZE_ADDRESS__ // which takes several times the stack
+    thread->setStackSize(512 * 1024);
+#endif
+    thread->start();
+    thread->wait();
+}
+
 /** All that a host is told of the input: the messages, and the model. */
 inline QString toldByLibrary(const QByteArray &input)
 {
