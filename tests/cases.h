@@ -30,41 +30,31 @@ inline QString expanded(QString text)
 
 /**
  * Makes the columns and rows of the table cases/@p name. Its first line names the columns. Each other has a name and a
- * text for each column, divided by " | ": "~" is null, "\n" ends a line, and the rest is expanded(). Lines with "#" in
- * front say something to the reader, and "end" is the last one, without which the file is cut off.
+ * text for each column, divided by " | ": "~" is null, "\n" ends a line, and the rest is expanded(). The last line is
+ * "end": without it, the file is cut off. A line with "#" in front is for the reader.
  */
 inline void addCases(const char *name)
 {
     QFile file(QFINDTESTDATA("cases/") + QLatin1String(name));
     QVERIFY2(file.open(QIODevice::ReadOnly), name);
-    static QByteArrayList columns; // the table does not copy their names
-    columns.clear();
-    QSet<QString> names;
-    QString line;
-    while (file.bytesAvailable() > 0 && line != QLatin1String("end")) {
-        line = QString::fromUtf8(file.readLine()).remove(QLatin1Char('\n'));
+    const QString table = QString::fromUtf8(file.readAll());
+    QVERIFY2(table.endsWith(QLatin1String("\nend\n")), name + QByteArray(" is cut off: its last line is not \"end\""));
+    static const QRegularExpression notForTheReader(QStringLiteral("^[^#]"));
+    QStringList lines = table.chopped(5).split(QLatin1Char('\n')).filter(notForTheReader);
+    static QByteArrayList columns; // QTest does not copy their names
+    columns = lines.takeFirst().replace(QLatin1String(" | "), QLatin1String("|")).toLatin1().split('|').mid(1);
+    for (const QByteArray &column : std::as_const(columns)) {
+        QTest::addColumn<QString>(column.constData());
+    }
+    for (const QString &line : std::as_const(lines)) {
         QStringList texts = line.split(QLatin1String(" | "));
-        const QString rowName = texts.takeFirst();
-        if (texts.isEmpty() && (line.startsWith(QLatin1Char('#')) || line == QLatin1String("end"))) {
-            continue;
-        }
-        if (columns.isEmpty()) {
-            columns = texts.join(QLatin1Char('|')).toLatin1().split('|');
-            for (const QByteArray &column : std::as_const(columns)) {
-                QTest::addColumn<QString>(column.constData());
-            }
-            continue;
-        }
-        QVERIFY2(texts.size() == columns.size() && !names.contains(rowName),
-                 "not a text per column, or a second case of that name: " + line.toUtf8());
-        names.insert(rowName);
-        QTestData &row = QTest::newRow(rowName.toUtf8().constData());
+        QVERIFY2(texts.size() == columns.size() + 1, "not a name and a text for each column: " + line.toUtf8());
+        QTestData &row = QTest::newRow(texts.takeFirst().toUtf8().constData());
         for (QString &text : texts) {
-            row << (text == QLatin1String("~") ? QString()
-                                               : expanded(text.replace(QLatin1String("\\n"), QLatin1String("\n"))));
+            text.replace(QLatin1String("\\n"), QLatin1String("\n"));
+            row << (text == QLatin1String("~") ? QString() : expanded(text));
         }
     }
-    QVERIFY2(line == QLatin1String("end"), name);
 }
 
 /** Says what a host sees and what it ought to see, both from a little before they part. */

@@ -46,21 +46,26 @@ static void checkWhole(const SmilDocument &model, const QString &expected)
     QVERIFY2(isShared(held.header.layout.regions, model.header.layout.regions), "writing copied the regions");
 }
 
+/** The outline of what was rendered, which the host may attach where it likes. */
+static QString piece(const QDomElement &element)
+{
+    return element.parentNode().isNull() ? Outline::of(element) : QStringLiteral("attached: ") + Outline::of(element);
+}
+
 static void checkPieces(SmilDocument model, const QString &expected)
 {
     const QString renders = QStringLiteral("renders the %1 of ") + Outline::of(model);
     SmilParser parser((QByteArray()));
-    const QString head = Outline::of(parser.render(model.header));
-    const QString body = Outline::of(parser.render(model.body));
+    const QString head = piece(parser.render(model.header));
+    const QString body = piece(parser.render(model.body));
     QString nodes;
     for (SmilNode &node : model.body.root.children) {
-        nodes += Outline::of(parser.render(node));
+        nodes += piece(parser.render(node));
     }
-    COMPARE_SEEN(renders.arg(QStringLiteral("whole")), Outline::of(parser.render(model)), expected);
-    QVERIFY2(parser.render(model).parentNode().isNull(), "what was rendered is attached to a document");
+    COMPARE_SEEN(renders.arg(QStringLiteral("whole")), piece(parser.render(model)), expected);
     COMPARE_SEEN(renders.arg(QStringLiteral("halves")), QStringLiteral("<smil>%1%2</smil>").arg(head, body), expected);
     COMPARE_SEEN(renders.arg(QStringLiteral("nodes")), nodes, body.mid(6).chopped(nodes.isEmpty() ? 1 : 7));
-    COMPARE_SEEN(renders.arg(QStringLiteral("layout")), Outline::of(parser.render(model.header.layout)),
+    COMPARE_SEEN(renders.arg(QStringLiteral("layout")), piece(parser.render(model.header.layout)),
                  head.mid(head.indexOf(QStringLiteral("<layout>"))).chopped(7));
 }
 
@@ -142,8 +147,9 @@ void Writing::edits()
     const SmilDocument empty;
     SmilDocument edited = empty;
     edit(edited);
-    COMPARE_SEEN(QStringLiteral("edits a copy"), Outline::of(edited), model);
-    COMPARE_SEEN(QStringLiteral("edits a copy of the model"), Outline::of(empty), QStringLiteral("<body/>"));
+    COMPARE_SEEN(QStringLiteral("edits a model"), Outline::of(edited), model);
+    COMPARE_SEEN(QStringLiteral("copied it from an empty model and looks at that"), Outline::of(empty),
+                 QStringLiteral("<body/>"));
     checkWhole(edited, document);
     checkPieces(edited, document);
 }
