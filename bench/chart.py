@@ -7,9 +7,7 @@ from html import escape
 WIDTH = 760
 LEFT = 230  # where bars begin
 RIGHT = 210  # what is kept free for the numbers behind the longest
-BAR = 18
-STEP = 26
-TOP = 62
+BAR, STEP, TOP = 18, 26, 62
 
 STYLE = """
     text { font: 14px system-ui, sans-serif; fill: #1f2328; }

@@ -15,68 +15,67 @@ import subprocess
 import sys
 import tempfile
 
-from table import table
+QTS = {"Qt 6": "build/bench-qt6/bench/bench", "Qt 5": "build/bench-qt5/bench/bench"}
 
-QTS = {"Qt 6": "build/bench-qt6/bench", "Qt 5": "build/bench-qt5/bench"}
-
-# What the work may cost of its floor, by number of slides. docs/performance.md says what stands in the way of Qt 5.
+# What the work may cost of its floor. docs/performance.md says what stands in the way of Qt 5.
 BARS = {
-    ("parse", 3, "Qt 6"): 1.20,
-    ("parse", 3, "Qt 5"): 1.20,
-    ("parse", 1000, "Qt 6"): 1.08,
-    ("parse", 1000, "Qt 5"): 1.10,
-    ("write", 3, "Qt 6"): 1.00,
-    ("write", 3, "Qt 5"): 1.00,
-    ("write", 1000, "Qt 6"): 1.00,
-    ("write", 1000, "Qt 5"): 1.00,
+    ("parse", 3): {"Qt 6": 1.20, "Qt 5": 1.20},
+    ("parse", 1000): {"Qt 6": 1.08, "Qt 5": 1.10},
+    ("write", 3): {"Qt 6": 1.00, "Qt 5": 1.00},
+    ("write", 1000): {"Qt 6": 1.00, "Qt 5": 1.00},
 }
 # How far the cost of a slide may be from that in the message of 1,000.
 STRAIGHT = 0.05
 
-Ratio = collections.namedtuple("Ratio", "work slides qt own floor ratio bar kept")
+Ratio = collections.namedtuple("Ratio", "work slides qt own floor ratio bar verdict")
 
 
-def count(folder, work, slides):
-    """The instructions of one pass after a warm-up. The hash seed is fixed, so that every run counts the same."""
-    with tempfile.TemporaryDirectory() as scratch:
-        out = os.path.join(scratch, "out")
-        subprocess.run(["valgrind", "--tool=callgrind", "--quiet", "--instr-atstart=no", f"--callgrind-out-file={out}",
-                        f"{folder}/instructions", work, str(slides)],
-                       check=True, env={**os.environ, "QT_HASH_SEED": "0"})
-        with open(out, encoding="utf-8") as file:
-            return int(re.search(r"^totals: (\d+)$", file.read(), re.MULTILINE).group(1))
+def verdict(kept):
+    return "kept" if kept else "**missed**"
+
+
+def table(columns, rows):
+    """A table in Markdown; a column whose heading begins with "#" is one of numbers."""
+    lines = [[column.lstrip("#") for column in columns],
+             ["--:" if column.startswith("#") else "---" for column in columns], *rows]
+    return "".join("| " + " | ".join(line) + " |\n" for line in lines)
+
+
+def count(qt, contender, slides):
+    """The instructions of one pass. The hash seed is fixed, so that every run counts the same."""
+    with tempfile.NamedTemporaryFile() as file:
+        subprocess.run(["valgrind", "--tool=callgrind", "--quiet", "--instr-atstart=no",
+                        f"--callgrind-out-file={file.name}", QTS[qt], "once", contender, str(slides)],
+                       check=True, stdout=subprocess.DEVNULL, env={**os.environ, "QT_HASH_SEED": "0"})
+        return int(re.search(rb"^totals: (\d+)$", file.read(), re.MULTILINE)[1])
 
 
 def of_floor():
     """The cost of each work with a bar, of its floor."""
-    for (work, slides, qt), bar in BARS.items():
-        own = count(QTS[qt], work, slides)
-        floor = count(QTS[qt], f"floor-{work}", slides)
-        yield Ratio(work, slides, qt, own, floor, own / floor, bar, own <= bar * floor)
+    for (work, slides), bars in BARS.items():
+        for qt, bar in bars.items():
+            own, floor = count(qt, work, slides), count(qt, f"floor-{work}", slides)
+            yield Ratio(work, slides, qt, own, floor, own / floor, bar, verdict(own <= bar * floor))
 
 
 def of_thousand(many, ratios):
     """The cost of a slide in a message of that many, of one in the message of 1,000."""
     for few in ratios:
         if few.slides == 1000:
-            own = count(QTS[few.qt], few.work, many) / many
-            floor = few.own / 1000
-            yield Ratio(few.work, many, few.qt, own, floor, own / floor, STRAIGHT, abs(own / floor - 1) <= STRAIGHT)
-
-
-def verdict(ratio):
-    return "kept" if ratio.kept else "**missed**"
+            own, floor = count(few.qt, few.work, many) / many, few.own / 1000
+            yield Ratio(few.work, many, few.qt, own, floor, own / floor, STRAIGHT,
+                        verdict(abs(own / floor - 1) <= STRAIGHT))
 
 
 def floor_table(ratios):
     return table(["Work", "#Slides", "Qt", "#Ratio", "#Bar", "", "#Instructions", "#Floor"],
-                 [[r.work, f"{r.slides:,}", r.qt, f"{r.ratio:.3f}", f"{r.bar:.2f}", verdict(r), f"{r.own:,}",
+                 [[r.work, f"{r.slides:,}", r.qt, f"{r.ratio:.3f}", f"{r.bar:.2f}", r.verdict, f"{r.own:,}",
                    f"{r.floor:,}"] for r in ratios])
 
 
 def thousand_table(ratios):
     return table(["Work", "Qt", "#Slides", "#Ratio", "#Bar", "", "#Per slide", "#Per slide of 1,000"],
-                 [[r.work, r.qt, f"{r.slides:,}", f"{r.ratio:.3f}", f"1 ± {r.bar:.2f}", verdict(r), f"{r.own:,.0f}",
+                 [[r.work, r.qt, f"{r.slides:,}", f"{r.ratio:.3f}", f"1 ± {r.bar:.2f}", r.verdict, f"{r.own:,.0f}",
                    f"{r.floor:,.0f}"] for r in ratios])
 
 
@@ -89,7 +88,7 @@ def main():
     print(floor_table(ratios), flush=True)
     straight = list(of_thousand(many, ratios))
     print(thousand_table(straight))
-    return 0 if all(ratio.kept for ratio in ratios + straight) else 1
+    return 0 if all(ratio.verdict == verdict(True) for ratio in ratios + straight) else 1
 
 
 if __name__ == "__main__":

@@ -3,28 +3,6 @@
 
 #include "slides.h"
 
-class Q_DECL_EXPORT MMSLogger
-{
-public:
-    static bool qdebugEnabled;
-};
-bool MMSLogger::qdebugEnabled = false;
-
-QByteArray slidesText(int slides)
-{
-    QByteArray text = "<smil>\n<head>\n<layout>\n<root-layout width=\"320px\" height=\"240px\"/>\n"
-                      "<region id=\"Image\" width=\"100%\" height=\"70%\" top=\"0%\" left=\"0%\" fit=\"meet\"/>\n"
-                      "<region id=\"Text\" width=\"100%\" height=\"30%\" top=\"70%\" left=\"0%\" fit=\"scroll\"/>\n"
-                      "</layout>\n</head>\n<body>\n";
-    for (int i = 0; i < slides; ++i) {
-        const QByteArray number = QByteArray::number(i);
-        const QByteArray seconds = QByteArray::number(3 + i % 8);
-        text += "<par dur=\"" + seconds + "s\">\n<img src=\"picture" + number
-            + ".jpg\" region=\"Image\"/>\n<text src=\"text" + number + ".txt\" region=\"Text\"/>\n</par>\n";
-    }
-    return text + "</body>\n</smil>\n";
-}
-
 static SmilRegion region(const QString &id, const QString &height, const QString &top, const QString &fit)
 {
     SmilRegion region;
@@ -37,25 +15,20 @@ static SmilRegion region(const QString &id, const QString &height, const QString
     return region;
 }
 
-static SmilRef ref(SmilRef::Type type, const QString &src, const QString &region)
-{
-    SmilRef ref(type);
-    ref.src = src;
-    ref.region = region;
-    return ref;
-}
-
 static SmilNode slide(int i)
 {
     const QString number = QString::number(i);
     SmilNode slide(SmilNode::Par);
     slide.dur = SmilUnit(QString::number(3 + i % 8) + QLatin1Char('s'));
-    slide.refs = {ref(SmilRef::Img, QLatin1String("picture") + number + QLatin1String(".jpg"), QStringLiteral("Image")),
-                  ref(SmilRef::Text, QLatin1String("text") + number + QLatin1String(".txt"), QStringLiteral("Text"))};
+    slide.refs = {SmilRef(SmilRef::Img), SmilRef(SmilRef::Text)};
+    slide.refs[0].src = QLatin1String("picture") + number + QLatin1String(".jpg");
+    slide.refs[0].region = QStringLiteral("Image");
+    slide.refs[1].src = QLatin1String("text") + number + QLatin1String(".txt");
+    slide.refs[1].region = QStringLiteral("Text");
     return slide;
 }
 
-SmilDocument slidesModel(int slides)
+Message slidesModel(int slides)
 {
     SmilDocument model;
     SmilLayout &layout = model.header.layout;
@@ -67,27 +40,36 @@ SmilDocument slidesModel(int slides)
     for (int i = 0; i < slides; ++i) {
         model.body.root.children.append(slide(i));
     }
-    return model;
+    return {QByteArray(), model};
 }
 
-static QString joined(const SmilUnit &measure, QLatin1String suffix)
+Message slidesText(int slides)
+{
+    QByteArray text = "<smil>\n<head>\n<layout>\n<root-layout width=\"320px\" height=\"240px\"/>\n"
+                      "<region id=\"Image\" width=\"100%\" height=\"70%\" top=\"0%\" left=\"0%\" fit=\"meet\"/>\n"
+                      "<region id=\"Text\" width=\"100%\" height=\"30%\" top=\"70%\" left=\"0%\" fit=\"scroll\"/>\n"
+                      "</layout>\n</head>\n<body>\n";
+    for (int i = 0; i < slides; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        text += "<par dur=\"" + QByteArray::number(3 + i % 8) + "s\">\n<img src=\"picture" + number
+            + ".jpg\" region=\"Image\"/>\n<text src=\"text" + number + ".txt\" region=\"Text\"/>\n</par>\n";
+    }
+    return {text + "</body>\n</smil>\n", SmilDocument()};
+}
+
+static QString number(const SmilUnit &measure, QLatin1String suffix)
 {
     return QString::number(int(measure.value)) + suffix;
-}
-
-static QString percent(const SmilUnit &measure)
-{
-    return joined(measure, QLatin1String("%"));
 }
 
 static QDomElement buildRegion(QDomDocument &dom, const SmilRegion &region)
 {
     QDomElement element = dom.createElement(QStringLiteral("region"));
     element.setAttribute(QStringLiteral("id"), region.id);
-    element.setAttribute(QStringLiteral("width"), percent(region.width));
-    element.setAttribute(QStringLiteral("height"), percent(region.height));
-    element.setAttribute(QStringLiteral("top"), percent(region.top));
-    element.setAttribute(QStringLiteral("left"), percent(region.left));
+    element.setAttribute(QStringLiteral("width"), number(region.width, QLatin1String("%")));
+    element.setAttribute(QStringLiteral("height"), number(region.height, QLatin1String("%")));
+    element.setAttribute(QStringLiteral("top"), number(region.top, QLatin1String("%")));
+    element.setAttribute(QStringLiteral("left"), number(region.left, QLatin1String("%")));
     element.setAttribute(QStringLiteral("fit"), region.fit);
     return element;
 }
@@ -95,8 +77,8 @@ static QDomElement buildRegion(QDomDocument &dom, const SmilRegion &region)
 static QDomElement buildHead(QDomDocument &dom, const SmilLayout &layout)
 {
     QDomElement root = dom.createElement(QStringLiteral("root-layout"));
-    root.setAttribute(QStringLiteral("width"), joined(layout.topLayoutWidth, QLatin1String("px")));
-    root.setAttribute(QStringLiteral("height"), joined(layout.topLayoutHeight, QLatin1String("px")));
+    root.setAttribute(QStringLiteral("width"), number(layout.topLayoutWidth, QLatin1String("px")));
+    root.setAttribute(QStringLiteral("height"), number(layout.topLayoutHeight, QLatin1String("px")));
     QDomElement element = dom.createElement(QStringLiteral("layout"));
     element.appendChild(root);
     for (const SmilRegion &region : layout.regions) {
@@ -110,7 +92,7 @@ static QDomElement buildHead(QDomDocument &dom, const SmilLayout &layout)
 static QDomElement buildSlide(QDomDocument &dom, const SmilNode &slide)
 {
     QDomElement par = dom.createElement(QStringLiteral("par"));
-    par.setAttribute(QStringLiteral("dur"), joined(slide.dur, QLatin1String("s")));
+    par.setAttribute(QStringLiteral("dur"), number(slide.dur, QLatin1String("s")));
     QDomElement picture = dom.createElement(QStringLiteral("img"));
     picture.setAttribute(QStringLiteral("src"), slide.refs.at(0).src);
     picture.setAttribute(QStringLiteral("region"), slide.refs.at(0).region);

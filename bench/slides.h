@@ -6,14 +6,20 @@
 
 #include <smilparser/smilparser.h>
 
+/** What reading or writing begins with: the text of a message, or its model. The other one is empty. */
+struct Message {
+    QByteArray text;
+    SmilDocument model;
+};
+
 /** An ordinary message of so many slides, each a picture and a text. */
-QByteArray slidesText(int slides);
+Message slidesText(int slides);
 
 /**
  * What that text says, with the size of its layout also where rendering takes it from. Made without reading the text:
  * the remains of a DOM would leave the heap in pieces for what is measured next.
  */
-SmilDocument slidesModel(int slides);
+Message slidesModel(int slides);
 
 /**
  * Builds the tree of @p model in @p dom by hand, with nothing but what a host that knows its message has to call: each

@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "contenders.h"
+
+#include "outline.h"
+#include "peers.h"
+
+#include <cstdio>
+
+static void floorParse(const Message &message, Made &made)
+{
+    QBuffer buffer;
+    buffer.setData(message.text);
+    buffer.open(QIODevice::ReadOnly); // Qt 6 would warn of a closed one
+    QString error;
+    // From Qt 6.8 this overload is deprecated; it is the one that the library has to use.
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    made.dom.setContent(&buffer, &error);
+    QT_WARNING_POP
+}
+
+static void parse(const Message &message, Made &made)
+{
+    made.parser.emplace(message.text);
+    made.model = made.parser->parse();
+}
+
+static void floorWrite(const Message &message, Made &made)
+{
+    buildDom(made.dom, message.model);
+}
+
+static void write(const Message &message, Made &made)
+{
+    made.parser.emplace(message.model);
+    made.dom = made.parser->getContent();
+}
+
+static SmilDocument readWithLibrary(const QByteArray &text)
+{
+    return SmilParser(text).parse();
+}
+
+template<SmilDocument (*read)(const QByteArray &)>
+static void keepModel(const Message &message, Made &made)
+{
+    made.model = read(message.text);
+}
+
+const std::vector<Contender> contenders = {
+    {"floor-parse", slidesText,  floorParse                  },
+    {"parse",       slidesText,  parse                       },
+    {"floor-write", slidesModel, floorWrite                  },
+    {"write",       slidesModel, write                       },
+    {"model",       slidesText,  keepModel<readWithLibrary>  }, // the parser is dropped, and its DOM with it
+    {"xmlstream",   slidesText,  keepModel<readWithXmlStream>},
+    {"libxml2",     slidesText,  keepModel<readWithLibxml2>  },
+    {"pugixml",     slidesText,  keepModel<readWithPugixml>  },
+};
+
+static QString treeOf(const SmilDocument &model)
+{
+    QDomDocument dom;
+    buildDom(dom, model);
+    return Outline::of(dom);
+}
+
+bool contendersAgree(int slides)
+{
+    const SmilDocument model = slidesModel(slides).model;
+    const QString values = Outline::of(model);
+    const QString tree = treeOf(model);
+    for (const Contender &contender : contenders) {
+        Made made;
+        contender.pass(contender.message(slides), made);
+        SmilLayout &layout = made.model.header.layout;
+        layout.topLayoutWidth = layout.rootLayoutWidth; // the model states the size twice, the text once
+        layout.topLayoutHeight = layout.rootLayoutHeight;
+        if (made.dom.isNull() ? Outline::of(made.model) != values : Outline::of(made.dom) != tree) {
+            std::fprintf(stderr, "%s comes to something else for %d slides\n", contender.name, slides);
+            return false;
+        }
+    }
+    return true;
+}
