@@ -116,11 +116,12 @@ void Mms::problems_data()
     row("notification", "\x8C\x82\x98" + text("T"), "is a notification or a report, which has no parts");
     row("no parts", message("\x83", 0, "Hello"), "has no parts");
     row("no SMIL", message("\xB3", 1, part("\x83", "Hello")), "has no SMIL part");
-    row("too few", message("\xB3", 2, smil), "part 2 of 2 is cut off, or has a length that is wrong");
+    row("too few", message("\xB3", 2, smil),
+        "is cut off in its parts (number 2 of 2), or has a length there that is wrong");
     row("long header of a part", message("\xB3", 2, smil + part("\x03\x83", slides)),
-        "part 2 of 2 is cut off, or has a length that is wrong");
+        "is cut off in its parts (number 2 of 2), or has a length there that is wrong");
     row("long parameter", message("\xB3", 1, part("\x03\x83\x85\x40\xC0" + text("x"), slides)),
-        "part 1 of 1 is cut off, or has a length that is wrong");
+        "is cut off in its parts (number 1 of 1), or has a length there that is wrong");
     row("too many", message("\xB3", 1001, QByteArray(4004, '\0')),
         "does not say how many parts it has, or has more than 1000");
     row("endless count", message("\xB3", 0, QByteArray()).chopped(1) + QByteArray(9, '\xFF'),

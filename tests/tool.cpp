@@ -573,7 +573,8 @@ void Tool::messageAsItIsSent()
                                "      text \"hello.txt\"\n"));
     QCOMPARE(smiltool({QStringLiteral("check"), QStringLiteral("-")}, message).out, QString());
     const Outcome cut = smiltool({QStringLiteral("show"), QStringLiteral("-")}, message.chopped(1));
-    QCOMPARE(cut.err, QStringLiteral("-: part 3 of 3 is cut off, or has a length that is wrong\n"));
+    QCOMPARE(cut.err,
+             QStringLiteral("-: is cut off in its parts (number 3 of 3), or has a length there that is wrong\n"));
     QCOMPARE(cut.status, 1);
 }
 

@@ -155,7 +155,9 @@ static QString readParts(Bytes in, const QString &start, MmsMessage &message)
         const Bytes data = in.take(dataLength);
         MmsPart part;
         if (in.bad || !readPartHeaders(headers, part)) {
-            return QStringLiteral("part %1 of %2 is cut off, or has a length that is wrong").arg(i + 1).arg(count);
+            return QStringLiteral("is cut off in its parts (number %1 of %2), or has a length there that is wrong")
+                .arg(i + 1)
+                .arg(count);
         }
         part.data = data.all();
         message.parts.append(part);
