@@ -8,6 +8,31 @@
 #include <QtCore/QBuffer>
 #include <QtXml/QDomDocument>
 
+/** From @p source, a device or a text. */
+template<typename Source>
+static bool setContent(QDomDocument &document, const Source &source, QString *errorMsg, int *errorLine,
+                       int *errorColumn)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    const QDomDocument::ParseResult result = document.setContent(source, QDomDocument::ParseOption::Default);
+    if (result) {
+        return true;
+    }
+    if (errorMsg) {
+        *errorMsg = result.errorMessage;
+    }
+    if (errorLine) {
+        *errorLine = int(result.errorLine);
+    }
+    if (errorColumn) {
+        *errorColumn = int(result.errorColumn);
+    }
+    return false;
+#else
+    return document.setContent(source, errorMsg, errorLine, errorColumn);
+#endif
+}
+
 bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn)
 {
     std::optional<QByteArray> text;
@@ -19,13 +44,9 @@ bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *er
         }
         buffer.open(QIODevice::ReadOnly);
     }
-    // From Qt 6.8 these overloads are deprecated in favour of ones that Qt 5 and 6.4 do not have.
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
-    const bool wellFormed = text ? document.setContent(QString::fromUtf8(text->constData(), harmlessSize(*text)),
-                                                       errorMsg, errorLine, errorColumn)
-                                 : document.setContent(&buffer, errorMsg, errorLine, errorColumn);
-    QT_WARNING_POP
+    const bool wellFormed = text ? setContent(document, QString::fromUtf8(text->constData(), harmlessSize(*text)),
+                                              errorMsg, errorLine, errorColumn)
+                                 : setContent(document, &buffer, errorMsg, errorLine, errorColumn);
     // Qt 6 stops reading at an error; what follows must not be taken for a document by the next call.
     buffer.seek(buffer.size());
     return wellFormed;
