@@ -3,7 +3,7 @@
 
 #include <smilparser/smilparser.h>
 
-#include "smilparser/model/elements.h"
+#include "smilparser/model/timeline.h"
 
 #include <utility>
 
@@ -35,11 +35,11 @@ bool SmilParser::parseSmilNodes(QDomElement &element, SmilNode &node, int depth)
 
     for (QDomNode sibling = element.firstChild(); !sibling.isNull(); sibling = sibling.nextSibling()) {
         QDomElement child = sibling.toElement();
-        const SmilElement *const known = findElement(child.tagName());
+        const TimelineElement *const known = findElement(child.tagName());
         if (!known) {
             continue;
         }
-        if (known->record == SmilElement::Ref) {
+        if (known->record == TimelineElement::Ref) {
             node.refs.append(readRef(child, known->type));
             continue;
         }

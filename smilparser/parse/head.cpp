@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include <smilparser/smilparser.h>
+#include "smilparser/model/region.h"
 
 static SmilUnit measure(const QDomElement &element, const QString &attribute)
 {
@@ -20,14 +20,12 @@ static SmilMeta readMeta(const QDomElement &element)
 static SmilRegion readRegion(const QDomElement &element)
 {
     SmilRegion region;
-    region.id = element.attribute(QStringLiteral("id"));
-    region.width = measure(element, QStringLiteral("width"));
-    region.height = measure(element, QStringLiteral("height"));
-    region.top = measure(element, QStringLiteral("top"));
-    region.bottom = measure(element, QStringLiteral("bottom"));
-    region.left = measure(element, QStringLiteral("left"));
-    region.right = measure(element, QStringLiteral("right"));
-    region.fit = element.attribute(QStringLiteral("fit"));
+    for (const auto &[name, field] : regionTexts) {
+        region.*field = element.attribute(name);
+    }
+    for (const auto &[name, field] : regionMeasures) {
+        region.*field = measure(element, name);
+    }
     return region;
 }
 

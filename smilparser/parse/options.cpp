@@ -3,14 +3,14 @@
 
 #include "options.h"
 
-#include "smilparser/model/elements.h"
+#include "smilparser/model/timeline.h"
 
 #include <smilparser/smilparser.h>
 
 static bool isNode(const QDomElement &element)
 {
-    const SmilElement *const known = findElement(element.tagName());
-    return known && known->record == SmilElement::Node;
+    const TimelineElement *const known = findElement(element.tagName());
+    return known && known->record == TimelineElement::Node;
 }
 
 void readClockDurations(const QDomElement &element, SmilNode &node)

@@ -3,7 +3,7 @@
 
 #include "attributes.h"
 
-#include "smilparser/model/elements.h"
+#include "smilparser/model/timeline.h"
 
 #include <utility>
 
@@ -11,7 +11,7 @@
 
 static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)
 {
-    const SmilElement *const known = findElement(SmilElement::Ref, ref.type);
+    const TimelineElement *const known = findElement(TimelineElement::Ref, ref.type);
     if (!known) {
         return QDomElement();
     }
@@ -24,7 +24,7 @@ static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)
 static QDomElement renderNode(QDomDocument &dom, const SmilNode &node)
 {
     const int type = node.type == SmilNode::Seq ? SmilNode::Seq : SmilNode::Par;
-    QDomElement element = dom.createElement(findElement(SmilElement::Node, type)->name);
+    QDomElement element = dom.createElement(findElement(TimelineElement::Node, type)->name);
     write(element, QStringLiteral("dur"), node.dur);
     for (const SmilNode &child : node.children) {
         element.appendChild(renderNode(dom, child));

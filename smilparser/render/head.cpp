@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "attributes.h"
+#include "smilparser/model/region.h"
 
 #include <utility>
 
@@ -14,14 +15,12 @@ static void writeMeta(QDomElement &element, const SmilMeta &meta)
 
 static void writeRegion(QDomElement &element, const SmilRegion &region)
 {
-    write(element, QStringLiteral("id"), region.id);
-    write(element, QStringLiteral("width"), region.width);
-    write(element, QStringLiteral("height"), region.height);
-    write(element, QStringLiteral("top"), region.top);
-    write(element, QStringLiteral("bottom"), region.bottom);
-    write(element, QStringLiteral("left"), region.left);
-    write(element, QStringLiteral("right"), region.right);
-    write(element, QStringLiteral("fit"), region.fit);
+    for (const auto &[name, field] : regionTexts) {
+        write(element, name, region.*field);
+    }
+    for (const auto &[name, field] : regionMeasures) {
+        write(element, name, region.*field);
+    }
 }
 
 QDomElement SmilParser::render(SmilHeader &header)

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILPARSER_ELEMENTS_H
-#define SMILPARSER_ELEMENTS_H
+#ifndef SMILPARSER_TIMELINE_H
+#define SMILPARSER_TIMELINE_H
 
 #include <QtCore/QString>
 
 /** An element of the timeline: its name, and the record that stands for it. */
-struct SmilElement {
+struct TimelineElement {
     enum Record { Node, Ref };
 
     QString name;
@@ -16,9 +16,9 @@ struct SmilElement {
 };
 
 /** The element of that name, in any letter case; null when there is none. */
-const SmilElement *findElement(const QString &name);
+const TimelineElement *findElement(const QString &name);
 
 /** The element for that record; null when there is none. */
-const SmilElement *findElement(SmilElement::Record record, int type);
+const TimelineElement *findElement(TimelineElement::Record record, int type);
 
 #endif
