@@ -3,6 +3,7 @@
 
 #include "commands.h"
 #include "text.h"
+#include "vocabulary.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QIODevice>
@@ -19,14 +20,6 @@ struct Finding {
     QString subject;
     QStringList details; ///< the first few different ones
     int count;
-};
-
-/** What the model has a place for in an element. */
-struct Place {
-    QStringList texts;
-    QStringList measures;
-    QStringList first; ///< children of which the first is read
-    QStringList all; ///< children that are all read
 };
 
 struct Region {
@@ -67,44 +60,14 @@ QStringList findingNames()
     + lostFindings;
 }
 
-static QStringList words(const char *text)
-{
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
 /** The text in quotation marks, and not much of it. */
 static QString shown(const QString &text)
 {
     return quoted(text.size() > 40 ? text.left(39) + QChar(0x2026) : text);
 }
 
-static const QHash<QString, Place> &places()
-{
-    static const QStringList timeline = words("par seq text img audio video ref");
-    static const Place node{{}, words("dur"), {}, timeline};
-    static const Place media{words("src region"), {}, {}, {}};
-    static const QHash<QString, Place> table = {
-        {QStringLiteral("smil"),        {{}, {}, words("head body"), {}}                                      },
-        {QStringLiteral("head"),        {words("id title class"), {}, words("layout"), words("meta")}         },
-        {QStringLiteral("meta"),        {words("id name content"), {}, {}, {}}                                },
-        {QStringLiteral("layout"),      {{}, {}, words("root-layout topLayout"), words("region")}             },
-        {QStringLiteral("root-layout"), {{}, words("width height"), {}, {}}                                   },
-        {QStringLiteral("topLayout"),   {{}, words("width height"), {}, {}}                                   },
-        {QStringLiteral("region"),      {words("id fit"), words("width height top bottom left right"), {}, {}}},
-        {QStringLiteral("body"),        node                                                                  },
-        {QStringLiteral("par"),         node                                                                  },
-        {QStringLiteral("seq"),         node                                                                  },
-        {QStringLiteral("text"),        media                                                                 },
-        {QStringLiteral("img"),         media                                                                 },
-        {QStringLiteral("audio"),       media                                                                 },
-        {QStringLiteral("video"),       media                                                                 },
-        {QStringLiteral("ref"),         media                                                                 },
-    };
-    return table;
-}
-
 /** The measures that cannot be negative. */
-static const QStringList sizes = words("dur width height");
+static const QStringList sizes{QStringLiteral("dur"), QStringLiteral("width"), QStringLiteral("height")};
 
 static bool isNode(const QString &name)
 {
@@ -177,18 +140,18 @@ private:
     int index(const QString &name, int line, const QString &subject)
     {
         const QString key = name + QLatin1Char(' ') + subject;
-        if (!known.contains(key)) {
-            known.insert(key, int(found.size()));
+        if (!indexes.contains(key)) {
+            indexes.insert(key, int(found.size()));
             found.append({name, line, subject, {}, 0});
         }
-        return known.value(key);
+        return indexes.value(key);
     }
 
     void walk(const QDomElement &element, const QString &name)
     {
-        const Place &place = places()[name];
-        walkAttributes(element, name, place);
-        if (place.texts.contains(QStringLiteral("src"))) {
+        const Vocabulary &known = vocabularyOf(name);
+        walkAttributes(element, name, known.attributes);
+        if (known.attributes.contains(QStringLiteral("src"))) {
             checkMedia(element, name);
         }
         if (name == QLatin1String("region")) {
@@ -198,11 +161,11 @@ private:
         bool mediaSeen = false;
         bool outOfOrder = false;
         // The library knows the names of the timeline in any letter case.
-        const bool anyCase = place.all.contains(QStringLiteral("par"));
+        const bool anyCase = known.all.contains(QStringLiteral("par"));
         for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             const QString childName = anyCase ? child.tagName().toLower() : child.tagName();
-            const bool again = place.first.contains(childName) && seen.contains(childName);
-            if (again || !(place.first.contains(childName) || place.all.contains(childName))) {
+            const bool again = known.first.contains(childName) && seen.contains(childName);
+            if (again || !(known.first.contains(childName) || known.all.contains(childName))) {
                 add(lostElement, child,
                     QStringLiteral("lost when written back: %1 in %2")
                         .arg(again ? QLatin1String("another ") + printable(child.tagName().left(40))
@@ -226,7 +189,7 @@ private:
         }
     }
 
-    void walkAttributes(const QDomElement &element, const QString &name, const Place &place)
+    void walkAttributes(const QDomElement &element, const QString &name, const QStringList &known)
     {
         const QDomNamedNodeMap attributes = element.attributes();
         QStringList names;
@@ -236,9 +199,9 @@ private:
         names.sort(); // a DOM keeps them in an order that differs from run to run
         for (const QString &attribute : std::as_const(names)) {
             const QString value = element.attribute(attribute);
-            if (place.measures.contains(attribute)) {
+            if (known.contains(attribute)) {
                 checkMeasure(element, name, attribute, value);
-            } else if (!place.texts.contains(attribute)) {
+            } else {
                 add(lostAttribute, element,
                     QStringLiteral("lost when written back: %1 of %2").arg(printable(attribute.left(40)), name));
             }
@@ -247,6 +210,9 @@ private:
 
     void checkMeasure(const QDomElement &element, const QString &name, const QString &attribute, const QString &value)
     {
+        if (!isMeasure(attribute)) {
+            return;
+        }
         const SmilUnit plain(value);
         const bool clock = attribute == QLatin1String("dur") && SmilUnit().convertClock(value);
         const QString what = QStringLiteral("%1 of %2").arg(attribute, name);
@@ -368,7 +334,7 @@ private:
     Message &message;
     QSet<int> usedParts;
     QList<Finding> found;
-    QHash<QString, int> known;
+    QHash<QString, int> indexes;
     QList<Region> regions;
     QList<Region> references;
 };

@@ -51,7 +51,7 @@ QSizeF rootSize(const SmilLayout &layout)
             rootLength(layout.rootLayoutHeight, layout.topLayoutHeight, phone.height())};
 }
 
-QRectF place(const SmilRegion &region, const QSizeF &root)
+QRectF areaOf(const SmilRegion &region, const QSizeF &root)
 {
     const auto across = extent(region.left, region.width, region.right, root.width());
     const auto down = extent(region.top, region.height, region.bottom, root.height());

@@ -12,6 +12,6 @@
 QSizeF rootSize(const SmilLayout &layout);
 
 /** Where the region is on a screen of that size, cut off at its edges; empty when it lies outside. */
-QRectF place(const SmilRegion &region, const QSizeF &root);
+QRectF areaOf(const SmilRegion &region, const QSizeF &root);
 
 #endif

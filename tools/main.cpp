@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
+#include "complain.h"
 #include "mmslogger.h"
 #include "output.h"
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "message.h"
+#include "complain.h"
 #include "text.h"
 
 #include <QtCore/QFile>
@@ -20,11 +21,6 @@ static const int largestMessage = 8 * mebibyte;
 
 static QString lastWarning;
 
-void complain(const QString &text)
-{
-    std::fprintf(stderr, "%s\n", qPrintable(printable(text)));
-}
-
 static void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type == QtDebugMsg) {
@@ -32,12 +28,6 @@ static void handleMessage(QtMsgType type, const QMessageLogContext &, const QStr
     } else {
         lastWarning = text;
     }
-}
-
-static bool complainOf(const QString &file, const QString &problem)
-{
-    complain(file + QLatin1String(": ") + problem);
-    return false;
 }
 
 /** Reads up to @p size bytes in all. */

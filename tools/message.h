@@ -33,7 +33,4 @@ bool complainOfParts(const Message &message, const QString &folder);
 /** The DOM of bytes that the library has found well formed and harmless, with the lines that the model lacks. */
 QDomDocument readDom(const QByteArray &bytes);
 
-/** Writes a line to standard error, as printable(). */
-void complain(const QString &text);
-
 #endif

@@ -3,6 +3,7 @@
 
 #include "output.h"
 #include "commands.h"
+#include "complain.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -26,12 +27,6 @@ static bool isDescriptor(const QString &name)
     const QString path = QFileInfo(name).absoluteFilePath();
     return path.startsWith(QLatin1String("/dev/fd/")) || path.startsWith(QLatin1String("/dev/std"))
         || path.startsWith(QLatin1String("/proc/"));
-}
-
-static bool complainOf(const QString &name, const QString &problem)
-{
-    complain(name + QLatin1String(": ") + problem);
-    return false;
 }
 
 static bool writeTo(const QString &name, Message &message)

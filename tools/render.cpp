@@ -3,17 +3,15 @@
 
 #include "commands.h"
 #include "text.h"
+#include "vocabulary.h"
 
 #include <QtCore/QXmlStreamWriter>
 
 static void writeElement(QXmlStreamWriter &writer, const QDomElement &element)
 {
-    // A DOM keeps attributes in an order that differs from run to run.
-    static const char *const attributes[] = {"id",     "title", "class", "name", "content", "width", "height", "top",
-                                             "bottom", "left",  "right", "fit",  "dur",     "src",   "region"};
     writer.writeStartElement(element.tagName());
-    for (const char *const attribute : attributes) {
-        const QString name = QLatin1String(attribute);
+    // A DOM keeps attributes in an order that differs from run to run.
+    for (const QString &name : vocabularyOf(element.tagName()).attributes) {
         if (element.hasAttribute(name)) {
             writer.writeAttribute(name, element.attribute(name));
         }

@@ -79,7 +79,7 @@ public:
         scale = qMin(frameWidth / root.width(), frameHeight / root.height());
         size = root * scale;
         for (const SmilRegion &region : layout.regions) {
-            const QRectF whole = place(region, root);
+            const QRectF whole = areaOf(region, root);
             if (!indexes.contains(region.id)) {
                 indexes.insert(region.id, int(areas.size()));
             }
