@@ -86,10 +86,9 @@ void Hostile::encodings()
         flat = QStringLiteral("<!--<x>--><![CDATA[<x>]]><?p <x>?><x a='/' b='>'></x\n>\u00e9");
     }
     const QString start = declaration + QStringLiteral("<!DOCTYPE smil SYSTEM ']>[<x>'><smil><head/><body>");
-    const QString end = QStringLiteral("</body></smil>");
     check(start + open.repeated(200) + expanded(QStringLiteral("{310*<x>}\u00b6<x>")), form);
-    check(start + flat.repeated(600) + end, form);
-    check(start + expanded(QStringLiteral("{600*<x></x>}")) + end, form);
+    check(start + flat.repeated(600) + QStringLiteral("</body></smil>"), form);
+    check(declaration + expanded(QStringLiteral("<smil><head/><body>{600*<x></x>}</body></smil>")), form);
     QVERIFY2(!isRefused(read(encoded(declaration + QStringLiteral("<smil/>"), form))), "nothing can be read");
 }
 
