@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The smilparser authors
 # SPDX-License-Identifier: MIT
-"""Measures everything that docs/performance.md states, and writes it there and into docs/performance.svg.
+"""Measures everything that docs/performance.md states, and writes it there and into docs/figures/performance.svg.
 
 What is generated stands in the page between <!-- generated: NAME --> and <!-- end -->. script/bench builds what this
 runs.
@@ -20,7 +20,7 @@ from chart import chart
 from instructions import QTS, floor_table, of_floor, of_thousand, table, thousand_table
 
 PAGE = pathlib.Path("docs/performance.md")
-CHART = pathlib.Path("docs/performance.svg")
+CHART = pathlib.Path("docs/figures/performance.svg")
 
 SIZES = (3, 1000, 100000)
 STRAIGHT_SIZES = (100, 1000, 10000, 100000)

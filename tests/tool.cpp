@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include <smilparser/smilparser.h>
+
 #include <QtCore/QProcess>
 #include <QtTest/QtTest>
 #include <QtXml/QDomDocument>
@@ -86,6 +88,7 @@ private Q_SLOTS:
     void noPictureIsTooLarge();
     void regions_data();
     void regions();
+    void toolKnowsWhatTheLibraryKnows();
     void partsAreDrawn_data();
     void partsAreDrawn();
     void picturesFitTheirRegion();
@@ -123,7 +126,7 @@ void Tool::samples()
     const Outcome outcome = smiltool(words + QStringList(sample + QStringLiteral(".smil")));
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.out,
-             command.contains(QStringLiteral("--parts")) ? inDocs("storyboard.svg")
+             command.contains(QStringLiteral("--parts")) ? inDocs("figures/storyboard.svg")
                                                          : golden(sample + QLatin1Char('.') + words.join(QString())));
     QCOMPARE(outcome.status, command == QStringLiteral("check") ? 1 : 0);
 }
@@ -466,6 +469,68 @@ void Tool::regions()
              qPrintable(fifth.attribute(QStringLiteral("transform"))));
 }
 
+/** "dur of par" for each attribute of an element and of those in it, in order. */
+static void listAttributes(const QDomElement &element, QStringList &all)
+{
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        all.append(attributes.item(i).nodeName() + QLatin1String(" of ") + element.tagName());
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        listAttributes(child, all);
+    }
+    all.sort();
+}
+
+void Tool::toolKnowsWhatTheLibraryKnows()
+{
+    QByteArray attributes;
+    for (const char *const name :
+         {"id",         "title",      "class",         "name",  "content", "width",     "height",
+          "top",        "bottom",     "left",          "right", "fit",     "dur",       "src",
+          "region",     "begin",      "end",           "alt",   "type",    "z-index",   "backgroundColor",
+          "soundLevel", "longdesc",   "repeatCount",   "fill",  "author",  "copyright", "regionName",
+          "endsync",    "clip-begin", "system-bitrate"}) {
+        attributes += QByteArray(" ") + name + "='1s'";
+    }
+    QByteArray message;
+    for (const char *const tag :
+         {"smil", "head",  "meta/", "layout", "root-layout/", "region/", "/layout", "/head", "body",  "seq",
+          "par",  "text/", "img/",  "audio/", "video/",       "ref/",    "/par",    "/seq",  "/body", "/smil"}) {
+        const QByteArray name = QByteArray(tag).replace('/', "");
+        message += *tag == '/' ? QByteArray("<") + tag + ">"
+                               : '<' + name + attributes + (QByteArray(tag).endsWith('/') ? "/>" : ">");
+    }
+    QDomDocument given;
+    QVERIFY(given.setContent(message));
+    SmilParser parser(message);
+    SmilParser writer(parser.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize));
+    QStringList kept;
+    listAttributes(writer.getContent().documentElement(), kept);
+
+    QDomDocument rendered;
+    QVERIFY(rendered.setContent(
+        smiltool({QStringLiteral("render"), QStringLiteral("--keep"), QStringLiteral("-")}, message).out));
+    QStringList printed;
+    listAttributes(rendered.documentElement(), printed);
+    QCOMPARE(printed, kept);
+
+    QStringList lost;
+    listAttributes(given.documentElement(), lost);
+    for (const QString &attribute : std::as_const(kept)) {
+        lost.removeOne(attribute);
+    }
+    const QString found = smiltool({QStringLiteral("check"), QStringLiteral("-")}, message).out;
+    static const QRegularExpression line(QStringLiteral("lost when written back: (\\S+ of \\S+)"));
+    QStringList told;
+    auto matches = line.globalMatch(found);
+    while (matches.hasNext()) {
+        told.append(matches.next().captured(1));
+    }
+    told.sort();
+    QCOMPARE(told, lost);
+}
+
 void Tool::partsAreDrawn_data()
 {
     QTest::addColumn<QByteArray>("part");
@@ -625,7 +690,7 @@ void Tool::manualAndCompletionNameEveryFinding()
     const QString list = help.section(QStringLiteral("The names: "), 1).section(QStringLiteral(" --debug"), 0, 0);
     const QStringList names = list.split(QStringLiteral(", "));
     QCOMPARE(names.last(), QStringLiteral("changed-order"));
-    const QString manual = inDocs("smiltool.1");
+    const QString manual = inDocs("man/smiltool.1");
     for (const QString &name : names) {
         QVERIFY2(manual.contains(QStringLiteral(".TP\n.B ") + name + QLatin1Char('\n')), qPrintable(name));
     }
