@@ -142,7 +142,7 @@ QStringList wrapped(const QString &text, double most, int count)
             if (lines.size() == count) {
                 QString &last = lines.last();
                 while (!last.isEmpty() && width(last) + 11 > most) {
-                    last.chop(last.size() > 1 && last.back().isLowSurrogate() ? 2 : 1);
+                    last.chop(last.size() > 1 && last.at(last.size() - 1).isLowSurrogate() ? 2 : 1);
                 }
                 last += QChar(0x2026);
                 return lines;
