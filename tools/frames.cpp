@@ -8,7 +8,7 @@
 static const int mostMedia = 100;
 static const int longestOrder = 300;
 
-QString describe(const SmilRef &ref)
+QString nameOf(const SmilRef &ref)
 {
     static const char16_t signs[] = {u'\u00b6', u'\u25a3', u'\u266a', u'\u25b6', u'\u25c6'};
     const QString sign = QString(QChar(signs[ref.type])) + QLatin1Char(' ');
@@ -49,7 +49,7 @@ static void addAll(Frame &frame, const SmilNode &node, const SmilNode *except = 
             return;
         }
         frame.media.append(&ref);
-        add(frame, describe(ref), sequence);
+        add(frame, nameOf(ref), sequence);
     }
 }
 
@@ -63,7 +63,7 @@ static QList<Frame> splitSequence(const SmilNode &node)
     }
     for (const SmilRef &ref : node.refs) {
         if (frames.size() < mostFrames) {
-            frames.append(Frame{QString(), {&ref}, describe(ref)});
+            frames.append(Frame{QString(), {&ref}, nameOf(ref)});
         }
     }
     return frames.isEmpty() ? QList<Frame>{Frame()} : frames.mid(0, mostFrames);

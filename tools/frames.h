@@ -24,6 +24,6 @@ const int mostFrames = 400;
 QList<Frame> framesOf(const SmilNode &body);
 
 /** The name of what plays, not longer than a line, with a sign for its kind. */
-QString describe(const SmilRef &ref);
+QString nameOf(const SmilRef &ref);
 
 #endif

@@ -79,7 +79,7 @@ static int badUsage(const QString &problem)
     return BadUsage;
 }
 
-static QString describe(const Command *command)
+static QString helpText(const Command *command)
 {
     if (command) {
         return QString::fromLatin1("%1\n\nExample: %2")
@@ -105,7 +105,7 @@ static void addOption(QCommandLineParser &parser, const Option &option)
 
 static void setUp(QCommandLineParser &parser, const Command *command)
 {
-    parser.setApplicationDescription(describe(command));
+    parser.setApplicationDescription(helpText(command));
     for (const Option &option : allOptions) {
         if (command ? option.kinds & command->kind : option.kinds == every) {
             addOption(parser, option);

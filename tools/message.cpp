@@ -119,7 +119,7 @@ static bool looksLikeXml(const QByteArray &bytes)
     return first == bytes.cend() || *first == '<';
 }
 
-static QString describe(SmilParser::Outcome outcome, const QByteArray &bytes)
+static QString missingElement(SmilParser::Outcome outcome, const QByteArray &bytes)
 {
     if (outcome != SmilParser::NoSmil) {
         return lastWarning;
@@ -141,7 +141,7 @@ static bool parse(SmilParser::ReadOptions options, Message &message)
         const QString what = looksLikeXml(message.bytes) ? QString() : QStringLiteral("this is no XML: ");
         return complainOf(QStringLiteral("%1:%2:%3").arg(message.file).arg(line).arg(column), what + error);
     }
-    return lastWarning.isEmpty() || complainOf(message.file, describe(outcome, message.bytes));
+    return lastWarning.isEmpty() || complainOf(message.file, missingElement(outcome, message.bytes));
 }
 
 bool readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message)

@@ -116,15 +116,15 @@ static void sort(const SmilRef &ref, const Screen &screen, Message &message, Pic
     const int part = message.parts.find(ref.src);
     const QString missing = message.hasParts && part < 0 ? QStringLiteral(", missing") : QString();
     if (ref.type == SmilRef::Audio || ref.region.isEmpty()) {
-        picture.below.append(lineBelow(describe(ref), missing));
+        picture.below.append(lineBelow(nameOf(ref), missing));
     } else if (region < 0) {
-        picture.below.append(lineBelow(describe(ref), missing + QLatin1String(", no region ") + id));
+        picture.below.append(lineBelow(nameOf(ref), missing + QLatin1String(", no region ") + id));
     } else if (screen.areas.at(region).isEmpty()) {
-        picture.below.append(lineBelow(describe(ref), missing + QLatin1String(", off screen in ") + id));
+        picture.below.append(lineBelow(nameOf(ref), missing + QLatin1String(", off screen in ") + id));
     } else if (part >= 0 && isDrawn(message.parts.read(part).kind)) {
         picture.inRegions[region].drawn.append(&ref);
     } else {
-        picture.inRegions[region].names.append(describe(ref));
+        picture.inRegions[region].names.append(nameOf(ref));
         picture.inRegions[region].missing |= !missing.isEmpty();
     }
 }
@@ -207,9 +207,9 @@ public:
             const int number = message.parts.find(ref->src);
             const Parts::Part &part = message.parts.read(number);
             svg.beginClip(area);
-            svg.title(describe(*ref) + QLatin1String(" in ") + screen.ids.at(region));
+            svg.title(nameOf(*ref) + QLatin1String(" in ") + screen.ids.at(region));
             if (part.kind == Parts::Picture) {
-                drawPicture(part, QStringLiteral("p%1-%2").arg(number).arg(region), region, describe(*ref));
+                drawPicture(part, QStringLiteral("p%1-%2").arg(number).arg(region), region, nameOf(*ref));
             } else {
                 drawText(part, area.size());
             }
