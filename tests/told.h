@@ -44,10 +44,15 @@ inline QString toldByReaderAlone(QByteArray input)
     int line = 0;
     int column = 0;
     SmilParser parser((SmilDocument()));
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED // from Qt 6.8, in favour of one that Qt 5 and 6.4 do not have
-        const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
-    QT_WARNING_POP
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    const auto result = dom.setContent(&buffer, QDomDocument::ParseOption::Default);
+    const bool wellFormed = bool(result);
+    error = result.errorMessage;
+    line = int(result.errorLine);
+    column = int(result.errorColumn);
+#else
+    const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
+#endif
     if (!wellFormed) {
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", qPrintable(error), line, column);
     } else if (QDomElement smil = dom.firstChildElement(QStringLiteral("smil")); smil.isNull()) {
