@@ -232,6 +232,10 @@ void Tool::textFromStrangersIsEscaped()
     const Outcome rendered = smiltool({QStringLiteral("render"), QStringLiteral("-")}, input);
     QVERIFY2(rendered.out.contains(QLatin1String("=\"a&quot;\\&#x9b;&#x202e;b\"")), qPrintable(rendered.out));
     // Joiners belong into words; nowhere else.
+    const Outcome separated = smiltool({QStringLiteral("show"), QStringLiteral("-")},
+                                       "<smil><head title='&#x2028;&#x2029;&#x1fffe;&#x1f600;'/><body/></smil>");
+    const QString separators = QString::fromUtf8("title \"\\u{2028}\\u{2029}\\u{1fffe}😀\"\n");
+    QVERIFY2(separated.out.contains(separators), qPrintable(separated.out));
     const Outcome joined = smiltool({QStringLiteral("show"), QStringLiteral("-")},
                                     "<smil><head title='x&#x200d;y&#x200c; &#x200d;z&#x200d;&#x200d;'/><body/></smil>");
     const QString expected = QStringLiteral("title \"x\u200dy\\u{200c} \\u{200d}z\\u{200d}\\u{200d}\"\n");
@@ -399,8 +403,11 @@ void Tool::frames_data()
     row("no line free", "<par><img src='a' region='low'/></par>", "1 · not stated | ▣ a in low");
     row("room for names alone", "<par><img src='a' region='two'/><img src='b' region='two'/></par>",
         "▣ a | ▣ b | 1 · not stated");
-    row("too narrow", "<par><img src='twelve.letters' region='thin'/></par>",
-        "thin | 1 · not stated | ▣ twelve.letters in thin");
+    row("too narrow", "<par><img src='twelve.letters' region='thin'/><img src='b' region='thin'/></par>",
+        "thin | 1 · not stated | ▣ twelve.letters in thin | ▣ b in thin");
+    row("sound in a region", "<par><audio src='a' region='I'/></par>", "1 · not stated | ♪ a");
+    row("a long name without an extension", "<par><img src='a-name-that-is.longer-than-the-screen' region='I'/></par>",
+        "I | ▣ a-name-that-is.longer-th… | 1 · not stated");
     row("a long name", "<par><img src='a-name-that-is-longer-than-the-screen.jpeg' region='I'/></par>",
         "I | ▣ a-name-that-is-longe…jpeg | 1 · not stated");
     row("many lines", "<par><audio/><audio/><audio/><audio/><audio/><audio/><audio/></par>",
@@ -426,6 +433,21 @@ void Tool::noPictureIsTooLarge()
     const QString texts = textsIn(smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, message).out);
     QCOMPARE(texts.count(QLatin1String("nothing plays")), 400);
     QCOMPARE(texts.right(27), QStringLiteral("No more than 400 are drawn."));
+    const auto board = [](const QByteArray &root) {
+        return smiltool({QStringLiteral("storyboard"), QStringLiteral("-")},
+                        "<smil><head><layout>" + root + "</layout></head><body><par/></body></smil>")
+            .out;
+    };
+    QCOMPARE(board("<root-layout width='1e9' height='0'/>"), board("<root-layout/>"));
+    const QTemporaryDir folder;
+    const QString large =
+        QStringLiteral("printf '\\211PNG\\r\\n\\032\\n' >$old; truncate -s 8388608 $old; $tool storyboard --parts '%1' "
+                       "- <<EOF | grep -c '<image'\n"
+                       "<smil><head><layout><region id='1'/><region id='2'/><region id='3'/><region id='4'/><region "
+                       "id='5'/></layout></head>"
+                       "<body><par><img src='old' region='1'/><img src='old' region='2'/><img src='old' region='3'/>"
+                       "<img src='old' region='4'/><img src='old' region='5'/></par></body></smil>\nEOF\n");
+    QCOMPARE(runScript(folder.path(), large.arg(folder.path())).out, QStringLiteral("4\n"));
     const QByteArray longName =
         "<smil><head/><body><par><img src='" + QByteArray(9999, 'a') + ".jpg'/></par></body></smil>";
     const QString picture = smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, longName).out;
@@ -454,7 +476,8 @@ void Tool::regions()
     QFETCH(QByteArray, region);
     QFETCH(QString, area);
     const QByteArray message = "<smil><head><layout><root-layout width='184' height='92'/><region id='A' " + region
-        + "/></layout></head><body><par><img region='A'/></par><par/><par/><par/><par/></body></smil>";
+        + "/><region id='A' left='1'/></layout></head><body><par><img "
+          "region='A'/></par><par/><par/><par/><par/></body></smil>";
     const Outcome outcome = smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, message);
     QDomDocument dom;
     QVERIFY(dom.setContent(outcome.out));
@@ -541,6 +564,7 @@ void Tool::partsAreDrawn_data()
     row("a text", "Hello\r\n<b>\xe2\x80\xae", "Hello | <b>\\u{202e} | 1 · not stated");
     row("words", QByteArray("It rains all day. ").repeated(200), "It rains all | day. It rains… | 1 · not stated");
     row("one word", QByteArray("\xe6\x97\xa5").repeated(2000), "日日日日日日日日 | 日日日日日日日… | 1 · not stated");
+    row("to the left", "\xd7\xa9\xd7\x9c", "של | 1 · not stated");
     row("a picture", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), "1 · not stated");
     row("a sound", "#!AMR\n", "I | ▣ part | 1 · not stated");
 }
@@ -558,6 +582,8 @@ void Tool::partsAreDrawn()
                  "<region id='I' width='100' height='30'/></layout></head>"
                  "<body><par><img src='part' region='I'/></par></body></smil>");
     QCOMPARE(textsIn(outcome.out), texts);
+    QCOMPARE(outcome.out.count(QLatin1String("<text x=\"96\" y=\"11.25\" class=\"rtl\">")),
+             texts.startsWith(QStringLiteral("\u05e9")) ? 1 : 0);
     QCOMPARE(outcome.out.count(QLatin1String("href=\"data:image/png;base64,iVBORw0K")),
              part.startsWith("\x89") ? 1 : 0);
 }
@@ -637,6 +663,12 @@ void Tool::messageAsItIsSent()
                                "      img \"cid:one\"\n"
                                "      text \"hello.txt\"\n"));
     QCOMPARE(smiltool({QStringLiteral("check"), QStringLiteral("-")}, message).out, QString());
+    const QByteArray smil = QByteArray("<smil><head/><body/></smil>").leftJustified(1024 * 1024 + 1, ' ');
+    const QByteArray headers = QByteArray("\x8C\x80\x84\xB3\x01\x11\xC0\x80\x01") + "application/smil";
+    QCOMPARE(smiltool({QStringLiteral("show"), QStringLiteral("-")}, headers + '\0' + smil).err,
+             QStringLiteral("-: the SMIL part is larger than 1 MiB\n"));
+    QCOMPARE(smiltool({QStringLiteral("show"), QStringLiteral("-")}, headers.leftJustified(8 * 1024 * 1024 + 1)).err,
+             QStringLiteral("-: larger than 8 MiB\n"));
     const Outcome cut = smiltool({QStringLiteral("show"), QStringLiteral("-")}, message.chopped(1));
     QCOMPARE(cut.err,
              QStringLiteral("-: is cut off in its parts (number 3 of 3), or has a length there that is wrong\n"));
