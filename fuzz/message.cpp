@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         for (const QString &name : {part.name, part.location, QLatin1String("cid:<") + part.id + QLatin1Char('>')}) {
             require(name.isEmpty() || name == QLatin1String("cid:<>") || parts.find(name) >= 0, "a name finds a part");
         }
-        require(parts.find(parts.name(i)) >= -1 && parts.read(i).kind != Parts::Unread, "a part has a kind");
+        require(parts.find(parts.at(i).name) >= -1 && parts.read(i).kind != Parts::Unread, "a part has a kind");
     }
     require(total <= qint64(size), "there is no more data than there was");
     return 0;
