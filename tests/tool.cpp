@@ -565,6 +565,8 @@ void Tool::partsAreDrawn_data()
     row("words", QByteArray("It rains all day. ").repeated(200), "It rains all | day. It rains… | 1 · not stated");
     row("one word", QByteArray("\xe6\x97\xa5").repeated(2000), "日日日日日日日日 | 日日日日日日日… | 1 · not stated");
     row("to the left", "\xd7\xa9\xd7\x9c", "של | 1 · not stated");
+    row("a character that the limit cuts", "a" + QByteArray("\xe6\x97\xa5").repeated(6000),
+        "a日日日日日日日 | 日日日日日日日… | 1 · not stated");
     row("a picture", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), "1 · not stated");
     row("a sound", "#!AMR\n", "I | ▣ part | 1 · not stated");
 }

@@ -187,9 +187,19 @@ static Picture pictureOf(const Frame &frame, const Screen &screen, Message &mess
     return picture;
 }
 
+/** Enough of a text, and no broken character at its end: bytes that are not all UTF-8 would be taken for Latin-1. */
+static QByteArray beginning(const QByteArray &text)
+{
+    auto size = qMin<qsizetype>(text.size(), 4 * longestText);
+    while (size > 0 && size < text.size() && (uchar(text.at(size)) & 0xc0) == 0x80) {
+        --size;
+    }
+    return text.left(size);
+}
+
 namespace
 {
-/** Draws the parts, each with its data only once in a region, however many frames show it. */
+/** Draws the parts, each only once in a region: where other frames show it again, they refer to the first. */
 class Contents
 {
 public:
@@ -202,46 +212,50 @@ public:
 
     void draw(const Content &content, int region)
     {
-        const QRectF &area = screen.areas.at(region);
         for (const SmilRef *const ref : content.drawn) {
-            const int number = message.parts.find(ref->src);
-            const Parts::Part &part = message.parts.read(number);
-            svg.beginClip(area);
-            svg.title(nameOf(*ref) + QLatin1String(" in ") + screen.ids.at(region));
-            if (part.kind == Parts::Picture) {
-                drawPicture(part, QStringLiteral("p%1-%2").arg(number).arg(region), region, nameOf(*ref));
+            const int part = message.parts.find(ref->src);
+            const QString id = QStringLiteral("p%1-%2").arg(part).arg(region);
+            if (drawn.contains(id)) {
+                svg.reuse(id);
             } else {
-                drawText(part, area.size());
+                drawn.insert(id);
+                draw(message.parts.read(part), region, nameOf(*ref), id);
             }
-            svg.endGroup();
         }
         if (content.missing) {
-            svg.cross(area);
+            svg.cross(screen.areas.at(region));
         }
     }
 
 private:
-    void drawPicture(const Parts::Part &part, const QString &id, int region, const QString &name)
+    void draw(const Parts::Part &part, int region, const QString &name, const QString &id)
     {
-        if (drawn.contains(id)) {
-            svg.reuse(id);
+        svg.beginClip(screen.areas.at(region), id);
+        svg.title(name + QLatin1String(" in ") + screen.ids.at(region));
+        if (part.kind != Parts::Picture) {
+            drawText(part, screen.areas.at(region).size());
         } else if (part.data.size() <= left) {
-            const QString &fit = screen.fits.at(region);
-            const char *const aspectRatio = fit == QLatin1String("meet") ? "xMinYMin meet"
-                : fit == QLatin1String("slice")                          ? "xMinYMin slice"
-                : fit == QLatin1String("fill")                           ? "none"
-                                                                         : nullptr;
-            svg.image(id, part.type, part.data, screen.areas.at(region).size(), aspectRatio, screen.scale);
-            left -= part.data.size();
-            drawn.insert(id);
+            drawPicture(part, region);
         } else {
             svg.text(QPointF(4, 0.75 * lineHeight), name);
         }
+        svg.endGroup();
+    }
+
+    void drawPicture(const Parts::Part &part, int region)
+    {
+        const QString &fit = screen.fits.at(region);
+        const char *const aspectRatio = fit == QLatin1String("meet") ? "xMinYMin meet"
+            : fit == QLatin1String("slice")                          ? "xMinYMin slice"
+            : fit == QLatin1String("fill")                           ? "none"
+                                                                     : nullptr;
+        svg.image(part.type, part.data, screen.areas.at(region).size(), aspectRatio, screen.scale);
+        left -= part.data.size();
     }
 
     void drawText(const Parts::Part &part, const QSizeF &size)
     {
-        const QString text = decoded(part.data.left(4 * longestText)).left(longestText);
+        const QString text = decoded(beginning(part.data)).left(longestText);
         const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
         QStringList printed;
         for (const QString &paragraph : paragraphs) {

@@ -38,9 +38,12 @@ void Svg::beginGroup(const QPointF &corner)
                           QStringLiteral("translate(%1 %2)").arg(corner.x()).arg(corner.y()));
 }
 
-void Svg::beginClip(const QRectF &inside)
+void Svg::beginClip(const QRectF &inside, const QString &id)
 {
     writer.writeStartElement(QStringLiteral("svg"));
+    if (!id.isEmpty()) {
+        writer.writeAttribute(QStringLiteral("id"), id);
+    }
     area(inside);
 }
 
@@ -85,11 +88,9 @@ void Svg::cross(const QRectF &edges)
     writer.writeAttribute(QStringLiteral("class"), QStringLiteral("cross"));
 }
 
-void Svg::image(const QString &id, const QString &type, const QByteArray &data, const QSizeF &size,
-                const char *aspectRatio, double scale)
+void Svg::image(const QString &type, const QByteArray &data, const QSizeF &size, const char *aspectRatio, double scale)
 {
     writer.writeEmptyElement(QStringLiteral("image"));
-    writer.writeAttribute(QStringLiteral("id"), id);
     if (aspectRatio) {
         attribute("width", size.width());
         attribute("height", size.height());

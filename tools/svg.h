@@ -20,7 +20,7 @@ public:
     /** Everything up to endGroup() has its origin at @p corner. */
     void beginGroup(const QPointF &corner);
     /** Everything up to endGroup() has its origin at the corner of @p area, and is cut off at its edges. */
-    void beginClip(const QRectF &area);
+    void beginClip(const QRectF &area, const QString &id = QString());
     void endGroup();
 
     /** What a viewer says of the element that this is in. */
@@ -30,11 +30,11 @@ public:
     void text(const QPointF &at, const QString &line, const char *kind = nullptr);
 
     /**
-     * A picture of the given type, "image/png" for example, that reuse() draws again by its @p id. It is fitted into
-     * @p size as the aspect ratio says ("none" is one), or drawn in its own size times @p scale when that is null.
+     * A picture of the given type, "image/png" for example. It is fitted into @p size as the aspect ratio says ("none"
+     * is one), or drawn in its own size times @p scale when that is null.
      */
-    void image(const QString &id, const QString &type, const QByteArray &data, const QSizeF &size,
-               const char *aspectRatio, double scale);
+    void image(const QString &type, const QByteArray &data, const QSizeF &size, const char *aspectRatio, double scale);
+    /** Draws again, at the same place, what has this id. */
     void reuse(const QString &id);
 
 private:
