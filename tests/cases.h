@@ -46,9 +46,12 @@ inline void addCases(const char *name)
     for (const QByteArray &column : std::as_const(columns)) {
         QTest::addColumn<QString>(column.constData());
     }
+    QSet<QString> names;
     for (const QString &line : std::as_const(lines)) {
         QStringList texts = line.split(QLatin1String(" | "));
         QVERIFY2(texts.size() == columns.size() + 1, "not a name and a text for each column: " + line.toUtf8());
+        QVERIFY2(!names.contains(texts.first()), "two rows of one name: " + line.toUtf8());
+        names.insert(texts.first());
         QTestData &row = QTest::newRow(texts.takeFirst().toUtf8().constData());
         for (QString &text : texts) {
             text.replace(QLatin1String("\\n"), QLatin1String("\n"));

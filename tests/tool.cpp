@@ -205,9 +205,9 @@ void Tool::badUsage()
 
 void Tool::help()
 {
-    for (const char *const arguments : {"help", "--help", "help check", "check --help", "--help check"}) {
+    for (const char *const arguments : {"help", "--help", "help help", "help check", "check --help", "--help check"}) {
         const Outcome outcome = smiltool(QString::fromLatin1(arguments).split(QLatin1Char(' ')));
-        const bool ofCheck = qstrlen(arguments) > 6;
+        const bool ofCheck = QByteArray(arguments).contains("check");
         QVERIFY2(outcome.out.contains(QLatin1String("--ignore")) == ofCheck, arguments);
         QVERIFY2(outcome.out.contains(QLatin1String("  storyboard")) != ofCheck, arguments);
         QVERIFY2(outcome.status == 0 && outcome.err.isEmpty(), arguments);
@@ -251,6 +251,8 @@ void Tool::lostOutputIsAnError()
     const Outcome drawn =
         runScript(folder.path(), QStringLiteral("$tool storyboard holiday.smil -o /dev/stdout >/dev/full"));
     QVERIFY2(drawn.err.startsWith(QLatin1String("/dev/stdout: ")), qPrintable(drawn.err));
+    QCOMPARE(runScript(folder.path(), QStringLiteral("$tool show - <&-")).err,
+             QStringLiteral("-: Bad file descriptor\n"));
     QCOMPARE(drawn.status, 1);
 }
 
@@ -409,7 +411,8 @@ void Tool::frames_data()
     row("a long name without an extension", "<par><img src='a-name-that-is.longer-than-the-screen' region='I'/></par>",
         "I | ▣ a-name-that-is.longer-th… | 1 · not stated");
     row("a long name", "<par><img src='a-name-that-is-longer-than-the-screen.jpeg' region='I'/></par>",
-        "I | ▣ a-name-that-is-longe…jpeg | 1 · not stated");
+        "I | ▣ a-name-that-is-long…jpeg | 1 · not stated");
+    row("wide letters", "<par><img src='ЩЩЩЩЩЩЩЩЩЩЩЩ.jpg' region='I'/></par>", "I | ▣ ЩЩЩЩЩЩЩЩЩЩ…jpg | 1 · not stated");
     row("many lines", "<par><audio/><audio/><audio/><audio/><audio/><audio/><audio/></par>",
         "1 · not stated | ♪ ? | ♪ ? | ♪ ? | ♪ ? | ♪ ? | … 2 more");
 }
@@ -689,6 +692,8 @@ void Tool::drawsTo_data()
     QTest::newRow("a descriptor of a file")
         << QStringLiteral("(echo first; $tool storyboard nested.smil -o /dev/stdout) >$board && "
                           "grep -qx first $board && tail -n +2 $board");
+    QTest::newRow("a descriptor between other output") << QStringLiteral(
+        "(printf %20s; $tool storyboard nested.smil -o /dev/fd/3 3>&1; echo) >$board && tail -c +21 $board");
     QTest::newRow("a pipe") << QStringLiteral(
         "mkfifo $board && (cat $board & $tool storyboard nested.smil -o $board; wait) && test -p $board");
 }

@@ -26,8 +26,13 @@ static void add(Frame &frame, const QString &order, bool sequence)
 {
     if (frame.order.size() < longestOrder) {
         const QString separator = sequence ? QStringLiteral(" \u2192 ") : QStringLiteral(" + ");
-        frame.order += (frame.order.isEmpty() ? QString() : separator) + order;
+        frame.order = shortened(frame.order + (frame.order.isEmpty() ? QString() : separator) + order, longestOrder);
     }
+}
+
+static void add(Frame &frame, const QList<const SmilRef *> &media)
+{
+    frame.media += media.mid(0, mostMedia - frame.media.size());
 }
 
 /** Adds all that plays in the node, but for one of its children, to one frame. */
@@ -40,7 +45,7 @@ static void addAll(Frame &frame, const SmilNode &node, const SmilNode *except = 
         }
         Frame inner;
         addAll(inner, child);
-        frame.media += inner.media;
+        add(frame, inner.media);
         frame.nested = true;
         add(frame, QLatin1Char('(') + inner.order + QLatin1Char(')'), sequence);
     }
@@ -83,9 +88,7 @@ static QList<Frame> splitParallel(const SmilNode &node)
     Frame others;
     addAll(others, node, longest);
     for (Frame &frame : frames) {
-        if (frame.media.size() < mostMedia) {
-            frame.media += others.media;
-        }
+        add(frame, others.media);
         frame.nested = frame.nested || others.nested;
         if (!others.order.isEmpty()) {
             add(frame, others.order, false);

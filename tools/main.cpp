@@ -14,7 +14,9 @@
 
 #include <clocale>
 #include <cstdio>
+#include <fcntl.h>
 #include <langinfo.h>
+#include <unistd.h>
 
 bool MMSLogger::qdebugEnabled = false;
 
@@ -239,8 +241,22 @@ static void useUtf8()
     }
 }
 
+/**
+ * Whatever is opened first would take the place of a standard descriptor that is closed, and be read or written as
+ * that. In its place stands what cannot be, so that the error says so.
+ */
+static void keepStandardDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) < 0) {
+            open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
+}
+
 int main(int argc, char *argv[])
 {
+    keepStandardDescriptors();
     useUtf8();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("smiltool"));
@@ -249,7 +265,7 @@ int main(int argc, char *argv[])
     const QStringList arguments = QCoreApplication::arguments();
     const QStringList given = words(arguments);
     const bool help = given.value(0) == QLatin1String("help");
-    const QString name = given.value(help ? 1 : 0);
+    const QString name = help && given.value(1) == given.first() ? QString() : given.value(help ? 1 : 0);
     const Command *const command = findCommand(name);
     if (!command && !name.isEmpty()) {
         return badUsage(QStringLiteral("unknown command '%1'.").arg(name));

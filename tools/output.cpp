@@ -8,6 +8,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
+#include <QtCore/QStringList>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,19 +22,30 @@ static bool isSameFile(const QString &input, const struct stat &output)
     return !failed && S_ISREG(status.st_mode) && status.st_dev == output.st_dev && status.st_ino == output.st_ino;
 }
 
-/** Whether the name stands for something that is there and open already, so that nothing may take its place. */
-static bool isDescriptor(const QString &name)
+/** The descriptor that the name stands for, such as that of /dev/stdout; -1 when it is a file's name. */
+static int descriptor(const QString &name)
 {
     const QString path = QFileInfo(name).absoluteFilePath();
-    return path.startsWith(QLatin1String("/dev/fd/")) || path.startsWith(QLatin1String("/dev/std"))
-        || path.startsWith(QLatin1String("/proc/"));
+    static const QStringList standard{QStringLiteral("/dev/stdin"), QStringLiteral("/dev/stdout"),
+                                      QStringLiteral("/dev/stderr")};
+    for (const QLatin1String folder : {QLatin1String("/dev/fd/"), QLatin1String("/proc/self/fd/")}) {
+        bool isNumber = false;
+        const int number = path.mid(folder.size()).toInt(&isNumber);
+        if (isNumber && path.startsWith(folder)) {
+            return number;
+        }
+    }
+    return int(standard.indexOf(path));
 }
 
 static bool writeTo(const QString &name, Message &message)
 {
     QFile out(name);
-    // Appending, since what /dev/stdout stands for may be a file that others have written to.
-    if (out.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly)) {
+    // Opened again, a file would be written from its beginning, over what its descriptor has written already.
+    const int given = descriptor(name);
+    const bool opened = given >= 0 ? out.open(dup(given), QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)
+                                   : out.open(QIODevice::WriteOnly | QIODevice::ExistingOnly);
+    if (opened) {
         storyboard(message, out);
         out.flush();
     }
@@ -61,5 +73,5 @@ bool drawTo(const QString &name, Message &message)
     if (isSameFile(message.file, status)) {
         return complainOf(name, QStringLiteral("is the message itself"));
     }
-    return S_ISREG(status.st_mode) && !isDescriptor(name) ? replace(name, message) : writeTo(name, message);
+    return S_ISREG(status.st_mode) && descriptor(name) < 0 ? replace(name, message) : writeTo(name, message);
 }

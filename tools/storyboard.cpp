@@ -50,7 +50,8 @@ text { fill: currentColor; }
 namespace
 {
 struct Label {
-    QRectF area;
+    QRectF area; ///< that it takes, about
+    double room; ///< to the edge of its region
     QString text;
     bool isId;
 };
@@ -157,7 +158,8 @@ static void label(const QRectF &region, const QString &id, const Content &conten
         const bool fits = isFree && length <= region.width() && next >= 0;
         const int line = fits ? freeLine(region, picture.labels, next, length) : -1;
         if (line >= 0) {
-            picture.labels.append({QRectF(region.x(), region.y() + line * lineHeight, length, lineHeight), text, isId});
+            const QRectF area(region.x(), region.y() + line * lineHeight, length, lineHeight);
+            picture.labels.append({area, region.width(), text, isId});
             next = line + 1;
         } else if (!isId) {
             picture.below.append(lineBelow(lines.at(i), id.isEmpty() ? id : QLatin1String(" in ") + id));
@@ -287,7 +289,7 @@ static void draw(Svg &svg, Contents &contents, const Picture &picture, const Scr
     }
     // After all regions, so that none hides a name in another.
     for (const Label &label : picture.labels) {
-        svg.beginClip(label.area);
+        svg.beginClip(QRectF(label.area.topLeft(), QSizeF(label.room, lineHeight)));
         svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.isId ? "id" : nullptr);
         svg.endGroup();
     }

@@ -79,11 +79,13 @@ static double characterWidth(QChar c)
     if (QStringLiteral("ijl.,:;'|!()[] tfr-").contains(c)) {
         return 4.5;
     }
+    if (QStringLiteral("mwMW@%\u0416\u0429\u042e\u0436\u0448\u0449\u044e").contains(c)) { // the wide of Cyrillic
+        return 12.5;
+    }
     if (c.isSurrogate()) { // two of which are one sign
         return 6;
     }
-    const bool wide = c.unicode() >= 0x2000 || c == QLatin1Char('m') || c == QLatin1Char('w');
-    return wide ? 11 : c.isUpper() || !c.isLetterOrNumber() ? 8.5 : 7;
+    return c.unicode() >= 0x2000 ? 11 : c.isUpper() || !c.isLetterOrNumber() || c.unicode() >= 0x0370 ? 9 : 7;
 }
 
 double width(const QString &text)
