@@ -118,7 +118,7 @@ public:
      * A null string when #valid is false or #unit is not one of #Unit.
      *
      * "010px" comes back as "10px", "33.333333%" as "33.3333%", "20000000s" as "2e+07s". A #value that is not finite
-     * is written as "inf" or "nan", which convert() does not read.
+     * is written as "inf" or "nan", which convert() does not read. Cost: the same for every measure.
      */
     QString toString() const;
 
@@ -158,8 +158,7 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
  * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs.
  *
  * Destroying a tree takes one call level per level of nesting; so does rendering it. Trees made by parsing are never
- * deeper than SmilParser::MaxDepth. A node that is to be replaced by one of its own descendants is assigned a copy of
- * that: assignment goes field by field and drops the old #children first.
+ * deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that first.
  */
 class SMILPARSER_EXPORT SmilNode
 {
@@ -339,10 +338,13 @@ public:
      */
     explicit SmilParser(QIODevice *device);
 
-    /** A parser of @p bytes, which are shared, not copied. Null or empty: no input. */
+    /** A parser of @p bytes, which are shared, not copied, whatever their size. Null or empty: no input. */
     explicit SmilParser(const QByteArray &bytes);
 
-    /** A parser that holds a copy of @p model, for getContent(). It has no input: parse() fails and keeps it. */
+    /**
+     * A parser that holds a copy of @p model, for getContent(). It has no input: parse() fails and keeps it. Cost: the
+     * same for every model, since a copy shares its lists.
+     */
     explicit SmilParser(const SmilDocument &model);
 
     /**
@@ -358,7 +360,8 @@ public:
      *
      * The first row is also that of a document beyond a #Limit. The warning carries the XML reader's message, line and
      * column. The reader writes them to @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in
-     * all other rows they are left alone. Elements and attributes that the model has no place for are ignored, and so
+     * all other rows they are left alone. The first line is 1. The column is the number of characters of that line that
+     * were read before the reader gave up: that of the last one, if the first is 1, or 0 if there was none (Qt 6). Elements and attributes that the model has no place for are ignored, and so
      * is an attribute that is absent or not understood: none of this is an error.
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
@@ -401,6 +404,8 @@ public:
      *
      * With MMSLogger::qdebugEnabled it says "Begin to parse smil document. ", then "Smil document have a head. " and
      * "Smil document have a body. " as each has been read.
+     *
+     * Cost: that of parseSmilHead() and parseSmilBody(), and linear in the number of children of @p smil.
      */
     bool parseSmilDocument(QDomElement &smil);
 
@@ -408,6 +413,8 @@ public:
      * Reads the attributes of @p head, its "meta" children and its first "layout" child into the model's header.
      * Metas and regions are appended to those there; attributes replace, also with nothing when they are absent. The
      * element is not changed; a null one counts as one without attributes and children. Always true.
+     *
+     * Cost: that of parseLayout(), and linear in the number of children of @p head.
      */
     bool parseSmilHead(QDomElement &head);
 
@@ -415,10 +422,15 @@ public:
      * Reads the first "root-layout", the first "topLayout" and every "region" child of @p layout into the model's
      * layout. Regions are appended to those there; a missing "root-layout" or "topLayout" leaves its two measures
      * alone. The element is not changed; a null one counts as empty. Always true.
+     *
+     * Cost: linear in the number of children of @p layout and in the length of their measures.
      */
     bool parseLayout(QDomElement &layout);
 
-    /** Reads @p body into the root of the model's timeline: parseSmilNodes() with it, that root and depth 0. */
+    /**
+     * Reads @p body into the root of the model's timeline: parseSmilNodes() with it, that root and depth 0. What that
+     * says of results, null elements and cost holds here.
+     */
     bool parseSmilBody(QDomElement &body);
 
     /**
@@ -443,14 +455,20 @@ public:
      * XML declaration, document type or namespace. How the document is turned into text is up to the host. Qt writes
      * the attributes of an element in an order that differs from run to run, but for QT_HASH_SEED=0 in the environment.
      *
-     * Cost: linear in the size of the model.
+     * Cost: that of render().
      */
     QDomDocument &getContent();
 
     /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends
-     * it where it belongs. The element is of the parser's own document, which getContent() drops. The record is not
-     * changed. The result is "smil", "head", "layout" and so on, never null except for a SmilRef of unknown kind.
+     * it where it belongs. The record is not changed. The result is "smil", "head", "layout" and so on, never null
+     * except for a SmilRef of unknown kind.
+     *
+     * The element belongs to the document that getContent() returned last. The next getContent() starts a new document:
+     * elements from before stay as they are, but belong to the old one until a host appends them to the new one.
+     *
+     * Cost: linear in the number of records that it holds and in the length of their texts, with one call level per
+     * level of nesting.
      */
     QDomElement render(SmilDocument &model);
     QDomElement render(SmilHeader &header); ///< @copydoc render(SmilDocument&)
