@@ -361,8 +361,9 @@ public:
      * The first row is also that of a document beyond a #Limit. The warning carries the XML reader's message, line and
      * column. The reader writes them to @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in
      * all other rows they are left alone. The first line is 1. The column is the number of characters of that line that
-     * were read before the reader gave up: that of the last one, if the first is 1, or 0 if there was none (Qt 6). Elements and attributes that the model has no place for are ignored, and so
-     * is an attribute that is absent or not understood: none of this is an error.
+     * were read before the reader gave up: that of the last one, if the first is 1, or 0 if there was none (Qt 6).
+     * Elements and attributes that the model has no place for are ignored, and so is an attribute that is absent or not
+     * understood: none of this is an error.
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *
