@@ -18,8 +18,8 @@
  * The whole interface of the library: the model of a presentation (SmilUnit and the records up to SmilDocument) and
  * SmilParser, which reads SMIL text into the model and renders the model as a DOM.
  *
- * The model types are plain values. Copies share their text and lists with the source until one of the two is changed,
- * so that a copy costs the same however much it holds; each copy behaves as independent. Every field may be set to
+ * The model types are plain values. A copy shares its text and lists with the source until one of the two is changed:
+ * it costs the same however much it holds, and a change to one never shows in the other. A field may be set to
  * anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types of
  * the fields and the numbers of the enumerators are part of the binary interface and do not change.
  *
@@ -35,8 +35,8 @@
  */
 
 /**
- * A size, position or duration: a number and the unit it was written in. Values are never converted between units, but
- * for convertClock(), which makes seconds of all. The default is the invalid measure: not #valid, #NoUnit, 0.
+ * A size, position or duration: a number and the unit it was written in. Only convertClock() converts between units: it
+ * makes seconds of all. The default is the invalid measure: not #valid, #NoUnit, 0.
  */
 class SMILPARSER_EXPORT SmilUnit
 {
@@ -75,11 +75,10 @@ public:
     /**
      * Reads a number with an optional unit from @p text into #unit and #value; #valid is neither read nor changed.
      *
-     * The suffixes "pt", "in", "cm", "px", "%" and "s" are looked for in this order, case-sensitively; the first in
-     * the list that occurs anywhere in the text gives the unit, wherever others stand. What precedes its first
-     * occurrence is the number, what follows is ignored. With none of them the whole text is the number, in pixels.
-     * The number is a C-locale decimal with optional sign and exponent, a full stop as decimal point; white space
-     * around it is ignored.
+     * The suffixes "pt", "in", "cm", "px", "%" and "s" are looked for in this order and in lower case. The first of the
+     * list that is found, anywhere in the text, gives the unit. What precedes its first occurrence is the number; what
+     * follows is ignored. If none is found, the whole text is the number, in pixels. The number is a C-locale
+     * decimal with optional sign and exponent, a full stop as decimal point; white space around it is ignored.
      *
      * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", infinite or
      * beyond the range of a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
@@ -106,8 +105,8 @@ public:
      * there are none. The number of seconds is the double that is nearest to what is written, however many digits that
      * has: what is too small becomes 0.
      *
-     * @return whether @p text is a clock value, and not beyond the range of a double. If not, also when it is null or
-     * empty, nothing is changed. A host that makes a measure of it stores this in #valid.
+     * @return whether @p text is a clock value, and not beyond the range of a double. If not, as
+     * with a null or empty text, nothing is changed. To make a measure of it, store the result in #valid.
      *
      * Cost: linear in the length of the text.
      */
@@ -118,7 +117,7 @@ public:
      * A null string when #valid is false or #unit is not one of #Unit.
      *
      * "010px" comes back as "10px", "33.333333%" as "33.3333%", "20000000s" as "2e+07s". A #value that is not finite
-     * is written as "inf" or "nan", which convert() does not read. Cost: the same for every measure.
+     * is written as "inf" or "nan", which convert() does not read. Cost: constant.
      */
     QString toString() const;
 
@@ -199,7 +198,7 @@ public:
 };
 Q_DECLARE_TYPEINFO(SmilBody, Q_MOVABLE_TYPE);
 
-/** One named piece of information about the presentation, element "meta". */
+/** One named piece of information about the presentation, element "meta". All null by default. */
 class SMILPARSER_EXPORT SmilMeta
 {
 public:
@@ -210,8 +209,8 @@ public:
 Q_DECLARE_TYPEINFO(SmilMeta, Q_MOVABLE_TYPE);
 
 /**
- * A rectangle of the screen that media play in, element "region". Its measures are invalid when the attribute is
- * absent or not understood, and an invalid one is not written.
+ * A rectangle of the screen that media play in, element "region". By default its texts are null and its measures
+ * invalid. A measure is also invalid when its attribute is absent or not understood; an invalid one is not written.
  */
 class SMILPARSER_EXPORT SmilRegion
 {
@@ -290,9 +289,9 @@ class SMILPARSER_EXPORT SmilParser
 {
 public:
     /**
-     * Bounds on what is read. An ordinary message is nowhere near them. parse() takes a document that exceeds one for
-     * XML that is not well formed and ends there, and so it does with a document type that declares anything ("[").
-     * SECURITY.md says why, and what reading costs without them.
+     * Bounds on what is read. An ordinary message is nowhere near them. parse() cuts off a document where it exceeds
+     * one, or where its document type declares anything ("["), and reports that it is not well formed. SECURITY.md says
+     * why, and what reading costs without them.
      */
     enum Limit {
         MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
@@ -313,9 +312,9 @@ public:
         ClockDurations = 1,
 
         /**
-         * SmilLayout::topLayoutWidth is SmilLayout::rootLayoutWidth where no valid one was read, and likewise the
-         * height, so that getContent() writes the size that was read. The root layout's own stay. Where neither is
-         * valid, nothing changes.
+         * SmilLayout::rootLayoutWidth is copied to SmilLayout::topLayoutWidth if no valid one was read there, and the
+         * height likewise, so that getContent() writes the size that was read. The root layout's own stay. If neither
+         * is valid, nothing changes.
          */
         KeepRootSize = 2
     };
@@ -338,12 +337,12 @@ public:
      */
     explicit SmilParser(QIODevice *device);
 
-    /** A parser of @p bytes, which are shared, not copied, whatever their size. Null or empty: no input. */
+    /** A parser of @p bytes, which are shared, not copied. Null or empty: no input. Cost: constant. */
     explicit SmilParser(const QByteArray &bytes);
 
     /**
-     * A parser that holds a copy of @p model, for getContent(). It has no input: parse() fails and keeps it. Cost: the
-     * same for every model, since a copy shares its lists.
+     * A parser that holds a copy of @p model, for getContent(). It has no input: parse() fails and keeps the copy.
+     * Cost: constant.
      */
     explicit SmilParser(const SmilDocument &model);
 
@@ -360,17 +359,16 @@ public:
      *
      * The first row is also that of a document beyond a #Limit. The warning carries the XML reader's message, line and
      * column. The reader writes them to @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in
-     * all other rows they are left alone. The first line is 1. The column is the number of characters of that line that
-     * were read before the reader gave up: that of the last one, if the first is 1, or 0 if there was none (Qt 6).
-     * Elements and attributes that the model has no place for are ignored, and so is an attribute that is absent or not
-     * understood: none of this is an error.
+     * all other rows they are left alone. Lines start at 1. The column is the number of UTF-16 code units of its line
+     * up to where the reader gave up; that is 0 in some cases with Qt 6. Elements and attributes that the model has no
+     * place for are ignored, and so is an attribute that is absent or not understood: none of this is an error.
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *
      * The model is the parser's. Of a parser that is a temporary, take a copy: after
      * `const SmilDocument &model = SmilParser(bytes).parse();` the reference refers to nothing.
      *
-     * Cost: what QDomDocument::setContent() costs for the input, and a walk linear in the number of its nodes.
+     * Cost: a scan of the input, what QDomDocument::setContent() costs for it, and the walk parseSmilDocument().
      */
     SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);
 
@@ -403,10 +401,10 @@ public:
      * @return whether both were found and read. If not, there is one warning as of parse() (none when parseSmilNodes()
      * refused the body); without a head, the body is not looked for. A null element has neither.
      *
+     * Cost: linear in the number of children of @p smil, then that of parseSmilHead() and of parseSmilBody().
+     *
      * With MMSLogger::qdebugEnabled it says "Begin to parse smil document. ", then "Smil document have a head. " and
      * "Smil document have a body. " as each has been read.
-     *
-     * Cost: that of parseSmilHead() and parseSmilBody(), and linear in the number of children of @p smil.
      */
     bool parseSmilDocument(QDomElement &smil);
 
@@ -415,7 +413,8 @@ public:
      * Metas and regions are appended to those there; attributes replace, also with nothing when they are absent. The
      * element is not changed; a null one counts as one without attributes and children. Always true.
      *
-     * Cost: that of parseLayout(), and linear in the number of children of @p head.
+     * Cost: linear in the number of children of @p head, then that of parseLayout(). What other children hold costs
+     * nothing.
      */
     bool parseSmilHead(QDomElement &head);
 
@@ -424,14 +423,11 @@ public:
      * layout. Regions are appended to those there; a missing "root-layout" or "topLayout" leaves its two measures
      * alone. The element is not changed; a null one counts as empty. Always true.
      *
-     * Cost: linear in the number of children of @p layout and in the length of their measures.
+     * Cost: linear in the number of children of @p layout and in the length of the measures. Other texts are shared.
      */
     bool parseLayout(QDomElement &layout);
 
-    /**
-     * Reads @p body into the root of the model's timeline: parseSmilNodes() with it, that root and depth 0. What that
-     * says of results, null elements and cost holds here.
-     */
+    /** Reads @p body into the root of the model's timeline: parseSmilNodes() with it, that root and depth 0. */
     bool parseSmilBody(QDomElement &body);
 
     /**
@@ -445,31 +441,32 @@ public:
      * @return false, silently, when @p depth is above #MaxDepth, and then @p node is not touched; or when it is for a
      * nested element: that one and the elements around it up to @p element are left out, what precedes them is kept.
      *
-     * Cost: linear in the number of nodes walked, one call level per level of nesting.
+     * Cost: linear in the number of children of @p element and of the "par" and "seq" elements read, and in the length
+     * of the durations; one call level per level of nesting. Other texts are shared. What skipped children hold costs
+     * nothing.
      */
     bool parseSmilNodes(QDomElement &element, SmilNode &node, int depth);
 
     /**
-     * Renders the model as a DOM document with the root element "smil", and returns that. What an earlier call or
-     * parse() left in the document is dropped; a copy of it keeps the earlier tree. The model is not changed, and
-     * every model renders: empty texts and invalid measures are left out, the rest is written verbatim. There is no
-     * XML declaration, document type or namespace. How the document is turned into text is up to the host. Qt writes
-     * the attributes of an element in an order that differs from run to run, but for QT_HASH_SEED=0 in the environment.
+     * Begins a new DOM document, renders the model into it under the root element "smil", and returns it. The old one,
+     * from an earlier call or parse(), is dropped; a copy of it keeps its tree. Elements that render() returned before
+     * belong to the old document. The model is not changed, and every model renders: empty texts and invalid measures
+     * are left out, the rest is written verbatim. There is no XML declaration, document type or namespace. How the
+     * document is turned into text is up to the host. Qt writes the attributes of an element in an order that differs
+     * from run to run, but for QT_HASH_SEED=0 in the environment.
      *
-     * Cost: that of render().
+     * Cost: that of dropping the old tree, unless a copy keeps it, and that of render() for the model.
      */
     QDomDocument &getContent();
 
     /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends
-     * it where it belongs. The record is not changed. The result is "smil", "head", "layout" and so on, never null
+     * it where it belongs. The element belongs to the parser's document, until getContent() begins a new one: then it
+     * belongs to the old. The record is not changed. The result is "smil", "head", "layout" and so on, never null
      * except for a SmilRef of unknown kind.
      *
-     * The element belongs to the document that getContent() returned last. The next getContent() starts a new document:
-     * elements from before stay as they are, but belong to the old one until a host appends them to the new one.
-     *
-     * Cost: linear in the number of records that it holds and in the length of their texts, with one call level per
-     * level of nesting.
+     * Cost: linear in the number of records held, however long their texts, which are shared; one call level per level
+     * of nested nodes.
      */
     QDomElement render(SmilDocument &model);
     QDomElement render(SmilHeader &header); ///< @copydoc render(SmilDocument&)
