@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // Compares what a host sees of a document with what the XML reader alone makes of it: the same within the limits, and
-// an error beyond them. The guard is part of this program too, which asks it where a limit is exceeded.
+// an error beyond them. The program has the guard in it, and asks it where a limit is exceeded.
 
 #include "grammar.h"
 
@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         require(refused, "Beyond the limits, and no error:", input, told, QString());
     } else if (!decoded || !text.contains("\xef\xbf\xbd")) { // readers report unknown characters in their own ways
         const QString expected = toldByReaderAlone(input);
-        // Where the bytes are not in the declared encoding, both see something that is no XML, and not the same.
+        // If the bytes are not in the declared encoding, neither sees XML, and what they see differs.
         const bool garbled = decoded && (!text.startsWith('<') || text.contains('\0'));
         const bool bothRefuse = refused && isRefused(expected);
         require(told == expected || (garbled && bothRefuse), "Not what the reader alone gives:", input, told, expected);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// Looks for documents that take longer than is promised: up to 1 MiB, read and written on a small stack. What they take
-// of memory is held by -rss_limit_mb.
+// Looks for documents of up to 1 MiB that take longer than is promised to read and write on a small stack. The option
+// -rss_limit_mb bounds their memory.
 
 #include "grammar.h"
 
@@ -42,7 +42,7 @@ static double ordinaryTimePerByte()
     return qMin(timeOf(message), timeOf(message)) / double(message.size());
 }
 
-/** What the fuzzer takes for branches of their own: so it keeps an input that takes longer than all before. */
+/** The fuzzer takes each of these for a branch: so it keeps an input that takes longer than all before. */
 __attribute__((section("__libfuzzer_extra_counters"))) static uint8_t reached[200];
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

@@ -9,8 +9,8 @@
 #include <vector>
 
 struct Piece {
-    QByteArray text; ///< in which "#" becomes a number that no other "#" of the same tag has
-    int levels = 0; ///< that it opens
+    QByteArray text; ///< each "#" becomes a number that no other "#" of the same tag has
+    int levels = 0; ///< how many it opens
 };
 
 /** @p text divided at each "~". */
@@ -42,7 +42,7 @@ inline const QByteArrayList &attributes()
     return all;
 }
 
-/** What is no XML, or none there, or beyond the limits. */
+/** What is no XML, or not where it stands, or beyond the limits. */
 inline const QByteArrayList &oddities()
 {
     static const QByteArrayList all = [] {
@@ -83,10 +83,10 @@ inline QByteArray prologue(uint8_t declared, uint8_t type)
 }
 
 /**
- * A document of about @p longest characters at most out of a fuzzer's bytes, whose mutations are then those of the
- * grammar. After the encoding and the prologue, each byte is one of contents(), one of attributes() that is put so
- * often into the tag before as the next byte says, one of oddities(), or repeats what precedes it. What is open is
- * closed.
+ * Makes a document of about @p longest characters at most out of a fuzzer's bytes, so that mutated bytes give another
+ * document of the grammar. The first bytes choose the encoding and the prologue. Each further one adds one of
+ * contents() or oddities(), puts one of attributes() into the tag before, as often as the next byte says, or repeats
+ * what precedes it. In the end, what is open is closed.
  */
 inline QByteArray documentOf(const uint8_t *data, size_t size, int longest)
 {
@@ -107,7 +107,7 @@ inline QByteArray documentOf(const uint8_t *data, size_t size, int longest)
         const int next = i + 1 < size ? data[i + 1] : 0;
         const int room = longest - int(text.size());
         if (byte >= 0xd0) {
-            // As many of the last pieces as the byte says, so often as the next one does; they are one piece then.
+            // Repeats as many of the last pieces as this byte says, as often as the next one says, into one piece.
             starts.resize(starts.size() - qMin<size_t>(byte & 15, starts.size() - 1));
             const QByteArray last = text.mid(starts.back().place);
             const int levels = level - starts.back().level;

@@ -25,7 +25,7 @@ static bool isXml(const QString &text)
     });
 }
 
-/** Empty texts are not written, and null when read: the outline without them, and without a head that held no more. */
+/** The outline without empty texts, which are not written, and without a head that held no more. */
 static QString outline(const SmilDocument &model)
 {
     static const QRegularExpression empty(QStringLiteral("<head( [a-z]+='')*/>| [a-z]+=''"));

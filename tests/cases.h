@@ -60,7 +60,7 @@ inline void addCases(const char *name)
     }
 }
 
-/** Says what a host sees and what it ought to see, both from a little before they part. */
+/** Says what a host sees and what it ought to see, both from a little before the first difference. */
 inline QByteArray difference(const QString &does, const QString &seen, const QString &expected)
 {
     const auto part = std::mismatch(seen.begin(), seen.end(), expected.begin(), expected.end());

@@ -126,8 +126,8 @@ void Hostile::outcomes()
     QVERIFY2(isRefused(read(encoded(text, form))), "with 600 levels behind that, it is read");
 }
 
-// Unpaired, they are no characters either: Qt 6.4 and 6.8 make them "?", and Qt 6.11 crashes on them. A second byte
-// order mark Qt 6 would drop.
+// Half a surrogate pair is no character either: Qt 6.4 and 6.8 make it "?", and Qt 6.11 crashes on it. Qt 6 would drop
+// a second byte order mark.
 void Hostile::surrogates()
 {
     QFETCH(QString, inside);

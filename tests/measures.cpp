@@ -53,7 +53,7 @@ struct Unended {
     const QString text;
 };
 
-// Ending such a text would copy it: into the host's constant.
+// To end such a text, Qt would copy it, and put the copy into the host's constant.
 void Measures::leavesTheTextAlone()
 {
     for (const char *const digits : {"12px", "123456789", "5", "5000ms", "1.5in"}) {

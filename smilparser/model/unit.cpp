@@ -15,8 +15,8 @@ struct Suffix {
     SmilUnit::Unit unit;
 };
 
-// In the order in which they are looked for, which is also that of the units' numbers: "3pxin" has the unit "in" and
-// the number "3px", which is none.
+// Looked for in this order, which is also that of the units' numbers: "3pxin" has the unit "in", and its "3px" is no
+// number.
 const Suffix suffixes[] = {
     {QLatin1String("pt"), SmilUnit::Pt     },
     {QLatin1String("in"), SmilUnit::In     },
@@ -32,7 +32,7 @@ enum class Outcome { Read, NoNumber, Undecided };
 /** Reads up to nine digits and one suffix or none, as nearly all texts are, for a tenth of what readAny() takes. */
 static Outcome readPlain(const QString &text, SmilUnit &measure)
 {
-    // Not utf16(): that would end a host's text that has no end of its own with one, in a copy or in place.
+    // Not utf16(): behind a host's text that has no null there, it puts one, in a copy or in place.
     const QChar *const begin = text.constData();
     const QChar *const end = begin + text.size();
     const QChar *const limit = begin + qMin<qint64>(text.size(), 9);
@@ -72,7 +72,7 @@ static bool readAny(const QString &text, SmilUnit &measure)
     }
     bool understood = false;
     measure.value = text.left(length).toDouble(&understood);
-    // Qt reads "nan" and "inf", and for a number out of range hands back infinity while it reports failure.
+    // Qt reads "nan" and "inf". For a number out of range it reports failure, but returns infinity.
     return understood && qIsFinite(measure.value);
 }
 

@@ -20,7 +20,7 @@ void readClockDurations(const QDomElement &element, SmilNode &node)
     if (clock.valid) {
         node.dur = clock;
     }
-    // One level of nodes for one of elements, as deep as the walk that made them went.
+    // Each node has its element: the call levels are as many as when the nodes were read.
     QDomElement child = element.firstChildElement();
     for (SmilNode &nested : node.children) {
         while (!child.isNull() && !isNode(child)) {

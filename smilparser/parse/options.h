@@ -8,10 +8,10 @@ class QDomElement;
 class SmilLayout;
 class SmilNode;
 
-/** Sets each duration in @p node, which has been read from @p element, that is stated as a clock value to that. */
+/** Reads each clock value in @p element into its duration in @p node, which has been read from that element. */
 void readClockDurations(const QDomElement &element, SmilNode &node);
 
-/** Takes the root layout's width where there is no valid one of the top layout, and its height likewise. */
+/** Copies the root layout's width to the top layout if that has no valid one, and the height likewise. */
 void keepRootSize(SmilLayout &layout);
 
 #endif

@@ -36,7 +36,7 @@ static bool setContent(QDomDocument &document, const Source &source, QString *er
 bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn)
 {
     std::optional<QByteArray> text;
-    // Open, it has been read already. Qt would open it too, but Qt 6 warns about it.
+    // An open buffer has been read already. Qt would open a closed one too, but Qt 6 warns about it.
     if (!buffer.isOpen()) {
         text = decode(buffer.data());
         if (!text) {
@@ -47,7 +47,7 @@ bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *er
     const bool wellFormed = text ? setContent(document, QString::fromUtf8(text->constData(), harmlessSize(*text)),
                                               errorMsg, errorLine, errorColumn)
                                  : setContent(document, &buffer, errorMsg, errorLine, errorColumn);
-    // Qt 6 stops reading at an error; what follows must not be taken for a document by the next call.
+    // Qt 6 stops reading at an error. The next call must not take what follows for a document.
     buffer.seek(buffer.size());
     return wellFormed;
 }

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-// These take their records as const: walking a list through a non-const one would copy what the host shares with it.
+// These take their records as const: walking a non-const list would copy it when the host shares it.
 
 static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)
 {

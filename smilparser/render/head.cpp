@@ -43,7 +43,7 @@ QDomElement SmilParser::render(SmilLayout &layout)
 {
     QDomElement element = domDocument.createElement(QStringLiteral("layout"));
     QDomElement root = domDocument.createElement(QStringLiteral("root-layout"));
-    // The top layout's size, not the root layout's: what is written is the size that the whole is shown in.
+    // The top layout's size, not the root layout's: the whole is shown in that.
     write(root, QStringLiteral("width"), layout.topLayoutWidth);
     write(root, QStringLiteral("height"), layout.topLayoutHeight);
     element.appendChild(root);

@@ -49,7 +49,7 @@ static QString decodeAs(const QByteArray &encoding, const QByteArray &bytes)
     }
     QString text = decoder(bytes);
     if (decoder.hasError()) {
-        // This reader takes bytes that are not of the encoding for an error. So is a text that ends there.
+        // The reader of Qt 6 reports bytes that are not of the encoding as an error. A text that ends there is one too.
         text.truncate(text.indexOf(QChar::ReplacementCharacter) + 1);
     }
     return text;

@@ -24,8 +24,8 @@ static bool endsName(char c)
     return uchar(c) <= '[' && std::memchr("\t\n\r \"&'/;<=>?[", c, 14);
 }
 
-// A reference by anything else crashes Qt 6.11, whose DOM has no node for it. Its tables of letters are older than
-// QChar's.
+// A reference by anything else crashes Qt 6.11: its DOM has no node for it. The DOM is asked too, because its tables of
+// letters are older than QChar's.
 static bool isXmlName(const QString &name)
 {
     const auto canBegin = [](QChar c) { return c.isLetter() || c == QLatin1Char('_') || c == QLatin1Char(':'); };
@@ -82,8 +82,8 @@ public:
 
 private:
     // Nearly all of a document is short tags with one ">", and blanks up to the next "<". That ">" ends the tag: were
-    // it quoted, the tag would hold the "<", and no reader goes on past a "<" in a tag, quoted or not. Up to there, it
-    // has no room for too many attributes or for a name that is too long. What is different is left to markup().
+    // it quoted, the tag would hold the "<", and no reader goes on past a "<" in a tag, quoted or not. Such a tag is
+    // too short for too many attributes or too long a name. markup() does the others.
     void skipPlainTags(const char *ampersand)
     {
         const int longest = SmilParser::MaxAttributes * 4; // a=""
@@ -180,7 +180,7 @@ private:
         return false;
     }
 
-    // Stopped behind the "&", the text is incomplete outside of the root element too.
+    // Stops behind the "&", not before it: outside of the root element too, the text is then incomplete.
     bool reference()
     {
         const char *const start = ++at;

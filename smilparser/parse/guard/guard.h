@@ -13,8 +13,8 @@
  * declaration, as UTF-8; none for what is UTF-8. The XML reader is handed that text, not the bytes, so that it cannot
  * read another text than was scanned.
  *
- * Nothing is left of a document whose declaration names several encodings or one that Qt does not know, or does not end
- * within the first 1024 bytes.
+ * The text is empty when the declaration names several encodings or one that Qt does not know, or does not end within
+ * the first 1024 bytes.
  */
 std::optional<QByteArray> decode(const QByteArray &bytes);
 
