@@ -17,6 +17,7 @@ private Q_SLOTS:
     void outcomes();
     void surrogates_data() { addCases("surrogates.txt"); }
     void surrogates();
+    void referencesBeyond16Bits();
 };
 
 static const QString utf8 = QStringLiteral("UTF-8");
@@ -139,6 +140,14 @@ void Hostile::surrogates()
     Messages messages;
     SmilParser parser(encoded(before + text + after, markedUtf16));
     QCOMPARE(parser.parse().header.title, title);
+}
+
+/** A bug of Qt 5, which keeps the lower half of the number. */
+void Hostile::referencesBeyond16Bits()
+{
+    SmilParser parser(QByteArray("<smil><head title='&#x1f600;'/><body/></smil>"));
+    const bool isQt5 = QT_VERSION < QT_VERSION_CHECK(6, 0, 0);
+    QCOMPARE(parser.parse().header.title, isQt5 ? QStringLiteral("\uf600") : QStringLiteral("\U0001f600"));
 }
 
 QTEST_GUILESS_MAIN(Hostile)
