@@ -232,8 +232,9 @@ void Tool::textFromStrangersIsEscaped()
     const Outcome rendered = smiltool({QStringLiteral("render"), QStringLiteral("-")}, input);
     QVERIFY2(rendered.out.contains(QLatin1String("=\"a&quot;\\&#x9b;&#x202e;b\"")), qPrintable(rendered.out));
     // Joiners belong into words; nowhere else.
-    const Outcome separated = smiltool({QStringLiteral("show"), QStringLiteral("-")},
-                                       "<smil><head title='&#x2028;&#x2029;\xf0\x9f\xbf\xbe\xf0\x9f\x98\x80'/><body/></smil>");
+    const Outcome separated =
+        smiltool({QStringLiteral("show"), QStringLiteral("-")},
+                 "<smil><head title='&#x2028;&#x2029;\xf0\x9f\xbf\xbe\xf0\x9f\x98\x80'/><body/></smil>");
     const QString separators = QString::fromUtf8("title \"\\u{2028}\\u{2029}\\u{1fffe}😀\"\n");
     QVERIFY2(separated.out.contains(separators), qPrintable(separated.out));
     const Outcome joined = smiltool({QStringLiteral("show"), QStringLiteral("-")},
