@@ -63,7 +63,7 @@ QStringList findingNames()
 /** The text in quotation marks, and not much of it. */
 static QString shown(const QString &text)
 {
-    return quoted(text.size() > 40 ? text.left(39) + QChar(0x2026) : text);
+    return quoted(shortened(text, 40));
 }
 
 /** The measures that cannot be negative. */
@@ -77,17 +77,20 @@ static bool isNode(const QString &name)
 /** Whether media of this name cannot be what the part holds. Sound may come in a container that is also a film's. */
 static bool isWrong(const QString &name, Parts::Kind kind)
 {
+    const auto isFor = [&name](const char *media) {
+        return QLatin1String("ref") == name || QLatin1String(media) == name;
+    };
     switch (kind) {
     case Parts::Picture:
     case Parts::OtherPicture:
-        return name != QLatin1String("img") && name != QLatin1String("ref");
+        return !isFor("img");
     case Parts::Text:
     case Parts::Xml:
-        return name != QLatin1String("text") && name != QLatin1String("ref");
+        return !isFor("text");
     case Parts::Audio:
-        return name == QLatin1String("img") || name == QLatin1String("text");
+        return !isFor("audio");
     case Parts::Video:
-        return name == QLatin1String("img") || name == QLatin1String("text");
+        return !isFor("video") && !isFor("audio");
     default:
         return false;
     }
