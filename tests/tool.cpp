@@ -97,6 +97,7 @@ private Q_SLOTS:
     void drawsTo_data();
     void drawsTo();
     void neverDrawsOverTheMessage();
+    void neverDrawsOverAPart();
     void manualAndCompletionNameEveryFinding();
     void examples();
 };
@@ -452,6 +453,11 @@ void Tool::noPictureIsTooLarge()
                        "<body><par><img src='old' region='1'/><img src='old' region='2'/><img src='old' region='3'/>"
                        "<img src='old' region='4'/><img src='old' region='5'/></par></body></smil>\nEOF\n");
     QCOMPARE(runScript(folder.path(), large.arg(folder.path())).out, QStringLiteral("4\n"));
+    // No letter fits, and none is halved: the writer would stop there.
+    const QString thin = QStringLiteral(
+        "printf '\\360\\237\\230\\200' >$old; $tool storyboard --parts '%1' - <<EOF\n<smil><head><layout>"
+        "<region id='1' width='9'/></layout></head><body><text src='old' region='1'/></body></smil>\nEOF\n");
+    QCOMPARE(textsIn(runScript(folder.path(), thin.arg(folder.path())).out), QString::fromUtf8("😀 | 1 · not stated"));
     const QByteArray longName =
         "<smil><head/><body><par><img src='" + QByteArray(9999, 'a') + ".jpg'/></par></body></smil>";
     const QString picture = smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, longName).out;
@@ -565,14 +571,15 @@ void Tool::partsAreDrawn_data()
     const auto row = [](const char *name, const QByteArray &part, const char *texts) {
         QTest::newRow(name) << part << QString::fromUtf8(texts);
     };
-    row("a text", "Hello\r\n<b>\xe2\x80\xae", "Hello | <b>\\u{202e} | 1 · not stated");
+    row("a text", "Hel\tlo\r\n<b>\xe2\x80\xae", "Hel lo | <b> | 1 · not stated");
     row("words", QByteArray("It rains all day. ").repeated(200), "It rains all | day. It rains… | 1 · not stated");
     row("one word", QByteArray("\xe6\x97\xa5").repeated(2000), "日日日日日日日日 | 日日日日日日日… | 1 · not stated");
+    row("a text that begins as a picture does", "P3 is what I need", "P3 is what I | need | 1 · not stated");
     row("to the left", "\xd7\xa9\xd7\x9c", "של | 1 · not stated");
     row("a character that the limit cuts", "a" + QByteArray("\xe6\x97\xa5").repeated(6000),
         "a日日日日日日日 | 日日日日日日日… | 1 · not stated");
     row("a picture", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), "1 · not stated");
-    row("a sound", "#!AMR\n", "I | ▣ part | 1 · not stated");
+    row("a sound", "#!AMR\n\x3c\x91", "I | ▣ part | 1 · not stated");
 }
 
 void Tool::partsAreDrawn()
@@ -722,6 +729,17 @@ void Tool::neverDrawsOverTheMessage()
                  readFile(QStringLiteral(EXAMPLES_DIR "/nested.smil")));
         QFile::remove(folder.filePath(QStringLiteral("board")));
     }
+}
+
+void Tool::neverDrawsOverAPart()
+{
+    const QTemporaryDir folder;
+    const QString script =
+        QStringLiteral("cp holiday.smil holiday/* '%1'; cd '%1'; $tool storyboard holiday.smil --parts . "
+                       "-o beach.jpg; $tool storyboard holiday.smil --parts . -o $old");
+    const Outcome outcome = runScript(folder.path(), script.arg(folder.path()));
+    QCOMPARE(outcome.err, QStringLiteral("beach.jpg: is a part of the message\n"));
+    QCOMPARE(outcome.status, 0);
 }
 
 void Tool::manualAndCompletionNameEveryFinding()

@@ -14,8 +14,11 @@ void show(const Message &message, QIODevice &out);
 /** Writes the model to @p out as indented XML, the attributes of an element always in the same order. */
 void render(const Message &message, QIODevice &out);
 
-/** Draws the message as a picture in SVG, with the parts that it has: a frame for each thing that plays by itself. */
-void storyboard(Message &message, QIODevice &out);
+/**
+ * Draws the message as a picture in SVG, with the parts that it has: a frame for each thing that plays by itself.
+ * Returns whether all could be written.
+ */
+bool storyboard(Message &message, QIODevice &out);
 
 /**
  * Writes to @p out what its sender or receiver might want to know of the message, a line each, but for the kinds of

@@ -55,7 +55,8 @@ const Option allOptions[] = {
     {Show | Storyboard,  "plain",     "",        "Show durations as a host reads them without options."            },
     {Render,             "keep",      "",        "Keep the size of the root-layout, and all durations, in seconds."},
     {Storyboard,         "o output",  "OUT.svg", "Write to OUT.svg, not to standard output."                       },
-    {Storyboard | Check, "parts",     "DIR",     "The folder with the message's other parts."                      },
+    {Storyboard | Check, "parts",     "DIR",
+     "The folder with the other parts of a SMIL part; a whole message has its own."                                },
     {Check,              "ignore",    "NAME",
      "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: "            },
     {every,              "debug",     "",        "Print the library's debug messages."                             },
@@ -173,10 +174,9 @@ static bool run(const Command &command, const QCommandLineParser &options, Messa
     }
     const QString output = valueOf(command, options, QStringLiteral("output"));
     if (!output.isEmpty() && output != QLatin1String("-")) {
-        return drawTo(output, message);
+        return drawTo(output, valueOf(command, options, QStringLiteral("parts")), message);
     }
-    storyboard(message, out);
-    return true;
+    return storyboard(message, out);
 }
 
 static int run(const Command &command, const QCommandLineParser &options)

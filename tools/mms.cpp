@@ -148,6 +148,7 @@ static QString readParts(Bytes in, const QString &start, MmsMessage &message)
     if (in.bad || count > most) {
         return QStringLiteral("does not say how many parts it has, or has more than %1").arg(most);
     }
+    bool started = false;
     for (int i = 0; i < int(count); ++i) {
         const quint64 headersLength = in.uintvar();
         const quint64 dataLength = in.uintvar();
@@ -161,10 +162,11 @@ static QString readParts(Bytes in, const QString &start, MmsMessage &message)
         }
         part.data = data.all();
         message.parts.append(part);
-        const bool starts = !start.isEmpty() && (part.id == start || part.location == start);
+        const bool starts = !started && !start.isEmpty() && (part.id == start || part.location == start);
         if (starts || (message.smil < 0 && part.type == QLatin1String("application/smil"))) {
             message.smil = i;
         }
+        started = started || starts;
     }
     return message.smil < 0 ? QStringLiteral("has no SMIL part") : QString();
 }

@@ -10,6 +10,8 @@
 #include <QtCore/QSaveFile>
 #include <QtCore/QStringList>
 
+#include <algorithm>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -38,6 +40,25 @@ static int descriptor(const QString &name)
     return int(standard.indexOf(path));
 }
 
+static bool refersTo(const SmilNode &node, const Parts &parts, int part)
+{
+    return std::any_of(node.refs.cbegin(), node.refs.cend(),
+                       [&](const SmilRef &ref) { return parts.find(ref.src) == part; })
+        || std::any_of(node.children.cbegin(), node.children.cend(),
+                       [&](const SmilNode &child) { return refersTo(child, parts, part); });
+}
+
+/** Whether a file in the folder of the parts is one that the message refers to. */
+static bool isPart(const QString &name, const QString &folder, const Message &message)
+{
+    const QFileInfo file(QFileInfo(name).canonicalFilePath());
+    if (folder.isEmpty() || file.path() != QFileInfo(folder).canonicalFilePath()) {
+        return false;
+    }
+    const int part = message.parts.find(file.fileName());
+    return part >= 0 && refersTo(message.document.body.root, message.parts, part);
+}
+
 static bool writeTo(const QString &name, Message &message)
 {
     QFile out(name);
@@ -45,26 +66,22 @@ static bool writeTo(const QString &name, Message &message)
     const int given = descriptor(name);
     const bool opened = given >= 0 ? out.open(dup(given), QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)
                                    : out.open(QIODevice::WriteOnly | QIODevice::ExistingOnly);
-    if (opened) {
-        storyboard(message, out);
-        out.flush();
-    }
-    return out.error() == QFileDevice::NoError || complainOf(name, out.errorString());
+    const bool drawn = opened && storyboard(message, out) && out.flush();
+    return (drawn && out.error() == QFileDevice::NoError) || complainOf(name, out.errorString());
 }
 
 static bool replace(const QString &name, Message &message)
 {
     QSaveFile out(name);
     if (out.open(QIODevice::WriteOnly)) {
-        storyboard(message, out);
-        if (out.commit()) {
+        if (storyboard(message, out) && out.commit()) {
             return true;
         }
     }
     return complainOf(name, out.errorString());
 }
 
-bool drawTo(const QString &name, Message &message)
+bool drawTo(const QString &name, const QString &folder, Message &message)
 {
     struct stat status;
     if (stat(QFile::encodeName(name).constData(), &status) != 0) {
@@ -72,6 +89,9 @@ bool drawTo(const QString &name, Message &message)
     }
     if (isSameFile(message.file, status)) {
         return complainOf(name, QStringLiteral("is the message itself"));
+    }
+    if (isPart(name, folder, message)) {
+        return complainOf(name, QStringLiteral("is a part of the message"));
     }
     return S_ISREG(status.st_mode) && descriptor(name) < 0 ? replace(name, message) : writeTo(name, message);
 }

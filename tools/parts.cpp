@@ -7,6 +7,8 @@
 #include <QtCore/QFile>
 #include <QtCore/QMimeDatabase>
 
+#include <algorithm>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -43,12 +45,28 @@ static Parts::Kind kindOf(const QMimeType &type)
         : Parts::Other;
 }
 
+/** Whether nothing in the data is but characters and ends of lines, in UTF-8. */
+static bool isPlain(const QByteArray &data)
+{
+    const auto isControl = [](char c) { return uchar(c) < 0x20 && !QByteArray("\t\n\r").contains(c); };
+    return std::none_of(data.cbegin(), data.cend(), isControl)
+        && QString::fromUtf8(data.constData(), data.size()).toUtf8() == data;
+}
+
 static void recognise(Parts::Part &part)
 {
     // What tells types apart is at the beginning.
-    const QMimeType type = QMimeDatabase().mimeTypeForData(part.data.left(16 * 1024));
+    const QByteArray data = part.data.left(16 * 1024);
+    const QMimeType type = QMimeDatabase().mimeTypeForData(data);
     part.type = type.name();
     part.kind = kindOf(type);
+    // A text may begin as something else does: "ID3 is what I need".
+    if (!data.isEmpty() && !type.inherits(QStringLiteral("application/xml")) && isPlain(data)) {
+        part.type = type.inherits(QStringLiteral("text/plain")) && part.kind == Parts::Text
+            ? part.type
+            : QStringLiteral("text/plain");
+        part.kind = Parts::Text;
+    }
 }
 
 void Parts::add(const QString &name, const QByteArray &data)

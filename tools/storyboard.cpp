@@ -23,8 +23,8 @@ static const int columns = 4;
 static const double lineHeight = 15;
 static const double narrowest = 80; // that enough of a long name still fits into
 static const int mostLines = 6; // below a frame
-static const int longestText = 4000; // of which a frame shows less
 static const int mostPictureBytes = 32 * 1024 * 1024; // in one storyboard
+static const int mostDrawn = 1000; // parts of which it shows more than the name
 
 static const char style[] = R"(
 svg { color: #1c2330; font: 11px sans-serif; }
@@ -189,14 +189,21 @@ static Picture pictureOf(const Frame &frame, const Screen &screen, Message &mess
     return picture;
 }
 
-/** Enough of a text, and no broken character at its end: bytes that are not all UTF-8 would be taken for Latin-1. */
-static QByteArray beginning(const QByteArray &text)
+/** Up to that many bytes, and no broken character at the end: what is not all UTF-8 would be taken for Latin-1. */
+static QByteArray beginning(const QByteArray &text, int most)
 {
-    auto size = qMin<qsizetype>(text.size(), 4 * longestText);
+    auto size = qMin<qsizetype>(text.size(), most);
     while (size > 0 && size < text.size() && (uchar(text.at(size)) & 0xc0) == 0x80) {
         --size;
     }
     return text.left(size);
+}
+
+/** The text without what only says how to set it: tabs, marks of direction, soft hyphens; joiners stay. */
+static QString withoutFormat(QString text)
+{
+    static const QRegularExpression format(QStringLiteral("(?![\\x{200c}\\x{200d}])\\p{Cf}"));
+    return text.replace(QLatin1Char('\t'), QLatin1Char(' ')).remove(format);
 }
 
 namespace
@@ -224,7 +231,7 @@ public:
                 draw(message.parts.read(part), region, nameOf(*ref), id);
             }
         }
-        if (content.missing) {
+        if (content.missing && content.drawn.isEmpty()) {
             svg.cross(screen.areas.at(region));
         }
     }
@@ -234,12 +241,13 @@ private:
     {
         svg.beginClip(screen.areas.at(region), id);
         svg.title(name + QLatin1String(" in ") + screen.ids.at(region));
-        if (part.kind != Parts::Picture) {
-            drawText(part, screen.areas.at(region).size());
-        } else if (part.data.size() <= left) {
+        const bool isPicture = part.kind == Parts::Picture;
+        if (drawn.size() > mostDrawn || (isPicture && part.data.size() > left)) {
+            svg.text(QPointF(4, 0.75 * lineHeight), name);
+        } else if (isPicture) {
             drawPicture(part, region);
         } else {
-            svg.text(QPointF(4, 0.75 * lineHeight), name);
+            drawText(part, screen.areas.at(region).size());
         }
         svg.endGroup();
     }
@@ -257,14 +265,15 @@ private:
 
     void drawText(const Parts::Part &part, const QSizeF &size)
     {
-        const QString text = decoded(beginning(part.data)).left(longestText);
+        const int count = qMax(1, int(size.height() / lineHeight));
+        const int enough = count * (int(size.width() / narrowestLetter) + 2);
+        const QString text = withoutFormat(decoded(beginning(part.data, 4 * enough)).left(enough));
         const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
         QStringList printed;
         for (const QString &paragraph : paragraphs) {
             printed.append(printable(paragraph));
         }
-        const QStringList lines =
-            wrapped(printed.join(QLatin1Char('\n')), size.width() - 8, qMax(1, int(size.height() / lineHeight)));
+        const QStringList lines = wrapped(printed.join(QLatin1Char('\n')), size.width() - 8, count);
         for (int i = 0; i < lines.size(); ++i) {
             const bool rightToLeft = lines.at(i).isRightToLeft();
             svg.text(QPointF(rightToLeft ? size.width() - 4 : 4, (i + 0.75) * lineHeight), lines.at(i),
@@ -311,7 +320,7 @@ static QString summary(const QList<Frame> &frames)
     return all.isEmpty() ? QStringLiteral("Nothing plays.") : all.join(QLatin1String("; "));
 }
 
-void storyboard(Message &message, QIODevice &out)
+bool storyboard(Message &message, QIODevice &out)
 {
     const Screen screen(message.document.header.layout);
     const QList<Frame> frames = framesOf(message.document.body.root);
@@ -342,5 +351,5 @@ void storyboard(Message &message, QIODevice &out)
     if (frames.size() == mostFrames) {
         svg.text(QPointF(margin, page.height() - 4), QStringLiteral("No more than %1 are drawn.").arg(mostFrames));
     }
-    svg.end();
+    return svg.end();
 }

@@ -25,10 +25,11 @@ void Svg::begin(const QSizeF &size, const QString &title, const QString &descrip
     writer.writeTextElement(QStringLiteral("style"), QLatin1String(style));
 }
 
-void Svg::end()
+bool Svg::end()
 {
     writer.writeEndElement();
     writer.writeEndDocument();
+    return !writer.hasError();
 }
 
 void Svg::beginGroup(const QPointF &corner)

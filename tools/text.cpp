@@ -77,7 +77,7 @@ QString shortened(const QString &text, int most)
 static double characterWidth(QChar c)
 {
     if (QStringLiteral("ijl.,:;'|!()[] tfr-").contains(c)) {
-        return 4.5;
+        return narrowestLetter;
     }
     if (QStringLiteral("mwMW@%\u0416\u0429\u042e\u0436\u0448\u0449\u044e").contains(c)) { // the wide of Cyrillic
         return 12.5;
@@ -117,21 +117,23 @@ QString elided(const QString &text, double most)
 /** Where the line that begins at @p from ends: at a break or, in a word longer than it, between two letters. */
 static int endOfLine(const QString &text, int from, double most)
 {
+    int letter = 0; // the end of the first, which stays whole however narrow the line
     for (const auto unit : {QTextBoundaryFinder::Line, QTextBoundaryFinder::Grapheme}) {
         QTextBoundaryFinder finder(unit, text);
         finder.setPosition(from);
         int end = from;
-        for (auto next = finder.toNextBoundary(); next > 0; next = finder.toNextBoundary()) {
+        for (int next = int(finder.toNextBoundary()); next > 0; next = int(finder.toNextBoundary())) {
+            letter = next;
             if (width(text.mid(from, next - from).trimmed()) > most) {
                 break;
             }
-            end = int(next);
+            end = next;
         }
         if (end > from) {
             return end;
         }
     }
-    return from + 1;
+    return letter;
 }
 
 QStringList wrapped(const QString &text, double most, int count)

@@ -21,6 +21,9 @@ QString quoted(const QString &text);
 /** At most that many characters of the text; "\u2026" is the last when some are left out. */
 QString shortened(const QString &text, int most);
 
+/** A width that no character is below, to width(). */
+const double narrowestLetter = 4.5;
+
 /** About how long the text is in a sans-serif font of size 11, rather more than less. */
 double width(const QString &text);
 
