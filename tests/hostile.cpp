@@ -142,12 +142,16 @@ void Hostile::surrogates()
     QCOMPARE(parser.parse().header.title, title);
 }
 
-/** A bug of Qt 5, which keeps the lower half of the number. */
+/** A bug of Qt 5, which keeps the lower half of the number; 5.15.15 has it, 5.15.19 has not. */
 void Hostile::referencesBeyond16Bits()
 {
     SmilParser parser(QByteArray("<smil><head title='&#x1f600;'/><body/></smil>"));
-    const bool isQt5 = QT_VERSION < QT_VERSION_CHECK(6, 0, 0);
-    QCOMPARE(parser.parse().header.title, isQt5 ? QStringLiteral("\uf600") : QStringLiteral("\U0001f600"));
+    const QString title = parser.parse().header.title;
+    if (QT_VERSION > QT_VERSION_CHECK(5, 15, 15) && QT_VERSION < QT_VERSION_CHECK(5, 15, 19)) {
+        QSKIP("nobody has looked at what this Qt does");
+    }
+    const bool hasBug = QT_VERSION < QT_VERSION_CHECK(5, 15, 19);
+    QCOMPARE(title, hasBug ? QStringLiteral("\uf600") : QStringLiteral("\U0001f600"));
 }
 
 QTEST_GUILESS_MAIN(Hostile)
