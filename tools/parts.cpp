@@ -61,10 +61,9 @@ static void recognise(Parts::Part &part)
     part.type = type.name();
     part.kind = kindOf(type);
     // A text may begin as something else does: "ID3 is what I need".
-    if (!data.isEmpty() && !type.inherits(QStringLiteral("application/xml")) && isPlain(data)) {
-        part.type = type.inherits(QStringLiteral("text/plain")) && part.kind == Parts::Text
-            ? part.type
-            : QStringLiteral("text/plain");
+    const bool isText = part.kind == Parts::Text || type.inherits(QStringLiteral("application/xml"));
+    if (!isText && isPlain(data)) {
+        part.type = QStringLiteral("text/plain");
         part.kind = Parts::Text;
     }
 }
