@@ -3,16 +3,13 @@
 
 #include "region.h"
 
-const RegionAttribute<QString> regionTexts[] = {
-    {QStringLiteral("id"),  &SmilRegion::id },
-    {QStringLiteral("fit"), &SmilRegion::fit},
-};
-
-const RegionAttribute<SmilUnit> regionMeasures[] = {
-    {QStringLiteral("width"),  &SmilRegion::width },
-    {QStringLiteral("height"), &SmilRegion::height},
-    {QStringLiteral("top"),    &SmilRegion::top   },
-    {QStringLiteral("bottom"), &SmilRegion::bottom},
-    {QStringLiteral("left"),   &SmilRegion::left  },
-    {QStringLiteral("right"),  &SmilRegion::right },
+const RegionAttribute regionAttributes[] = {
+    {QStringLiteral("id"),     &SmilRegion::id,  nullptr            },
+    {QStringLiteral("width"),  nullptr,          &SmilRegion::width },
+    {QStringLiteral("height"), nullptr,          &SmilRegion::height},
+    {QStringLiteral("top"),    nullptr,          &SmilRegion::top   },
+    {QStringLiteral("bottom"), nullptr,          &SmilRegion::bottom},
+    {QStringLiteral("left"),   nullptr,          &SmilRegion::left  },
+    {QStringLiteral("right"),  nullptr,          &SmilRegion::right },
+    {QStringLiteral("fit"),    &SmilRegion::fit, nullptr            },
 };

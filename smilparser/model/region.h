@@ -6,15 +6,14 @@
 
 #include <smilparser/smilparser.h>
 
-/** An attribute of a region, and the field that stands for it. */
-template<typename Value>
+/** An attribute of a region, and the field that stands for it: a text or a measure; the other is null. */
 struct RegionAttribute {
     QString name;
-    Value SmilRegion::*field;
+    QString SmilRegion::*text;
+    SmilUnit SmilRegion::*measure;
 };
 
-/** All of them: those that are texts, and those that are measures. */
-extern const RegionAttribute<QString> regionTexts[2];
-extern const RegionAttribute<SmilUnit> regionMeasures[6];
+/** All of them, in the order in which they are read and written. */
+extern const RegionAttribute regionAttributes[8];
 
 #endif

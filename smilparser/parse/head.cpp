@@ -20,11 +20,12 @@ static SmilMeta readMeta(const QDomElement &element)
 static SmilRegion readRegion(const QDomElement &element)
 {
     SmilRegion region;
-    for (const auto &[name, field] : regionTexts) {
-        region.*field = element.attribute(name);
-    }
-    for (const auto &[name, field] : regionMeasures) {
-        region.*field = measure(element, name);
+    for (const RegionAttribute &attribute : regionAttributes) {
+        if (attribute.text) {
+            region.*attribute.text = element.attribute(attribute.name);
+        } else {
+            region.*attribute.measure = measure(element, attribute.name);
+        }
     }
     return region;
 }

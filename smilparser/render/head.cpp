@@ -15,11 +15,12 @@ static void writeMeta(QDomElement &element, const SmilMeta &meta)
 
 static void writeRegion(QDomElement &element, const SmilRegion &region)
 {
-    for (const auto &[name, field] : regionTexts) {
-        write(element, name, region.*field);
-    }
-    for (const auto &[name, field] : regionMeasures) {
-        write(element, name, region.*field);
+    for (const RegionAttribute &attribute : regionAttributes) {
+        if (attribute.text) {
+            write(element, attribute.name, region.*attribute.text);
+        } else {
+            write(element, attribute.name, region.*attribute.measure);
+        }
     }
 }
 
