@@ -76,7 +76,7 @@ inline QByteArray prologue(uint8_t declared, uint8_t type)
                 "UTF-32~IBM037~US-ASCII~windows-1251~utf8~x~' encoding='GBK");
     static const QByteArrayList types =
         divided("~~~<!DOCTYPE smil>~<!DOCTYPE smil SYSTEM 'u>['>~<!DOCTYPE smil PUBLIC \"p\" 'u'>~"
-                "<!DOCTYPE smil [<!ENTITY a '<x>'>]>~<!DOCTYPE smil SYSTEM 'u' []>");
+                "<!DOCTYPE smil [<!ENTITY a '<x>'>]>~<!DOCTYPE smil SYSTEM 'u' []>~<?xml-a encoding='UTF-16'?>");
     const QByteArray encoding = encodings.at(declared % encodings.size());
     return (encoding.isEmpty() ? encoding : "<?xml version='1.0' encoding='" + encoding + "'?>")
         + types.at(type % types.size()) + "<smil><head/><body>";

@@ -59,6 +59,12 @@ static QString decodeAs(const QByteArray &encoding, const QByteArray &bytes)
 #endif
 }
 
+/** Not "<?xml-stylesheet" and its like, though Qt 5 would take an encoding from those too. */
+static bool isDeclaration(const QString &text)
+{
+    return text.startsWith(QLatin1String("<?xml")) && text.size() > 5 && QStringLiteral(" \t\r\n").contains(text.at(5));
+}
+
 /** The encoding that an XML declaration states, or @p detected when it states none; null when it cannot be told. */
 static QByteArray declaredEncoding(const QString &declaration, const QByteArray &detected)
 {
@@ -101,10 +107,11 @@ std::optional<QByteArray> decode(const QByteArray &bytes)
         return std::nullopt;
     }
     const QString beginning = decodeAs(encoding, bytes.left(1024));
-    if (beginning.startsWith(QLatin1String("<?xml"))) {
+    const bool declares = isDeclaration(beginning);
+    if (declares) {
         encoding = declaredEncoding(beginning.left(beginning.indexOf(QLatin1Char('>')) + 1), encoding);
     }
-    if (utf8 && isUtf8(encoding)) {
+    if (utf8 && declares && isUtf8(encoding)) {
         return std::nullopt;
     }
     QString text = decodeAs(encoding, bytes);
