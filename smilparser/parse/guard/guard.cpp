@@ -112,7 +112,7 @@ private:
             tag = next;
         }
         at = tag;
-        level = int(depth);
+        level = depth;
         nesting = sum;
     }
 
@@ -229,7 +229,7 @@ private:
     const char *at; ///< the place of the scan
     const qint64 mostNesting;
     qint64 nesting = 0; ///< the sum of the levels of all characters before the place
-    int level = 0; ///< of elements open
+    qint64 level = 0; ///< of elements open
 };
 }
 
