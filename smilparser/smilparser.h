@@ -19,9 +19,10 @@
  * SmilParser, which reads SMIL text into the model and renders the model as a DOM.
  *
  * The model types are plain values. A copy shares its text and lists with the source until one of the two is changed:
- * it costs the same however much it holds, and a change to one never shows in the other. A field may be set to
- * anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types of
- * the fields and the numbers of the enumerators are part of the binary interface and do not change.
+ * it costs the same however much it holds, and a change to one does not show in the other. As with all lists of Qt,
+ * only a change by a reference into a list that was taken before the copy shows in both. A field may be set to
+ * anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types of the
+ * fields and the numbers of the enumerators are part of the binary interface and do not change.
  *
  * The host program must define the flag that switches the library's debug messages:
  * @code
@@ -80,8 +81,8 @@ public:
      * follows is ignored. If none is found, the whole text is the number, in pixels. The number is a C-locale
      * decimal with optional sign and exponent, a full stop as decimal point; white space around it is ignored.
      *
-     * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", infinite or
-     * beyond the range of a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
+     * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", infinite, too large or
+     * too small for a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
      * and returns false.
      *
      * Cost: linear in the length of the text.
@@ -117,7 +118,7 @@ public:
      * A null string when #valid is false or #unit is not one of #Unit.
      *
      * "010px" comes back as "10px", "33.333333%" as "33.3333%", "20000000s" as "2e+07s". A #value that is not finite
-     * is written as "inf" or "nan", which convert() does not read. Cost: constant.
+     * is written as "inf", "-inf" or "nan" and the suffix, which convert() does not read. Cost: constant.
      */
     QString toString() const;
 
@@ -156,8 +157,9 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
  * One element of the timeline, "par" (its contents play together) or "seq" (one after another). Nested elements and
  * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs.
  *
- * Destroying a tree takes one call level per level of nesting; so does rendering it. Trees made by parsing are never
- * deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that first.
+ * Destroying a tree takes one call level per level of nesting; so does rendering it. A tree made by
+ * SmilParser::parse() is never deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that
+ * first.
  */
 class SMILPARSER_EXPORT SmilNode
 {
@@ -168,8 +170,14 @@ public:
         Par = 2 ///< "par"
     };
 
-    /** A node of kind @p kind, taken as it is, with an invalid #dur, no #children and no #refs. */
-    explicit SmilNode(int kind = Par)
+    /** A #Par with an invalid #dur, no #children and no #refs. */
+    SmilNode()
+        : type(Par)
+    {
+    }
+
+    /** The same of kind @p kind, taken as it is. */
+    explicit SmilNode(int kind)
         : type(kind)
     {
     }
@@ -246,8 +254,11 @@ Q_DECLARE_TYPEINFO(SmilLayout, Q_MOVABLE_TYPE);
 class SMILPARSER_EXPORT SmilHeader
 {
 public:
+    /** An empty header. */
+    SmilHeader() { }
+
     /** A header whose title is @p text, which may be null; everything else is empty. */
-    explicit SmilHeader(const QString &text = QString())
+    explicit SmilHeader(const QString &text)
         : title(text)
     {
     }
@@ -281,7 +292,7 @@ Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
  * of the parser and live as long as it does. A parser cannot be copied, and it and its DOM are used by one thread at a
  * time; different parsers share nothing.
  *
- * Nothing is thrown except by a failing allocation inside Qt. Warnings go through qWarning(), always; the debug lines
+ * Nothing is thrown except by a failing allocation inside Qt. Warnings go through qWarning(); the debug lines go
  * through qDebug(), each only while the host's MMSLogger::qdebugEnabled is true. The walks (the operations that take an
  * element) and the renderers are public so that a host can work on a piece, or with a DOM of its own.
  */
@@ -290,8 +301,9 @@ class SMILPARSER_EXPORT SmilParser
 public:
     /**
      * Bounds on what is read. An ordinary message is nowhere near them. parse() cuts off a document where it exceeds
-     * one, or where its document type declares anything ("["), and reports that it is not well formed. SECURITY.md says
-     * why, and what reading costs without them.
+     * one, and reports that it is not well formed. So it does where the document type declares anything ("["), where a
+     * reference names nothing ("&@;"), and where an XML declaration is longer than 1024 bytes or does not say clearly
+     * which encoding it means. SECURITY.md says why, and what reading costs without this.
      */
     enum Limit {
         MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
@@ -324,7 +336,7 @@ public:
     /** What became of the input: the rows of the table at parse(), the last one first. */
     enum Outcome {
         Complete = 0, ///< "smil", "head" and "body" were found and read
-        NotWellFormed = 1, ///< it is empty, no XML that Qt reads, beyond a #Limit, or has been read before
+        NotWellFormed = 1, ///< it is empty, no XML that Qt reads, cut off as #Limit says, or has been read before
         NoSmil = 2, ///< there is no "smil" root element
         NoHead = 3, ///< there is no "head" in "smil"
         NoBody = 4 ///< there is a "head" in "smil", but no "body"
@@ -357,13 +369,15 @@ public:
      * | has no "body" in it                  | "Fail to find SMIL body!"                         | only the header |
      * | is complete                          | none                                              | filled          |
      *
-     * The first row is also that of a document beyond a #Limit. The warning carries the XML reader's message, line and
-     * column. The reader writes them to @p errorMsg, @p errorLine and @p errorColumn too, each of which may be null; in
-     * all other rows they are left alone. Lines start at 1. The column is the number of UTF-16 code units of its line
-     * up to where the reader gave up; that is 0 in some cases with Qt 6. Elements and attributes that the model has no
-     * place for are ignored, and so is an attribute that is absent or not understood: none of this is an error.
+     * The first row is also that of a document cut off as #Limit says. The warning carries the XML reader's message,
+     * line and column. The reader writes them to @p errorMsg, @p errorLine and @p errorColumn too, each of which may be
+     * null; in all other rows they are left alone. Lines start at 1. The column is the number of UTF-16 code units of
+     * its line up to where the reader gave up; that is 0 in some cases with Qt 6. Elements and attributes that the
+     * model has no place for are ignored, and so is an attribute that is absent or not understood: none of this is an
+     * error.
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
+     * Every call drops what an earlier getContent() returned; a copy of that is emptied, too.
      *
      * The model is the parser's. Of a parser that is a temporary, take a copy: after
      * `const SmilDocument &model = SmilParser(bytes).parse();` the reference refers to nothing.
@@ -449,11 +463,10 @@ public:
 
     /**
      * Begins a new DOM document, renders the model into it under the root element "smil", and returns it. The old one,
-     * from an earlier call or parse(), is dropped; a copy of it keeps its tree. Elements that render() returned before
-     * belong to the old document. The model is not changed, and every model renders: empty texts and invalid measures
-     * are left out, the rest is written verbatim. There is no XML declaration, document type or namespace. How the
-     * document is turned into text is up to the host. Qt writes the attributes of an element in an order that differs
-     * from run to run, but for QT_HASH_SEED=0 in the environment.
+     * from an earlier call or parse(), is dropped; a copy of it keeps its tree. The model is not changed, and every
+     * model renders: each field says how it is written, texts are written verbatim. There is no XML declaration,
+     * document type or namespace. How the document is turned into text is up to the host. Qt writes the attributes of
+     * an element in an order that differs from run to run, but for QT_HASH_SEED=0 in the environment.
      *
      * Cost: that of dropping the old tree, unless a copy keeps it, and that of render() for the model.
      */
@@ -461,9 +474,12 @@ public:
 
     /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends
-     * it where it belongs. The element belongs to the parser's document, until getContent() begins a new one: then it
-     * belongs to the old. The record is not changed. The result is "smil", "head", "layout" and so on, never null
-     * except for a SmilRef of unknown kind.
+     * it where it belongs. The record is not changed. The result is "smil", "head", "layout" and so on, never
+     * null except for a SmilRef of unknown kind.
+     *
+     * The element belongs to the parser's document. When getContent() begins another one, or the parser is destroyed,
+     * that document ends, unless the host keeps a copy of it. What was not attached by then may only be destroyed, or
+     * Qt reads memory that is no longer the document's.
      *
      * Cost: linear in the number of records held, however long their texts, which are shared; one call level per level
      * of nested nodes.

@@ -12,8 +12,19 @@
 static_assert(SmilNode::Seq == 1 && SmilNode::Par == 2 && SmilRef::Text == 0 && SmilRef::Img == 1, "fixed");
 static_assert(SmilRef::Audio == 2 && SmilRef::Video == 3 && SmilRef::Ref == 4, "fixed");
 
+SmilDocument makeDefaults();
 void callWithoutOptions(SmilParser &parser);
 void callWithOptions(SmilParser &parser);
+
+/** What has a default can be made of empty braces. */
+SmilDocument makeDefaults()
+{
+    SmilDocument document{};
+    document.body = SmilBody{};
+    document.body.root = {};
+    document.header = {};
+    return document;
+}
 
 /** What hosts may have written before there were options: with two ways to call parse(), none is ambiguous. */
 void callWithoutOptions(SmilParser &parser)

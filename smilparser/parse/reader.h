@@ -10,7 +10,7 @@ class QString;
 
 /**
  * QDomDocument::setContent() on @p buffer without namespaces, made the same on every Qt: silent, and leaving the buffer
- * at its end. The pointers are written by Qt alone, only when it returns false; none may be null.
+ * at its end. The pointers, each of which may be null, get what Qt reports, and only when it returns false.
  */
 bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn);
 
