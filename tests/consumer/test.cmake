@@ -53,5 +53,7 @@ run("${CXX}" "${CMAKE_CURRENT_LIST_DIR}/main.cpp" -o "${WORK_DIR}/pkgconfig" ${f
 set(ENV{LD_LIBRARY_PATH} "${prefix}/${LIBDIR}")
 run("${WORK_DIR}/pkgconfig")
 
-# As a part of the host's project, the library brings nothing that the host could have itself.
-run(${configure} -B "${WORK_DIR}/part" "-DSOURCE_DIR=${SOURCE_DIR}" -DQT_MAJOR_VERSION=${major})
+# As a part of the host's project, the library is for the host's Qt and brings nothing that the host could have itself.
+run(${configure} -B "${WORK_DIR}/part" "-DSOURCE_DIR=${SOURCE_DIR}" -DQT=${major})
+run("${CMAKE_COMMAND}" --build "${WORK_DIR}/part" --target linked)
+run("${WORK_DIR}/part/linked")
