@@ -13,12 +13,12 @@ static void floorParse(const Message &message, Made &made)
     QBuffer buffer;
     buffer.setData(message.text);
     buffer.open(QIODevice::ReadOnly); // Qt 6 would warn of a closed one
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    made.dom.setContent(&buffer, QDomDocument::ParseOption::Default);
+#else
     QString error;
-    // From Qt 6.8 this overload is deprecated; it is the one that the library has to use.
-    QT_WARNING_PUSH
-    QT_WARNING_DISABLE_DEPRECATED
     made.dom.setContent(&buffer, &error);
-    QT_WARNING_POP
+#endif
 }
 
 static void parse(const Message &message, Made &made)

@@ -26,7 +26,7 @@ static const int mostLines = 6; // below a frame
 static const int mostPictureBytes = 32 * 1024 * 1024; // in one storyboard
 static const int mostDrawn = 1000; // parts of which it shows more than the name
 
-static const char style[] = R"(
+static const char styleSheet[] = R"(
 svg { color: #1c2330; font: 11px sans-serif; }
 text { fill: currentColor; }
 .page { fill: #fff; }
@@ -337,7 +337,7 @@ bool storyboard(Message &message, QIODevice &out)
     const QSizeF page(margin + qMin<double>(columns, count) * cellWidth, margin + rows * cellHeight);
 
     Svg svg(out);
-    svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)), summary(frames), style);
+    svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)), summary(frames), styleSheet);
     svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
     if (frames.isEmpty()) {
         svg.text(QPointF(margin, 2 * lineHeight), QStringLiteral("Nothing plays."));
