@@ -37,8 +37,10 @@ inline QString toldByLibrary(const QByteArray &input)
 inline QString toldByReaderAlone(QByteArray input)
 {
     Messages messages(0);
-    if (input.startsWith("<?xml-")) {
-        input[2] = 'y'; // the reader of Qt 5 takes an encoding from this instruction, though it is no declaration
+    // The reader of Qt 5 takes an encoding from "<?xml-a", though that is no declaration, and not from "<?yml-a".
+    const int instruction = input.left(28).replace('\0', "").indexOf("<?xml-");
+    if (instruction >= 0 && instruction <= 3) { // behind a byte order mark at most
+        input[input.indexOf('x')] = 'y';
     }
     QBuffer buffer(&input);
     buffer.open(QIODevice::ReadOnly);
