@@ -38,8 +38,8 @@ inline QString toldByReaderAlone(QByteArray input)
 {
     Messages messages(0);
     // The reader of Qt 5 takes an encoding from "<?xml-a", though that is no declaration, and not from "<?yml-a".
-    const int instruction = input.left(28).replace('\0', "").indexOf("<?xml-");
-    if (instruction >= 0 && instruction <= 3) { // behind a byte order mark at most
+    const QByteArray beginning = input.left(28).replace('\0', "");
+    if (beginning.mid(beginning.indexOf('<')).startsWith("<?xml-")) {
         input[input.indexOf('x')] = 'y';
     }
     QBuffer buffer(&input);

@@ -54,6 +54,7 @@ set(ENV{LD_LIBRARY_PATH} "${prefix}/${LIBDIR}")
 run("${WORK_DIR}/pkgconfig")
 
 # As a part of the host's project, the library is for the host's Qt and brings nothing that the host could have itself.
+set(ENV{LD_LIBRARY_PATH})
 run(${configure} -B "${WORK_DIR}/part" "-DSOURCE_DIR=${SOURCE_DIR}" -DQT=${major})
 run("${CMAKE_COMMAND}" --build "${WORK_DIR}/part" --target linked)
 run("${WORK_DIR}/part/linked")
