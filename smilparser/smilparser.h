@@ -19,10 +19,10 @@
  * SmilParser, which reads SMIL text into the model and renders the model as a DOM.
  *
  * The model types are plain values. A copy shares its text and lists with the source until one of the two is changed:
- * it costs the same however much it holds, and a change to one does not show in the other. As with all lists of Qt,
- * only a change by a reference into a list that was taken before the copy shows in both. A field may be set to
- * anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types of the
- * fields and the numbers of the enumerators are part of the binary interface and do not change.
+ * it costs the same however much it holds, and a change to one does not show in the other. The one exception is that of
+ * all lists of Qt: a reference into a list, taken before the copy. A change through it shows in both. A field may be
+ * set to anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types
+ * of the fields and the numbers of the enumerators are part of the binary interface and do not change.
  *
  * The host program must define the flag that switches the library's debug messages:
  * @code
@@ -81,8 +81,8 @@ public:
      * follows is ignored. If none is found, the whole text is the number, in pixels. The number is a C-locale
      * decimal with optional sign and exponent, a full stop as decimal point; white space around it is ignored.
      *
-     * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", infinite, too large or
-     * too small for a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
+     * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", infinite, too large
+     * or too small for a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
      * and returns false.
      *
      * Cost: linear in the length of the text.
@@ -302,8 +302,8 @@ public:
     /**
      * Bounds on what is read. An ordinary message is nowhere near them. parse() cuts off a document where it exceeds
      * one, and reports that it is not well formed. So it does where the document type declares anything ("["), where a
-     * reference names nothing ("&@;"), and where an XML declaration is longer than 1024 bytes or does not say clearly
-     * which encoding it means. SECURITY.md says why, and what reading costs without this.
+     * reference is by something that is no name ("&@;"), and where an XML declaration is longer than 1024 bytes, names
+     * two encodings, or one that Qt does not know. SECURITY.md says why, and what reading costs without this.
      */
     enum Limit {
         MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
@@ -377,7 +377,9 @@ public:
      * error.
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
-     * Every call drops what an earlier getContent() returned; a copy of that is emptied, too.
+     *
+     * Every call drops the tree that an earlier getContent() returned: a copy of that document is the same document,
+     * and holds then what this call read of the input. Elements of the old tree may only be destroyed.
      *
      * The model is the parser's. Of a parser that is a temporary, take a copy: after
      * `const SmilDocument &model = SmilParser(bytes).parse();` the reference refers to nothing.
@@ -478,8 +480,8 @@ public:
      * null except for a SmilRef of unknown kind.
      *
      * The element belongs to the parser's document. When getContent() begins another one, or the parser is destroyed,
-     * that document ends, unless the host keeps a copy of it. What was not attached by then may only be destroyed, or
-     * Qt reads memory that is no longer the document's.
+     * that document ends, unless the host keeps a copy of it. An element that is in no document by then may only be
+     * destroyed: Qt would use memory that was the document's.
      *
      * Cost: linear in the number of records held, however long their texts, which are shared; one call level per level
      * of nested nodes.
