@@ -11,8 +11,8 @@
 /**
  * The text of @p bytes that are not UTF-8, decoded by their byte order mark, their first character or their XML
  * declaration, as UTF-8; none for what is UTF-8, unless it begins with an instruction such as "<?xml-a?>", from which
- * Qt 5 would take an encoding. The XML reader is handed that text, not the bytes, so that it cannot
- * read another text than was scanned.
+ * Qt 5 would take an encoding. The XML reader is handed that text, not the bytes, so that it cannot read another text
+ * than was scanned.
  *
  * The text is empty when the declaration names several encodings or one that Qt does not know, or does not end within
  * the first 1024 bytes.
