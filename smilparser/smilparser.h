@@ -410,6 +410,20 @@ public:
                         int *errorLine = nullptr, int *errorColumn = nullptr);
 
     /**
+     * The tree that the last parse() read, or the last getContent() rendered. It has what the model has no place for:
+     * an "alt", a "param", the order of media and nested elements. Null before the first of the two, unless render()
+     * was called, and after a parse() whose outcome is #NotWellFormed.
+     *
+     * This is Qt's handle, so that a change to the tree shows in every copy. A copy keeps the tree when the parser is
+     * destroyed or getContent() begins another one; a further parse() empties it in the copy too. The model is not
+     * looked at: what the host changes there after parse(), this tree does not show.
+     *
+     * Take the tree from here, not from QDomDocument::setContent() with the same bytes: that reads them without the
+     * bounds of #Limit, and may take them for another text. Cost: constant.
+     */
+    QDomDocument dom() const;
+
+    /**
      * Reads the first "head" child of @p smil, then the first "body" child, into the model, in this order whichever
      * comes first. The model is not cleared first. The element and its tree are not changed; they need not be
      * parse()'s.

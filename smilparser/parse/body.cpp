@@ -1,40 +1,41 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include <smilparser/smilparser.h>
+#include "walks.h"
 
+#include "smilparser/model/attributes.h"
 #include "smilparser/model/timeline.h"
 
 #include <utility>
 
-// Made once, not at each look-up.
-static const QString absent;
-static const QString dur = QStringLiteral("dur");
-static const QString region = QStringLiteral("region");
-static const QString src = QStringLiteral("src");
+static const QString absent; // made once, not at each look-up
+
+static SmilUnit readDuration(const QDomElement &element, SmilParser::ReadOptions options)
+{
+    const QString text = element.attribute(durAttribute, absent);
+    SmilUnit clock;
+    clock.valid = options.testFlag(SmilParser::ClockDurations) && clock.convertClock(text);
+    return clock.valid ? clock : SmilUnit(text);
+}
 
 static SmilRef readRef(const QDomElement &element, int type)
 {
     SmilRef ref(type);
-    ref.region = element.attribute(region, absent);
-    ref.src = element.attribute(src, absent);
+    for (const Attribute<SmilRef> &attribute : refAttributes) {
+        ref.*attribute.text = element.attribute(attribute.name, absent);
+    }
     return ref;
 }
 
-bool SmilParser::parseSmilBody(QDomElement &body)
+bool readNodes(const QDomElement &element, SmilNode &node, int depth, SmilParser::ReadOptions options)
 {
-    return parseSmilNodes(body, document.body.root, 0);
-}
-
-bool SmilParser::parseSmilNodes(QDomElement &element, SmilNode &node, int depth)
-{
-    if (depth > MaxDepth) {
+    if (depth > SmilParser::MaxDepth) {
         return false;
     }
-    node.dur = SmilUnit(element.attribute(dur, absent));
+    node.dur = readDuration(element, options);
 
     for (QDomNode sibling = element.firstChild(); !sibling.isNull(); sibling = sibling.nextSibling()) {
-        QDomElement child = sibling.toElement();
+        const QDomElement child = sibling.toElement();
         const TimelineElement *const known = findElement(child.tagName());
         if (!known) {
             continue;
@@ -45,10 +46,20 @@ bool SmilParser::parseSmilNodes(QDomElement &element, SmilNode &node, int depth)
         }
         // Appended only when complete, so that a list never shows a node half read.
         SmilNode nested(known->type);
-        if (!parseSmilNodes(child, nested, depth + 1)) {
+        if (!readNodes(child, nested, depth + 1, options)) {
             return false;
         }
         node.children.append(std::move(nested));
     }
     return true;
+}
+
+bool SmilParser::parseSmilBody(QDomElement &body)
+{
+    return parseSmilNodes(body, document.body.root, 0);
+}
+
+bool SmilParser::parseSmilNodes(QDomElement &element, SmilNode &node, int depth)
+{
+    return readNodes(element, node, depth, AsWritten);
 }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "mmslogger.h"
-#include "options.h"
 #include "reader.h"
+#include "walks.h"
 
-#include <smilparser/smilparser.h>
+#include "smilparser/model/elements.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QIODevice>
@@ -16,6 +16,44 @@ static void debug(const char *text)
         // The blank is part of the message. QDebug's own would do on some versions of Qt and be cut off on others.
         qDebug().nospace() << text << ' ';
     }
+}
+
+/** Copies the root layout's width to the top layout if that has no valid one, and the height likewise. */
+static void keepRootSize(SmilLayout &layout)
+{
+    if (!layout.topLayoutWidth.valid) {
+        layout.topLayoutWidth = layout.rootLayoutWidth;
+    }
+    if (!layout.topLayoutHeight.valid) {
+        layout.topLayoutHeight = layout.rootLayoutHeight;
+    }
+}
+
+SmilParser::Outcome readDocument(const QDomElement &smil, SmilDocument &document, SmilParser::ReadOptions options)
+{
+    debug("Begin to parse smil document.");
+
+    const QDomElement head = smil.firstChildElement(headElement);
+    if (head.isNull()) {
+        qWarning("Fail to find SMIL head!");
+        return SmilParser::NoHead;
+    }
+    readHead(head, document.header);
+    if (options.testFlag(SmilParser::KeepRootSize)) {
+        keepRootSize(document.header.layout);
+    }
+    debug("Smil document have a head.");
+
+    const QDomElement body = smil.firstChildElement(bodyElement);
+    if (body.isNull()) {
+        qWarning("Fail to find SMIL body!");
+        return SmilParser::NoBody;
+    }
+    if (!readNodes(body, document.body.root, 0, options)) {
+        return SmilParser::NoBody;
+    }
+    debug("Smil document have a body.");
+    return SmilParser::Complete;
 }
 
 SmilParser::SmilParser(QIODevice *device)
@@ -33,6 +71,11 @@ SmilParser::SmilParser(const QByteArray &bytes)
 SmilParser::SmilParser(const SmilDocument &model)
     : document(model)
 {
+}
+
+QDomDocument SmilParser::dom() const
+{
+    return domDocument;
 }
 
 SmilDocument &SmilParser::parse(QString *errorMsg, int *errorLine, int *errorColumn)
@@ -53,51 +96,24 @@ SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *
     int *const column = errorColumn ? errorColumn : &ownColumn;
     result = NotWellFormed;
     if (!readXml(buffer, domDocument, msg, line, column)) {
+        // What was read up to the error is nobody's tree.
+        domDocument.clear();
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", msg->toLocal8Bit().constData(), *line, *column);
         return document;
     }
 
     document = SmilDocument();
-    QDomElement smil = domDocument.firstChildElement(QStringLiteral("smil"));
+    const QDomElement smil = domDocument.firstChildElement(smilElement);
     if (smil.isNull()) {
         result = NoSmil;
         qWarning("Fail to find SMIL document!");
-    } else if (parseSmilDocument(smil)) {
-        result = Complete;
     } else {
-        result = smil.firstChildElement(QStringLiteral("head")).isNull() ? NoHead : NoBody;
-    }
-    if (result == Complete && options.testFlag(ClockDurations)) {
-        readClockDurations(smil.firstChildElement(QStringLiteral("body")), document.body.root);
-    }
-    if (options.testFlag(KeepRootSize)) {
-        keepRootSize(document.header.layout);
+        result = readDocument(smil, document, options);
     }
     return document;
 }
 
 bool SmilParser::parseSmilDocument(QDomElement &smil)
 {
-    debug("Begin to parse smil document.");
-
-    QDomElement head = smil.firstChildElement(QStringLiteral("head"));
-    if (head.isNull()) {
-        qWarning("Fail to find SMIL head!");
-        return false;
-    }
-    if (!parseSmilHead(head)) {
-        return false;
-    }
-    debug("Smil document have a head.");
-
-    QDomElement body = smil.firstChildElement(QStringLiteral("body"));
-    if (body.isNull()) {
-        qWarning("Fail to find SMIL body!");
-        return false;
-    }
-    if (!parseSmilBody(body)) {
-        return false;
-    }
-    debug("Smil document have a body.");
-    return true;
+    return readDocument(smil, document, AsWritten) == Complete;
 }

@@ -1,68 +1,74 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "smilparser/model/region.h"
+#include "walks.h"
+
+#include "smilparser/model/attributes.h"
+#include "smilparser/model/elements.h"
 
 static SmilUnit measure(const QDomElement &element, const QString &attribute)
 {
     return SmilUnit(element.attribute(attribute));
 }
 
-static SmilMeta readMeta(const QDomElement &element)
+/** All attributes in the table. */
+template<typename Record, std::size_t Count>
+static void read(const QDomElement &element, const Attribute<Record> (&attributes)[Count], Record &record)
 {
-    SmilMeta meta;
-    meta.id = element.attribute(QStringLiteral("id"));
-    meta.name = element.attribute(QStringLiteral("name"));
-    meta.content = element.attribute(QStringLiteral("content"));
-    return meta;
-}
-
-static SmilRegion readRegion(const QDomElement &element)
-{
-    SmilRegion region;
-    for (const RegionAttribute &attribute : regionAttributes) {
+    for (const Attribute<Record> &attribute : attributes) {
         if (attribute.text) {
-            region.*attribute.text = element.attribute(attribute.name);
+            record.*attribute.text = element.attribute(attribute.name);
         } else {
-            region.*attribute.measure = measure(element, attribute.name);
+            record.*attribute.measure = measure(element, attribute.name);
         }
     }
-    return region;
+}
+
+/** A record for each child of that name. */
+template<typename Record, std::size_t Count>
+static void readAll(const QDomElement &parent, const QString &name, const Attribute<Record> (&attributes)[Count],
+                    QList<Record> &records)
+{
+    for (QDomElement child = parent.firstChildElement(name); !child.isNull(); child = child.nextSiblingElement(name)) {
+        Record record;
+        read(child, attributes, record);
+        records.append(record);
+    }
+}
+
+void readHead(const QDomElement &head, SmilHeader &header)
+{
+    read(head, headAttributes, header);
+    readAll(head, metaElement, metaAttributes, header.metas);
+    const QDomElement layout = head.firstChildElement(layoutElement);
+    if (!layout.isNull()) {
+        readLayout(layout, header.layout);
+    }
+}
+
+void readLayout(const QDomElement &layout, SmilLayout &record)
+{
+    const QDomElement root = layout.firstChildElement(rootLayoutElement);
+    if (!root.isNull()) {
+        record.rootLayoutWidth = measure(root, widthAttribute);
+        record.rootLayoutHeight = measure(root, heightAttribute);
+    }
+    const QDomElement top = layout.firstChildElement(QStringLiteral("topLayout"));
+    if (!top.isNull()) {
+        record.topLayoutWidth = measure(top, widthAttribute);
+        record.topLayoutHeight = measure(top, heightAttribute);
+    }
+    readAll(layout, regionElement, regionAttributes, record.regions);
 }
 
 bool SmilParser::parseSmilHead(QDomElement &head)
 {
-    SmilHeader &header = document.header;
-    header.id = head.attribute(QStringLiteral("id"));
-    header.title = head.attribute(QStringLiteral("title"));
-    header.className = head.attribute(QStringLiteral("class"));
-
-    const QString name = QStringLiteral("meta");
-    for (QDomElement child = head.firstChildElement(name); !child.isNull(); child = child.nextSiblingElement(name)) {
-        header.metas.append(readMeta(child));
-    }
-
-    QDomElement layout = head.firstChildElement(QStringLiteral("layout"));
-    return layout.isNull() || parseLayout(layout);
+    readHead(head, document.header);
+    return true;
 }
 
 bool SmilParser::parseLayout(QDomElement &layout)
 {
-    SmilLayout &record = document.header.layout;
-    const QDomElement root = layout.firstChildElement(QStringLiteral("root-layout"));
-    if (!root.isNull()) {
-        record.rootLayoutWidth = measure(root, QStringLiteral("width"));
-        record.rootLayoutHeight = measure(root, QStringLiteral("height"));
-    }
-    const QDomElement top = layout.firstChildElement(QStringLiteral("topLayout"));
-    if (!top.isNull()) {
-        record.topLayoutWidth = measure(top, QStringLiteral("width"));
-        record.topLayoutHeight = measure(top, QStringLiteral("height"));
-    }
-
-    const QString name = QStringLiteral("region");
-    for (QDomElement child = layout.firstChildElement(name); !child.isNull(); child = child.nextSiblingElement(name)) {
-        record.regions.append(readRegion(child));
-    }
+    readLayout(layout, document.header.layout);
     return true;
 }

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "attributes.h"
+#include "write.h"
 
+#include "smilparser/model/elements.h"
 #include "smilparser/model/timeline.h"
 
 #include <utility>
@@ -16,8 +17,7 @@ static QDomElement renderRef(QDomDocument &dom, const SmilRef &ref)
         return QDomElement();
     }
     QDomElement element = dom.createElement(known->name);
-    write(element, QStringLiteral("src"), ref.src);
-    write(element, QStringLiteral("region"), ref.region);
+    write(element, refAttributes, ref);
     return element;
 }
 
@@ -25,7 +25,7 @@ static QDomElement renderNode(QDomDocument &dom, const SmilNode &node)
 {
     const int type = node.type == SmilNode::Seq ? SmilNode::Seq : SmilNode::Par;
     QDomElement element = dom.createElement(findElement(TimelineElement::Node, type)->name);
-    write(element, QStringLiteral("dur"), node.dur);
+    write(element, durAttribute, node.dur);
     for (const SmilNode &child : node.children) {
         element.appendChild(renderNode(dom, child));
     }
@@ -37,7 +37,7 @@ static QDomElement renderNode(QDomDocument &dom, const SmilNode &node)
 
 QDomElement SmilParser::render(SmilBody &body)
 {
-    QDomElement element = domDocument.createElement(QStringLiteral("body"));
+    QDomElement element = domDocument.createElement(bodyElement);
     for (const SmilNode &node : std::as_const(body.root.children)) {
         element.appendChild(renderNode(domDocument, node));
     }

@@ -3,6 +3,8 @@
 
 #include <smilparser/smilparser.h>
 
+#include "smilparser/model/elements.h"
+
 QDomDocument &SmilParser::getContent()
 {
     // Cleared, not replaced by an empty document: a null one starts anew with the first element it creates.
@@ -13,7 +15,7 @@ QDomDocument &SmilParser::getContent()
 
 QDomElement SmilParser::render(SmilDocument &model)
 {
-    QDomElement smil = domDocument.createElement(QStringLiteral("smil"));
+    QDomElement smil = domDocument.createElement(smilElement);
     smil.appendChild(render(model.header));
     smil.appendChild(render(model.body));
     return smil;
