@@ -10,21 +10,34 @@
 
 static const QString absent; // made once, not at each look-up
 
-static SmilUnit readDuration(const QDomElement &element, SmilParser::ReadOptions options)
+// What follows is not part of readNodes(), or its locals would take up stack at every level of nesting: there are up to
+// 512, and some threads have 128 KiB.
+
+Q_NEVER_INLINE static void readDuration(const QDomElement &element, SmilUnit &dur, SmilParser::ReadOptions options)
 {
     const QString text = element.attribute(durAttribute, absent);
     SmilUnit clock;
     clock.valid = options.testFlag(SmilParser::ClockDurations) && clock.convertClock(text);
-    return clock.valid ? clock : SmilUnit(text);
+    dur = clock.valid ? clock : SmilUnit(text);
 }
 
-static SmilRef readRef(const QDomElement &element, int type)
+Q_NEVER_INLINE static void readRef(const QDomElement &element, int type, QList<SmilRef> &refs)
 {
     SmilRef ref(type);
     for (const Attribute<SmilRef> &attribute : refAttributes) {
         ref.*attribute.text = element.attribute(attribute.name, absent);
     }
-    return ref;
+    refs.append(std::move(ref));
+}
+
+Q_NEVER_INLINE static const TimelineElement *findElement(const QDomElement &element)
+{
+    return findElement(element.tagName());
+}
+
+Q_NEVER_INLINE static void append(QList<SmilNode> &nodes, SmilNode &node)
+{
+    nodes.append(std::move(node));
 }
 
 bool readNodes(const QDomElement &element, SmilNode &node, int depth, SmilParser::ReadOptions options)
@@ -32,16 +45,16 @@ bool readNodes(const QDomElement &element, SmilNode &node, int depth, SmilParser
     if (depth > SmilParser::MaxDepth) {
         return false;
     }
-    node.dur = readDuration(element, options);
+    readDuration(element, node.dur, options);
 
     for (QDomNode sibling = element.firstChild(); !sibling.isNull(); sibling = sibling.nextSibling()) {
         const QDomElement child = sibling.toElement();
-        const TimelineElement *const known = findElement(child.tagName());
+        const TimelineElement *const known = findElement(child);
         if (!known) {
             continue;
         }
         if (known->record == TimelineElement::Ref) {
-            node.refs.append(readRef(child, known->type));
+            readRef(child, known->type, node.refs);
             continue;
         }
         // Appended only when complete, so that a list never shows a node half read.
@@ -49,7 +62,7 @@ bool readNodes(const QDomElement &element, SmilNode &node, int depth, SmilParser
         if (!readNodes(child, nested, depth + 1, options)) {
             return false;
         }
-        node.children.append(std::move(nested));
+        append(node.children, nested);
     }
     return true;
 }
