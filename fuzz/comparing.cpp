@@ -26,6 +26,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const std::optional<QByteArray> decoded = decode(input);
     const QByteArray text = decoded.value_or(input);
     const bool refused = isRefused(told);
+    require(decoded || toldByLibrary(input, SmilParser::DecodedText) == told, "Other with DecodedText:", input, told,
+            QString());
     // Nothing is left of a document with an odd declaration.
     if (text.isEmpty() || harmlessSize(text) < text.size()) {
         require(refused, "Beyond the limits, and no error:", input, told, QString());

@@ -155,7 +155,8 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
 
 /**
  * One element of the timeline, "par" (its contents play together) or "seq" (one after another). Nested elements and
- * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs.
+ * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs. In a
+ * "par" that loses nothing. In a "seq" with both, only SmilParser::dom() tells what plays first.
  *
  * Destroying a tree takes one call level per level of nesting; so does rendering it. A tree made by
  * SmilParser::parse() is never deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that
@@ -199,7 +200,8 @@ public:
     QString spare4; ///< as #spare1
 
     /**
-     * The timeline's root, a SmilNode::Par standing for "body" itself. Parsing fills its SmilNode::dur and, from media
+     * The timeline's root, standing for "body" itself. What is in it plays one after another, as in a "seq", though its
+     * SmilNode::type is SmilNode::Par by default and after parsing. Parsing fills its SmilNode::dur and, from media
      * directly inside "body", its SmilNode::refs; rendering writes its SmilNode::children only.
      */
     SmilNode root;
@@ -289,8 +291,12 @@ Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
  *
  * To read, construct a parser from a device or from bytes, call parse() once and take the model it returns. To write,
  * construct it from a model and call getContent() as often as wanted. The references that both return are to members
- * of the parser and live as long as it does. A parser cannot be copied, and it and its DOM are used by one thread at a
- * time; different parsers share nothing.
+ * of the parser and live as long as it does. A parser cannot be copied.
+ *
+ * Threads: a parser and its DOM, with every copy of that, are used by one thread at a time; they may move from one to
+ * another, as long as the two do not use them at once. Different parsers may be used at the same time. All they share
+ * is the host's MMSLogger::qdebugEnabled, which they read without a lock: a host that changes it while another thread
+ * is in the library makes it wait until none is. A copy of a model may go to another thread, which uses it as its own.
  *
  * Nothing is thrown except by a failing allocation inside Qt. Warnings go through qWarning(); the debug lines go
  * through qDebug(), each only while the host's MMSLogger::qdebugEnabled is true. The walks (the operations that take an
@@ -300,16 +306,14 @@ class SMILPARSER_EXPORT SmilParser
 {
 public:
     /**
-     * Bounds on what is read. An ordinary message is nowhere near them. parse() cuts off a document where it exceeds
-     * one, and reports that it is not well formed. So it does where the document type declares anything ("["), where a
-     * reference is by something that is no name ("&@;"), and where an XML declaration is longer than 1024 bytes, names
-     * two encodings, or one that Qt does not know. SECURITY.md says why, and what reading costs without this.
+     * A bound on what is read. An ordinary message is nowhere near it, nor near the others that SECURITY.md states: on
+     * the attributes of an element, the length of a name and the mean nesting of the whole. parse() cuts off a document
+     * where it exceeds one, and reports that it is not well formed. So it does where the document type declares
+     * anything ("["), where a reference is by something that is no name ("&@;"), and where an XML declaration is too
+     * long, names two encodings, or one that Qt does not know.
      */
     enum Limit {
-        MaxDepth = 512, ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
-        MaxMeanDepth = 32, ///< levels around a byte of UTF-8, on average; a document counts as 128 KiB at least
-        MaxAttributes = 64, ///< attributes of an element, those of equal names too
-        MaxName = 4096 ///< length of a name, as QString::size() counts it, whatever the encoding
+        MaxDepth = 512 ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
     };
 
     /** What parse() does beyond reading the message as it is written; combined with "|". */
@@ -328,7 +332,15 @@ public:
          * height likewise, so that getContent() writes the size that was read. The root layout's own stay. If neither
          * is valid, nothing changes.
          */
-        KeepRootSize = 2
+        KeepRootSize = 2,
+
+        /**
+         * The input is text that has been decoded already, as UTF-8, whatever its XML declaration says: a service that
+         * hands over a QString read from a part in ISO-8859-1 is served by QString::toUtf8() and this. A byte order
+         * mark at its beginning is dropped. Bytes that are no UTF-8 are, as in a document that declares UTF-8, an error
+         * with Qt 6 and U+FFFD with Qt 5. Of the declaration, only what the XML reader itself refuses is refused.
+         */
+        DecodedText = 4
     };
     /** Any of #ReadOption together. */
     Q_DECLARE_FLAGS(ReadOptions, ReadOption)
@@ -493,8 +505,8 @@ public:
      * it where it belongs. The record is not changed. The result is "smil", "head", "layout" and so on, never
      * null except for a SmilRef of unknown kind.
      *
-     * The element belongs to the parser's document. When getContent() begins another one, or the parser is destroyed,
-     * that document ends, unless the host keeps a copy of it. An element that is in no document by then may only be
+     * The element belongs to the parser's document. When getContent() begins another one, parse() fails, or the parser
+     * is destroyed, that document ends, unless the host keeps a copy of it. An element that is in no document by then may only be
      * destroyed: Qt would use memory that was the document's.
      *
      * Cost: linear in the number of records held, however long their texts, which are shared; one call level per level

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void encodings();
     void outcomes_data();
     void outcomes();
+    void decodedText_data();
+    void decodedText();
     void surrogates_data() { addCases("surrogates.txt"); }
     void surrogates();
     void referencesBeyond16Bits();
@@ -33,11 +35,16 @@ static QByteArray encoded(const QString &text, const QString &form)
         : wide(text, form.contains(QLatin1String("32")) ? 4 : 2, form.endsWith(QLatin1String("BE")), marked);
 }
 
-static QString read(const QByteArray &input)
+static QString read(const QByteArray &input, SmilParser::ReadOptions options = SmilParser::AsWritten)
 {
     QString told;
-    onSmallStack([&] { told = toldByLibrary(input); });
+    onSmallStack([&] { told = toldByLibrary(input, options); });
     return told;
+}
+
+static QString orError(const QString &told)
+{
+    return isRefused(told) ? QStringLiteral("an error") : told;
 }
 
 /** A "¶" in the text marks where the document is cut off. Without one, the library changes nothing. */
@@ -121,10 +128,47 @@ void Hostile::outcomes()
         || (outcome == QLatin1String("read by Qt 5") && QT_VERSION < QT_VERSION_CHECK(6, 0, 0));
     const QString told = read(encoded(text, form));
     const QString reads = QStringLiteral("reads, in %1, ").arg(form) + text;
-    COMPARE_SEEN(reads, isRefused(told) ? QStringLiteral("an error") : told,
-                 isRead ? toldByReaderAlone(encoded(text, form)) : QStringLiteral("an error"));
+    COMPARE_SEEN(reads, orError(told), isRead ? toldByReaderAlone(encoded(text, form)) : QStringLiteral("an error"));
     text.replace(QStringLiteral("</body>"), expanded(QStringLiteral("{600*<x>}{600*</x>}</body>")));
     QVERIFY2(isRefused(read(encoded(text, form))), "with 600 levels behind that, it is read");
+}
+
+void Hostile::decodedText_data()
+{
+    QTest::addColumn<QByteArray>("declaration");
+    QTest::addColumn<QByteArray>("counterpart"); // which does not make the reader decode it otherwise
+    const QByteArray utf8Declared = "<?xml version='1.0' encoding='UTF-8'?>";
+    for (const char *const encoding : {"UTF8", "ISO-8859-1", "GBK", "UTF-7", "UTF-16", "x"}) {
+        const QByteArray declared = "encoding='" + QByteArray(encoding) + "'?>";
+        QTest::addRow("%s", encoding) << "<?xml version='1.0' " + declared << utf8Declared;
+        QTest::addRow("%s in an instruction", encoding) << "<?xml-a " + declared << QByteArray("<?a?>");
+    }
+    QTest::newRow("nothing") << QByteArray() << QByteArray();
+    QTest::newRow("two") << QByteArray("<?xml version='1.0' encoding='x' title='encoding'?>")
+                         << QByteArray("<?xml version='1.0' encoding='UTF-8' title=''?>");
+    QTest::newRow("far away") << "<?xml version='1.0' encoding='GBK'" + QByteArray(2000, ' ') + "?>" << utf8Declared;
+    QTest::newRow("cut off") << QByteArray("<?xml version='1.0' encoding='GBK'")
+                             << QByteArray("<?xml version='1.0' encoding='UTF-8'");
+}
+
+/** Whatever is declared, a host sees what it would if that were UTF-8: an error for an error. */
+void Hostile::decodedText()
+{
+    QFETCH(QByteArray, declaration);
+    QFETCH(QByteArray, counterpart);
+    const QString reads = QStringLiteral("reads, with DecodedText, ");
+    for (const QByteArray title : {"caf\xc3\xa9", "caf\xff", "+AOk-", "\xed\xa0\x80", "a\xef\xbb\xbf"}) {
+        for (const QByteArray mark : {"", "\xef\xbb\xbf"}) {
+            const QByteArray text = "<smil><head title='" + title + "'/><body></body></smil>";
+            COMPARE_SEEN(reads + QString::fromLatin1(mark + declaration + text),
+                         orError(read(mark + declaration + text, SmilParser::DecodedText)),
+                         orError(toldByReaderAlone(mark + counterpart + text)));
+        }
+    }
+    const QByteArray deep = "<smil><head/><body>" + QByteArray("<x>").repeated(600);
+    QVERIFY2(isRefused(read(declaration + deep, SmilParser::DecodedText)), "600 levels are read");
+    const QByteArray utf16 = wide(QString::fromLatin1(declaration + "<smil><head/><body/></smil>"), 2, false, true);
+    QVERIFY2(isRefused(read(utf16, SmilParser::DecodedText)), "UTF-16 is read as if it were UTF-8");
 }
 
 // Half a surrogate pair is no character either: Qt 6.4 and 6.8 make it "?", and Qt 6.11 crashes on it. Qt 6 would drop

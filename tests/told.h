@@ -13,22 +13,24 @@
 
 /** Calls @p function on a stack such as SECURITY.md promises to do with. */
 template<typename Function>
-inline void onSmallStack(Function function)
+inline void onSmallStack(Function function, uint kibibytes = 512)
 {
     const std::unique_ptr<QThread> thread(QThread::create(function));
-#ifndef __SANITIZE_ADDRESS__ // which takes several times the stack
-    thread->setStackSize(512 * 1024);
+#ifdef __SANITIZE_ADDRESS__ // which takes several times the stack
+    Q_UNUSED(kibibytes)
+#else
+    thread->setStackSize(kibibytes * 1024);
 #endif
     thread->start();
     thread->wait();
 }
 
 /** All that a host is told of the input: the messages, and the model. */
-inline QString toldByLibrary(const QByteArray &input)
+inline QString toldByLibrary(const QByteArray &input, SmilParser::ReadOptions options = SmilParser::AsWritten)
 {
     Messages messages(0);
     SmilParser parser(input);
-    const QString model = Outline::of(parser.parse());
+    const QString model = Outline::of(parser.parse(options));
     parser.getContent();
     return messages.take() + model;
 }

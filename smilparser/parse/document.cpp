@@ -95,7 +95,7 @@ SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *
     int *const line = errorLine ? errorLine : &ownLine;
     int *const column = errorColumn ? errorColumn : &ownColumn;
     result = NotWellFormed;
-    if (!readXml(buffer, domDocument, msg, line, column)) {
+    if (!readXml(buffer, options.testFlag(DecodedText), domDocument, msg, line, column)) {
         // What was read up to the error is nobody's tree.
         domDocument.clear();
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", msg->toLocal8Bit().constData(), *line, *column);

@@ -33,12 +33,13 @@ static bool setContent(QDomDocument &document, const Source &source, QString *er
 #endif
 }
 
-bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn)
+bool readXml(QBuffer &buffer, bool knownUtf8, QDomDocument &document, QString *errorMsg, int *errorLine,
+             int *errorColumn)
 {
     std::optional<QByteArray> text;
     // An open buffer has been read already. Qt would open a closed one too, but Qt 6 warns about it.
     if (!buffer.isOpen()) {
-        text = decode(buffer.data());
+        text = decode(buffer.data(), knownUtf8);
         if (!text) {
             buffer.setData(buffer.data().left(harmlessSize(buffer.data())));
         }

@@ -10,8 +10,10 @@ class QString;
 
 /**
  * QDomDocument::setContent() on @p buffer without namespaces, made the same on every Qt: silent, and leaving the buffer
- * at its end. The pointers, each of which may be null, get what Qt reports, and only when it returns false.
+ * at its end. If the bytes are @p knownUtf8, they are read as that, whatever they declare. The pointers, each of which
+ * may be null, get what Qt reports, and only when it returns false.
  */
-bool readXml(QBuffer &buffer, QDomDocument &document, QString *errorMsg, int *errorLine, int *errorColumn);
+bool readXml(QBuffer &buffer, bool knownUtf8, QDomDocument &document, QString *errorMsg, int *errorLine,
+             int *errorColumn);
 
 #endif

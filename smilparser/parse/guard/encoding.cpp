@@ -99,14 +99,15 @@ static void replaceNoCharacters(QString &text)
     }
 }
 
-std::optional<QByteArray> decode(const QByteArray &bytes)
+std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
 {
     QByteArray encoding = detectEncoding(bytes);
     const bool utf8 = isUtf8(encoding);
+    // Behind a mark, too, Qt 5 would take an encoding from an instruction.
     if (utf8 && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
         return std::nullopt;
     }
-    const QString beginning = decodeAs(encoding, bytes.left(1024));
+    const QString beginning = decodeAs(encoding, bytes.left(maxDeclaration));
     const bool declares = isDeclaration(beginning);
     if (declares) {
         encoding = declaredEncoding(beginning.left(beginning.indexOf(QLatin1Char('>')) + 1), encoding);
@@ -114,7 +115,7 @@ std::optional<QByteArray> decode(const QByteArray &bytes)
     if (utf8 && declares && isUtf8(encoding)) {
         return std::nullopt;
     }
-    QString text = decodeAs(encoding, bytes);
+    QString text = decodeAs(knownUtf8 ? QByteArrayLiteral("UTF-8") : encoding, bytes);
     replaceNoCharacters(text);
     return text.toUtf8();
 }

@@ -54,7 +54,7 @@ public:
         : begin(text)
         , end(text + size)
         , at(text)
-        , mostNesting(SmilParser::MaxMeanDepth * qMax<qint64>(size, 128 * 1024))
+        , mostNesting(maxMeanDepth * qMax<qint64>(size, leastSize))
     {
     }
 
@@ -86,8 +86,8 @@ private:
     // too short for too many attributes or too long a name. markup() does the others.
     void skipPlainTags(const char *ampersand)
     {
-        const int longest = SmilParser::MaxAttributes * 4; // a=""
-        static_assert(longest <= SmilParser::MaxName, "a tag that is skipped has no room for a name that is too long");
+        const int longest = maxAttributes * 4; // a=""
+        static_assert(longest <= maxName, "a tag that is skipped has no room for a name that is too long");
         const char *tag = at;
         qint64 depth = level;
         qint64 sum = nesting;
@@ -145,7 +145,7 @@ private:
                 level += closing ? -1 : (at[-2] == '/' ? 0 : 1);
                 return true;
             }
-            if ((c == '"' || c == '\'') && (++attributes > SmilParser::MaxAttributes || !value(c))) {
+            if ((c == '"' || c == '\'') && (++attributes > maxAttributes || !value(c))) {
                 return false;
             }
         }
@@ -203,7 +203,7 @@ private:
     {
         const char *const start = at;
         at = std::find_if(at, end, endsName);
-        if (at - start <= SmilParser::MaxName || toText(start, at).size() <= SmilParser::MaxName) {
+        if (at - start <= maxName || toText(start, at).size() <= maxName) {
             return true;
         }
         at = start;
