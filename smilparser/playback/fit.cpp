@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include <smilparser/smilplayback.h>
+
+#include <QtCore/qnumeric.h>
+
+#include <algorithm>
+#include <limits>
+
+/** A size of the picture's shape that is as wide or as high as the area, whichever is smaller; or larger, to cover. */
+static QSizeF scaled(const QSizeF &picture, const QSizeF &area, bool cover)
+{
+    const double across = area.width() / picture.width();
+    const double down = area.height() / picture.height();
+    return (across < down) != cover ? QSizeF(area.width(), picture.height() * across)
+                                    : QSizeF(picture.width() * down, area.height());
+}
+
+static QSizeF sizeIn(const QSizeF &area, const QSizeF &picture, const QString &fit)
+{
+    const bool fits = picture.width() <= area.width() && picture.height() <= area.height();
+    if (fits
+        && (fit == QLatin1String("hidden") || fit == QLatin1String("scroll") || fit == QLatin1String("meetBest"))) {
+        return picture;
+    }
+    return scaled(picture, area, fit == QLatin1String("slice"));
+}
+
+QRectF SmilScreen::fitted(const QSizeF &picture, const QRectF &area, const QString &fit)
+{
+    QSizeF size(0, 0);
+    if (qIsFinite(picture.width()) && qIsFinite(picture.height()) && !picture.isEmpty()) {
+        if (fit == QLatin1String("fill")) {
+            return area;
+        }
+        size = sizeIn(area.size(), picture, fit);
+    }
+    const double largest = std::numeric_limits<double>::max();
+    QRectF rectangle(QPointF(), size.expandedTo(QSizeF(0, 0)).boundedTo(QSizeF(largest, largest)));
+    rectangle.moveCenter(area.center());
+    return rectangle;
+}
