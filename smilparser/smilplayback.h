@@ -69,7 +69,8 @@ public:
     }
 
     /**
-     * The timeline of the first child "body" of @p smil; there need not be a "head". It is empty when there is no body,
+     * The timeline of the first child "body" of @p smil, which is the document element of SmilParser::dom(), or of
+     * what SmilParser::getContent() rendered; there need not be a "head". It is empty when there is no body,
      * or when @p smil is null or no "smil" element. Neither the element nor its tree is changed.
      *
      * It sees what SmilParser::parseSmilNodes() sees: "par", "seq" and the five media in any letter case. Other

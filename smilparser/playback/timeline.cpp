@@ -4,6 +4,8 @@
 #include "slides.h"
 #include "times.h"
 
+#include "smilparser/model/attributes.h"
+#include "smilparser/model/elements.h"
 #include "smilparser/model/timeline.h"
 
 #include <QtCore/qnumeric.h>
@@ -17,8 +19,6 @@ static const QString absent;
 static const QString altName = QStringLiteral("alt");
 static const QString nameName = QStringLiteral("name");
 static const QString paramName = QStringLiteral("param");
-static const QString regionName = QStringLiteral("region");
-static const QString srcName = QStringLiteral("src");
 static const QString valueName = QStringLiteral("value");
 
 namespace
@@ -45,8 +45,9 @@ static SmilCue readCue(const QDomElement &element, int type)
 {
     SmilCue cue;
     cue.ref.type = type;
-    cue.ref.region = element.attribute(regionName, absent);
-    cue.ref.src = element.attribute(srcName, absent);
+    for (const Attribute<SmilRef> &attribute : refAttributes) {
+        cue.ref.*attribute.text = element.attribute(attribute.name, absent);
+    }
     cue.alt = element.attribute(altName, absent);
     for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
         const QDomElement param = child.toElement();
@@ -171,8 +172,8 @@ SmilTimeline::SmilTimeline(const QDomElement &smil, double slideDuration,
                            const std::function<double(const SmilRef &)> &length)
     : duration(0.0)
 {
-    const QDomElement body = smil.firstChildElement(QStringLiteral("body"));
-    if (smil.tagName() != QLatin1String("smil") || body.isNull()) {
+    const QDomElement body = smil.firstChildElement(bodyElement);
+    if (smil.tagName() != smilElement || body.isNull()) {
         return;
     }
     Walk walk{isDuration(slideDuration) ? slideDuration : 5.0, length, {}, {}};

@@ -3,14 +3,13 @@
 
 #include "times.h"
 
-#include <smilparser/smilparser.h>
+#include "smilparser/model/attributes.h"
 
 #include <QtCore/qnumeric.h>
 
 // Made once, not at each look-up.
 static const QString absent;
 static const QString beginName = QStringLiteral("begin");
-static const QString durName = QStringLiteral("dur");
 static const QString endName = QStringLiteral("end");
 
 bool isDuration(double seconds)
@@ -20,7 +19,7 @@ bool isDuration(double seconds)
 
 static double readDur(const QDomElement &element)
 {
-    const QString text = element.attribute(durName, absent);
+    const QString text = element.attribute(durAttribute, absent);
     if (text.isEmpty()) {
         return qInf();
     }
