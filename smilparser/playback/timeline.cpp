@@ -39,6 +39,14 @@ struct Walk {
     std::vector<Span> spans;
     std::vector<SmilCue> cues;
 };
+
+/** The base of what comes next in the node, and the end of what is in it so far. */
+struct Inside {
+    double base;
+    double end;
+    int last = -1; ///< the span of the last thing in it
+    bool hasOpen = false;
+};
 }
 
 static SmilCue readCue(const QDomElement &element, int type)
@@ -67,7 +75,10 @@ static Span spanOf(const QDomElement &element, double base, int around)
     return {begin, end, around, -1, times.stateEnd(), false};
 }
 
-static void addMedium(Walk &walk, const QDomElement &element, int type, double base, int around)
+// What follows is not part of addNode(), or its locals would take up stack at every level of nesting: there are up to
+// 512, and some threads have 128 KiB.
+
+Q_NEVER_INLINE static void addMedium(Walk &walk, const QDomElement &element, int type, double base, int around)
 {
     SmilCue cue = readCue(element, type);
     Span span = spanOf(element, base, around);
@@ -81,15 +92,18 @@ static void addMedium(Walk &walk, const QDomElement &element, int type, double b
     walk.spans.push_back(span);
 }
 
-/** The base of what comes next in the node, and the end of what is in it so far. */
-struct Inside {
-    double base;
-    double end;
-    int last = -1; ///< the span of the last thing in it
-    bool hasOpen = false;
-};
+Q_NEVER_INLINE static const TimelineElement *findElement(const QDomElement &element)
+{
+    return findElement(element.tagName());
+}
 
-static void goOn(Walk &walk, Inside &inside, int nodeType, int added)
+Q_NEVER_INLINE static Inside beginNode(Walk &walk, const QDomElement &element, double base, int around)
+{
+    walk.spans.push_back(spanOf(element, base, around));
+    return {walk.spans.back().begin, walk.spans.back().begin};
+}
+
+Q_NEVER_INLINE static void goOn(Walk &walk, Inside &inside, int nodeType, int added)
 {
     const Span &span = walk.spans[added];
     if (nodeType == SmilNode::Seq) {
@@ -104,15 +118,22 @@ static void goOn(Walk &walk, Inside &inside, int nodeType, int added)
     inside.last = added;
 }
 
+Q_NEVER_INLINE static void endNode(Walk &walk, int node, int type, const Inside &inside)
+{
+    Span &span = walk.spans[node];
+    if (!span.ends) {
+        const bool needsTime = type == SmilNode::Par && inside.hasOpen && inside.end <= span.begin;
+        span.end = needsTime ? span.begin + walk.slideDuration : inside.end;
+    }
+}
+
 static void addNode(Walk &walk, const QDomElement &element, int type, double base, int around, int depth)
 {
     const int node = int(walk.spans.size());
-    walk.spans.push_back(spanOf(element, base, around));
-    const double begin = walk.spans[node].begin;
-    Inside inside{begin, begin};
+    Inside inside = beginNode(walk, element, base, around);
     for (QDomNode sibling = element.firstChild(); !sibling.isNull(); sibling = sibling.nextSibling()) {
         const QDomElement child = sibling.toElement();
-        const TimelineElement *const known = findElement(child.tagName());
+        const TimelineElement *const known = findElement(child);
         if (!known || (known->record == TimelineElement::Node && depth == SmilParser::MaxDepth)) {
             continue;
         }
@@ -124,11 +145,7 @@ static void addNode(Walk &walk, const QDomElement &element, int type, double bas
         }
         goOn(walk, inside, type, added);
     }
-    Span &span = walk.spans[node];
-    if (!span.ends) {
-        const bool needsTime = type == SmilNode::Par && inside.hasOpen && inside.end <= begin;
-        span.end = needsTime ? begin + walk.slideDuration : inside.end;
-    }
+    endNode(walk, node, type, inside);
 }
 
 /** Lets nothing outlast the node around it, and puts the times into the cues. */
