@@ -3,9 +3,10 @@
 """Prints the binary interface of the library that gdb has loaded. Run by script/abi.
 
 A symbol's line has the type it returns. A record's has its size and a field's its offset, in bytes. Types of Qt are
-named, not described. Records and enumerations are those that the public header names.
+named, not described. Records and enumerations are those that the public headers name.
 """
 
+import pathlib
 import re
 import subprocess
 
@@ -25,7 +26,10 @@ def describe_symbol(line):
         return f"    version {name}"
     if kind not in "TW":
         return f"    {kind} {name}"
-    returned = gdb.block_for_pc(int(address, 16)).function.type.target()
+    block = gdb.block_for_pc(int(address, 16))
+    while not block.superblock.is_static:
+        block = block.superblock  # out of what was inlined into the function
+    returned = block.function.type.target()
     return f"    {name}: {returned.name or returned}"
 
 
@@ -54,8 +58,8 @@ print("\nleft to the host")
 print("\n".join("    " + line.split()[1] for line in symbols("--undefined-only") if " U " in line and "@" not in line))
 
 record = ""
-with open("smilparser/smilparser.h", encoding="utf-8") as header:
-    for line in header:
+for header in sorted(pathlib.Path("smilparser").glob("*.h")):
+    for line in header.read_text("utf-8").splitlines():
         if match := re.match(r"class SMILPARSER_EXPORT (\w+)", line):
             record = match[1]
             describe_record(record)

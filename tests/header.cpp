@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// The public header alone, in the oldest language that each Qt allows and with a host's strictest options. It need only
-// compile.
+// The public headers alone, in the oldest language that each Qt allows and with a host's strictest options. They need
+// only compile.
 
 #include <smilparser/smilparser.h>
+#include <smilparser/smilplayback.h>
 
 #include <cstddef>
 
@@ -15,6 +16,7 @@ static_assert(SmilRef::Audio == 2 && SmilRef::Video == 3 && SmilRef::Ref == 4, "
 SmilDocument makeDefaults();
 void callWithoutOptions(SmilParser &parser);
 void callWithOptions(SmilParser &parser);
+int callPlayback(SmilParser &parser);
 
 /** What has a default can be made of empty braces. */
 SmilDocument makeDefaults()
@@ -61,4 +63,14 @@ void callWithOptions(SmilParser &parser)
     parser.parse({}, &outcome);
     parser.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize, &outcome);
     parser.parse(options, &outcome, &error, &line, &column);
+}
+
+int callPlayback(SmilParser &parser)
+{
+    SmilTimeline timeline{};
+    timeline = SmilTimeline(parser.dom().documentElement(), 5.0, [](const SmilRef &) { return 1.0; });
+    SmilScreen screen{};
+    screen = SmilScreen(parser.parse().header.layout);
+    SmilParts parts{};
+    return int(screen.places(timeline.at(0)).size()) + parts.find(SmilCue{}.ref.src);
 }

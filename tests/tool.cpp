@@ -773,11 +773,16 @@ void Tool::examples()
     const Outcome ofPhone = run(read, {}, "<smil><head/><body><par dur='5000ms'/></body></smil>");
     QCOMPARE(ofPhone.err, QStringLiteral("slide, \"5s\"\n"));
     QCOMPARE(run(read, {}, "<smil><head/></smil>").status, 1);
+    const QStringList parts = {QStringLiteral("beach.jpg"), QStringLiteral("HARBOUR.JPG"), QStringLiteral("card.vcf")};
+    const Outcome shown = run(QStringLiteral(EXAMPLES_BIN_DIR "/show"), parts,
+                              readFile(QStringLiteral(EXAMPLES_DIR "/holiday.smil")).toUtf8());
+    QCOMPARE(shown.err, golden(QStringLiteral("show.err")));
 
     const QString readme = readFile(QStringLiteral(EXAMPLES_DIR "/../README.md"));
     static const QRegularExpression snippet(QStringLiteral("//! \\[(\\w+)\\]\n(.*)\n *//! \\[\\1\\]\n"),
                                             QRegularExpression::DotMatchesEverythingOption);
-    for (const QString &file : {QStringLiteral("/compose.cpp"), QStringLiteral("/read.cpp")}) {
+    for (const QString &file :
+         {QStringLiteral("/compose.cpp"), QStringLiteral("/read.cpp"), QStringLiteral("/show.cpp")}) {
         auto snippets = snippet.globalMatch(readFile(QStringLiteral(EXAMPLES_DIR) + file));
         QVERIFY(snippets.hasNext());
         while (snippets.hasNext()) {
