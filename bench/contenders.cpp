@@ -38,6 +38,18 @@ static void write(const Message &message, Made &made)
     made.dom = made.parser->getContent();
 }
 
+static Message slidesRead(int slides)
+{
+    SmilParser parser(slidesText(slides).text);
+    return {QByteArray(), parser.parse(), parser.dom()};
+}
+
+static void show(const Message &message, Made &made)
+{
+    made.timeline = SmilTimeline(message.dom.documentElement());
+    made.screen = SmilScreen(message.model.header.layout);
+}
+
 static SmilDocument readWithLibrary(const QByteArray &text)
 {
     return SmilParser(text).parse();
@@ -54,6 +66,7 @@ const std::vector<Contender> contenders = {
     {"parse",       slidesText,  parse                       },
     {"floor-write", slidesModel, floorWrite                  },
     {"write",       slidesModel, write                       },
+    {"show",        slidesRead,  show                        },
     {"model",       slidesText,  keepModel<readWithLibrary>  }, // the parser is dropped, and its DOM with it
     {"xmlstream",   slidesText,  keepModel<readWithXmlStream>},
     {"libxml2",     slidesText,  keepModel<readWithLibxml2>  },
@@ -75,6 +88,15 @@ bool contendersAgree(int slides)
     for (const Contender &contender : contenders) {
         Made made;
         contender.pass(contender.message(slides), made);
+        if (contender.pass == show) {
+            const bool agrees = int(made.timeline.slides.size()) == slides
+                && int(made.timeline.cues.size()) == 2 * slides && made.screen.areas.size() == 2;
+            if (!agrees) {
+                std::fprintf(stderr, "what shows %d slides has lost some\n", slides);
+                return false;
+            }
+            continue;
+        }
         SmilLayout &layout = made.model.header.layout;
         layout.topLayoutWidth = layout.rootLayoutWidth; // the model states the size twice, the text once
         layout.topLayoutHeight = layout.rootLayoutHeight;

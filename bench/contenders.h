@@ -14,13 +14,15 @@ struct Made {
     std::optional<SmilParser> parser;
     QDomDocument dom;
     SmilDocument model;
+    SmilTimeline timeline;
+    SmilScreen screen;
 };
 
 /** One of those that are compared: the library, its floor, or what a host could use instead. */
 struct Contender {
     const char *name;
     Message (*message)(int slides);
-    void (*pass)(const Message &message, Made &made); ///< reads or writes the message once
+    void (*pass)(const Message &message, Made &made); ///< reads, writes or lays out the message once
 };
 
 extern const std::vector<Contender> contenders;

@@ -42,7 +42,7 @@ def benchmark(program):
     times = {}
     # Round after round, so that a time in which the machine is busy does not meet all repetitions of one.
     for _ in range(REPETITIONS):
-        for name in output(program, "--benchmark_list_tests", "--benchmark_filter=-^model").split():
+        for name in output(program, "--benchmark_list_tests", "--benchmark_filter=-^(model|show)").split():
             report = json.loads(output(program, "--benchmark_format=json", "--benchmark_min_time=0.1",
                                        f"--benchmark_filter=^{name}$"))
             times.setdefault(name, []).append(report["benchmarks"][0]["cpu_time"])

@@ -40,7 +40,7 @@ Message slidesModel(int slides)
     for (int i = 0; i < slides; ++i) {
         model.body.root.children.append(slide(i));
     }
-    return {QByteArray(), model};
+    return {QByteArray(), model, QDomDocument()};
 }
 
 Message slidesText(int slides)
@@ -54,7 +54,7 @@ Message slidesText(int slides)
         text += "<par dur=\"" + QByteArray::number(3 + i % 8) + "s\">\n<img src=\"picture" + number
             + ".jpg\" region=\"Image\"/>\n<text src=\"text" + number + ".txt\" region=\"Text\"/>\n</par>\n";
     }
-    return {text + "</body>\n</smil>\n", SmilDocument()};
+    return {text + "</body>\n</smil>\n", SmilDocument(), QDomDocument()};
 }
 
 static QString number(const SmilUnit &measure, QLatin1String suffix)

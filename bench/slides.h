@@ -4,12 +4,13 @@
 #ifndef SMILPARSER_BENCH_SLIDES_H
 #define SMILPARSER_BENCH_SLIDES_H
 
-#include <smilparser/smilparser.h>
+#include <smilparser/smilplayback.h>
 
-/** What reading or writing begins with: the text of a message, or its model. The other one is empty. */
+/** What reading begins with, the text of a message; or writing, its model; or showing, its model and its tree. */
 struct Message {
     QByteArray text;
     SmilDocument model;
+    QDomDocument dom;
 };
 
 /** An ordinary message of so many slides, each a picture and a text. */

@@ -83,6 +83,18 @@ static QByteArray multiplyAdd(const QByteArray &digits, int factor, int summand)
     return result;
 }
 
+/** Rounded once. What is too small for a double becomes 0, what is too large infinity. */
+static double toSeconds(const QByteArray &thousandths, int decimals)
+{
+    // Nearly all are whole seconds, and Qt's conversion of a number with an exponent would be most of the work.
+    bool isSmall = false;
+    const qint64 small = decimals == 0 ? thousandths.toLongLong(&isSmall) : 0;
+    if (isSmall && small % 1000 == 0) {
+        return double(small / 1000);
+    }
+    return QString::fromLatin1(thousandths + 'e' + QByteArray::number(-3 - decimals)).toDouble();
+}
+
 bool SmilUnit::convertClock(const QString &text)
 {
     QStringView rest = trimmed(text);
@@ -104,10 +116,8 @@ bool SmilUnit::convertClock(const QString &text)
     for (const QByteArray &sixtieths : std::as_const(fields)) {
         number = multiplyAdd(number, 60, sixtieths.toInt());
     }
-    // Rounded once, here. What is too small for a double becomes 0, what is too large infinity.
     const QByteArray thousandths = multiplyAdd(number + decimals, metric->milliseconds, 0);
-    const QByteArray exponent = QByteArray::number(-3 - decimals.size());
-    const double seconds = QString::fromLatin1(thousandths + 'e' + exponent).toDouble();
+    const double seconds = toSeconds(thousandths, int(decimals.size()));
     if (!qIsFinite(seconds)) {
         return false;
     }

@@ -198,7 +198,11 @@ SmilTimeline::SmilTimeline(const QDomElement &smil, double slideDuration,
     cutOff(walk);
     duration = walk.spans.front().end;
     slides = findSlides(walk);
-    std::stable_sort(walk.cues.begin(), walk.cues.end(), [](auto &a, auto &b) { return a.begin < b.begin; });
+    const auto isEarlier = [](const SmilCue &a, const SmilCue &b) { return a.begin < b.begin; };
+    // Most documents have them in order, and sorting would take a sixth of the time.
+    if (!std::is_sorted(walk.cues.begin(), walk.cues.end(), isEarlier)) {
+        std::stable_sort(walk.cues.begin(), walk.cues.end(), isEarlier);
+    }
     cues.reserve(int(walk.cues.size()));
     std::move(walk.cues.begin(), walk.cues.end(), std::back_inserter(cues));
 }
