@@ -4,6 +4,8 @@
 #include "tests/messages.h"
 #include "tests/outline.h"
 
+#include <smilparser/smilplayback.h>
+
 #include <QtCore/QRegularExpression>
 
 bool MMSLogger::qdebugEnabled = false;
@@ -32,6 +34,74 @@ static QString outline(const SmilDocument &model)
     return Outline::of(model).remove(empty);
 }
 
+static QString described(const SmilRef &ref)
+{
+    const auto shown = [](const QString &text) {
+        return text.isNull() ? QStringLiteral("-") : QLatin1Char('=') + text;
+    };
+    return QString::number(ref.type) + shown(ref.src) + QLatin1Char('\n') + shown(ref.region);
+}
+
+static void collectMedia(const SmilNode &node, QStringList &media)
+{
+    for (const SmilRef &ref : node.refs) {
+        media << described(ref);
+    }
+    for (const SmilNode &child : node.children) {
+        collectMedia(child, media);
+    }
+}
+
+/** The comparisons are so that none holds for what is not a number. */
+static void requireTimes(const SmilTimeline &timeline)
+{
+    double begin = 0;
+    int playing = 0;
+    for (const SmilCue &cue : timeline.cues) {
+        require(cue.begin >= begin && cue.end >= cue.begin && timeline.duration >= cue.end, "the times are in order");
+        begin = cue.begin;
+        playing += cue.begin < cue.end ? 1 : 0;
+    }
+    double slide = -1;
+    for (const double next : timeline.slides) {
+        require(next > slide, "slides are in order, each once");
+        require(!timeline.at(next).isEmpty(), "something plays where a page begins");
+        slide = next;
+    }
+    const double first = timeline.slides.isEmpty() ? qInf() : timeline.slides.first();
+    require(timeline.during(first, qInf()).size() == playing, "all that plays is on a page");
+}
+
+static void requirePlaces(const SmilScreen &screen, const QList<SmilCue> &cues)
+{
+    require(qIsFinite(screen.size.width()) && qIsFinite(screen.size.height()) && !screen.size.isEmpty(), "a screen");
+    const QList<QRectF> places = screen.places(cues);
+    require(places.size() == cues.size(), "a place for each");
+    for (const QRectF &area : screen.areas + places) {
+        require(qIsFinite(area.x()) && qIsFinite(area.y()), "an area is somewhere");
+        require(qIsFinite(area.width()) && qIsFinite(area.height()), "an area has a size");
+        require(area.width() >= 0 && area.height() >= 0, "no area is less than nothing");
+    }
+}
+
+static void requirePlayable(const SmilDocument &model, const QDomElement &smil, bool isComplete)
+{
+    const SmilTimeline timeline(smil);
+    requireTimes(timeline);
+    const SmilScreen screen(model.header.layout);
+    require(screen.areas.size() == model.header.layout.regions.size(), "an area for each region");
+    requirePlaces(screen, timeline.cues);
+    QStringList inModel;
+    QStringList playing;
+    collectMedia(model.body.root, inModel);
+    for (const SmilCue &cue : timeline.cues) {
+        playing << described(cue.ref);
+    }
+    inModel.sort();
+    playing.sort();
+    require(!isComplete || playing == inModel, "the media are those of the model");
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     Messages messages(0);
@@ -51,6 +121,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     }
     require(line == -7 && column == -8 && !warning.contains(QLatin1String(" parse ")), "nothing is reported");
+    requirePlayable(model, parser.dom().documentElement(), !warning.contains(QLatin1String("warning: Fail to ")));
 
     const QDomDocument dom = parser.getContent();
     if (!isXml(dom.toString())) {
