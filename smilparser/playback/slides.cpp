@@ -7,12 +7,12 @@
 
 #include <algorithm>
 
-std::vector<double> slidesOf(const SmilCue *begin, const SmilCue *end)
+std::vector<double> slidesOf(QList<SmilCue>::const_iterator begin, QList<SmilCue>::const_iterator end)
 {
     std::vector<const SmilCue *> playing;
-    for (const SmilCue *cue = begin; cue != end; ++cue) {
+    for (auto cue = begin; cue != end; ++cue) {
         if (cue->begin < cue->end) {
-            playing.push_back(cue);
+            playing.push_back(&*cue);
         }
     }
     if (playing.empty()) {

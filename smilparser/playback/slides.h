@@ -12,6 +12,6 @@
  * Where a host pages while the media from @p begin to @p end play, which are all those of one child of "body", in any
  * order: ascending, each once.
  */
-std::vector<double> slidesOf(const SmilCue *begin, const SmilCue *end);
+std::vector<double> slidesOf(QList<SmilCue>::const_iterator begin, QList<SmilCue>::const_iterator end);
 
 #endif

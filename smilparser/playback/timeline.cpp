@@ -37,7 +37,7 @@ struct Walk {
     double slideDuration;
     const std::function<double(const SmilRef &)> &length;
     std::vector<Span> spans;
-    std::vector<SmilCue> cues;
+    QList<SmilCue> cues;
 };
 
 /** The base of what comes next in the node, and the end of what is in it so far. */
@@ -88,7 +88,7 @@ Q_NEVER_INLINE static void addMedium(Walk &walk, const QDomElement &element, int
         span.open = !isDuration(length);
         span.end = span.begin + (span.open ? walk.slideDuration : length);
     }
-    walk.cues.push_back(std::move(cue));
+    walk.cues.append(std::move(cue));
     walk.spans.push_back(span);
 }
 
@@ -111,7 +111,7 @@ Q_NEVER_INLINE static void goOn(Walk &walk, Inside &inside, int nodeType, int ad
             walk.spans[inside.last].open = false; // something follows, and it has its time
         }
         inside.base = inside.end = span.end;
-    } else if (!span.open || walk.cues[span.cue].ref.type != SmilRef::Audio) {
+    } else if (!span.open || walk.cues.at(span.cue).ref.type != SmilRef::Audio) {
         inside.end = std::max(inside.end, span.end);
     }
     inside.hasOpen = inside.hasOpen || span.open;
@@ -166,9 +166,8 @@ static void cutOff(Walk &walk)
 static QList<double> findSlides(const Walk &walk)
 {
     QList<double> slides;
-    const SmilCue *const cues = walk.cues.data();
-    const SmilCue *begin = cues;
-    const SmilCue *end = cues;
+    auto begin = walk.cues.cbegin();
+    auto end = begin;
     const auto addChild = [&] {
         for (const double slide : slidesOf(begin, end)) {
             slides.append(slide);
@@ -203,8 +202,7 @@ SmilTimeline::SmilTimeline(const QDomElement &smil, double slideDuration,
     if (!std::is_sorted(walk.cues.begin(), walk.cues.end(), isEarlier)) {
         std::stable_sort(walk.cues.begin(), walk.cues.end(), isEarlier);
     }
-    cues.reserve(int(walk.cues.size()));
-    std::move(walk.cues.begin(), walk.cues.end(), std::back_inserter(cues));
+    cues = std::move(walk.cues);
 }
 
 QList<SmilCue> SmilTimeline::at(double seconds) const
