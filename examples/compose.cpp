@@ -3,16 +3,12 @@
 
 // Builds a message of two slides and prints it.
 
+#include <smilparser/mmslogger.h>
 #include <smilparser/smilparser.h>
 
 #include <cstdio>
 
 //! [flag]
-class Q_DECL_EXPORT MMSLogger
-{
-public:
-    static bool qdebugEnabled;
-};
 bool MMSLogger::qdebugEnabled = false;
 //! [flag]
 

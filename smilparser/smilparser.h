@@ -24,15 +24,8 @@
  * set to anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types
  * of the fields and the numbers of the enumerators are part of the binary interface and do not change.
  *
- * The host program must define the flag that switches the library's debug messages:
- * @code
- * class Q_DECL_EXPORT MMSLogger
- * {
- * public:
- *     static bool qdebugEnabled;
- * };
- * bool MMSLogger::qdebugEnabled = false;
- * @endcode
+ * The host program must define the flag that switches the library's debug messages, MMSLogger::qdebugEnabled, which
+ * smilparser/mmslogger.h declares.
  */
 
 /**

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// The public header alone, in the oldest language that each Qt allows and with a host's strictest options. It need only
+// The public headers alone, in the oldest language that each Qt allows and with a host's strictest options. It need only
 // compile.
 
+#include <smilparser/mmslogger.h>
 #include <smilparser/smilparser.h>
 
 #include <cstddef>

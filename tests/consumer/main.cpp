@@ -3,6 +3,7 @@
 
 #include <smilparser/smilparser.h>
 
+// Declared by the host itself, as the library allows too.
 class Q_DECL_EXPORT MMSLogger
 {
 public:
