@@ -24,6 +24,11 @@
  * set to anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types
  * of the fields and the numbers of the enumerators are part of the binary interface and do not change.
  *
+ * Two values of a model type are equal ("==") if all their fields are: texts character by character, a null one being
+ * equal to an empty one; lists record by record, in order; measures by SmilUnit::operator==(). So a copy is equal to
+ * its source. Comparing takes time in proportion to what the smaller of the two holds, less what the two share, and one
+ * call level per level of nested nodes. It changes neither.
+ *
  * The host program must define the flag that switches the library's debug messages, MMSLogger::qdebugEnabled, which
  * smilparser/mmslogger.h declares.
  */
@@ -64,6 +69,16 @@ public:
         , value(0.0)
     {
         valid = convert(text);
+    }
+
+    /**
+     * The measure of @p number in @p kind; it is #valid, whatever the number: toString() says what is written of it.
+     */
+    SmilUnit(double number, Unit kind)
+        : valid(true)
+        , unit(kind)
+        , value(number)
+    {
     }
 
     /**
@@ -115,6 +130,13 @@ public:
      */
     QString toString() const;
 
+    /**
+     * Whether #valid, #unit and #value are the same in both; units are not converted, so 1 in is not 72 pt. Two values
+     * that are not a number are the same here, and so are 0 and -0. Cost: constant.
+     */
+    bool operator==(const SmilUnit &other) const;
+    bool operator!=(const SmilUnit &other) const; ///< the opposite of "=="
+
     bool valid; ///< whether the text was understood; rendering writes a measure only when this is true
     int unit; ///< a #Unit; a valid measure of any other kind is rendered as an empty attribute
     double value; ///< the number, in #unit
@@ -143,6 +165,9 @@ public:
     int type; ///< a #Type; a reference of any other kind is left out when rendered
     QString src; ///< attribute "src", verbatim: where the media is; null when absent, not written when empty
     QString region; ///< attribute "region", verbatim: the SmilRegion::id to play in, existing or not; as #src
+
+    bool operator==(const SmilRef &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilRef &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
 
@@ -150,7 +175,7 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
  * One element of the timeline, "par" (its contents play together) or "seq" (one after another). Nested elements and
  * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs.
  *
- * Destroying a tree takes one call level per level of nesting; so does rendering it. A tree made by
+ * Destroying a tree takes one call level per level of nesting; so do rendering and comparing it. A tree made by
  * SmilParser::parse() is never deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that
  * first.
  */
@@ -179,6 +204,9 @@ public:
     int type; ///< a #Type; any other kind is rendered as "par"
     SmilUnit dur; ///< attribute "dur"; invalid when absent or not understood; "5000ms" takes SmilParser::ClockDurations
     QList<SmilRef> refs; ///< the media directly inside this element, in document order
+
+    bool operator==(const SmilNode &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilNode &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilNode, Q_MOVABLE_TYPE);
 
@@ -196,6 +224,9 @@ public:
      * directly inside "body", its SmilNode::refs; rendering writes its SmilNode::children only.
      */
     SmilNode root;
+
+    bool operator==(const SmilBody &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilBody &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilBody, Q_MOVABLE_TYPE);
 
@@ -206,6 +237,9 @@ public:
     QString id; ///< attribute "id", verbatim; null when absent, not written when empty
     QString name; ///< attribute "name"; as #id
     QString content; ///< attribute "content"; as #id
+
+    bool operator==(const SmilMeta &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilMeta &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilMeta, Q_MOVABLE_TYPE);
 
@@ -224,6 +258,9 @@ public:
     SmilUnit left; ///< attribute "left": distance from its left edge
     SmilUnit right; ///< attribute "right": distance from its right edge
     QString fit; ///< attribute "fit", verbatim ("meet", "scroll", "hidden" or anything else); as #id
+
+    bool operator==(const SmilRegion &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilRegion &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilRegion, Q_MOVABLE_TYPE);
 
@@ -240,6 +277,9 @@ public:
     SmilUnit topLayoutWidth; ///< attribute "width" of "topLayout" when read, of "root-layout" when written
     SmilUnit topLayoutHeight; ///< attribute "height" of "topLayout" when read, of "root-layout" when written
     QList<SmilRegion> regions; ///< every "region", in document order, those of equal SmilRegion::id too
+
+    bool operator==(const SmilLayout &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilLayout &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilLayout, Q_MOVABLE_TYPE);
 
@@ -262,6 +302,9 @@ public:
     QString spare; ///< free for the host; null by default, copied with the record, never read or written here
     QList<SmilMeta> metas; ///< every "meta", in document order, those of equal SmilMeta::name too
     SmilLayout layout; ///< the element "layout"
+
+    bool operator==(const SmilHeader &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilHeader &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilHeader, Q_MOVABLE_TYPE);
 
@@ -274,6 +317,9 @@ public:
 
     SmilBody body; ///< the timeline
     SmilHeader header; ///< what precedes it
+
+    bool operator==(const SmilDocument &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilDocument &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// The public headers alone, in the oldest language that each Qt allows and with a host's strictest options. It need only
-// compile.
+// The public headers alone, in the oldest language that each Qt allows and with a host's strictest options. They need
+// only compile.
 
 #include <smilparser/mmslogger.h>
 #include <smilparser/smilparser.h>

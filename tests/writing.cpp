@@ -40,7 +40,7 @@ static void checkWhole(const SmilDocument &model, const QString &expected)
     parser.getContent();
     COMPARE_SEEN(writes + QStringLiteral(" a second time"), Outline::of(dom), expected);
     const SmilDocument &held = parser.parse(); // finds no input, so that the model stays
-    COMPARE_SEEN(writes + QStringLiteral(" and looks at the model then"), Outline::of(held), Outline::of(model));
+    QVERIFY2(held == model, qPrintable(writes + QStringLiteral(" has another model then: ") + Outline::of(held)));
     const QString shared = QStringLiteral("shared, not copied: nodes %1, metas %2, regions %3");
     COMPARE_SEEN(writes + QStringLiteral(" and looks at the lists then"),
                  shared.arg(isShared(held.body.root.children, model.body.root.children))
