@@ -3,9 +3,10 @@
 """Prints the binary interface of the library that gdb has loaded. Run by script/abi.
 
 A symbol's line has the type it returns. A record's has its size and a field's its offset, in bytes. Types of Qt are
-named, not described. Records and enumerations are those that the public header names.
+named, not described. Records and enumerations are those that the public headers name.
 """
 
+import fileinput
 import re
 import subprocess
 
@@ -54,8 +55,8 @@ print("\nleft to the host")
 print("\n".join("    " + line.split()[1] for line in symbols("--undefined-only") if " U " in line and "@" not in line))
 
 record = ""
-with open("smilparser/smilparser.h", encoding="utf-8") as header:
-    for line in header:
+with fileinput.input(["smilparser/smilparser.h", "smilparser/smilcomposer.h"], encoding="utf-8") as headers:
+    for line in headers:
         if match := re.match(r"class SMILPARSER_EXPORT (\w+)", line):
             record = match[1]
             describe_record(record)

@@ -5,6 +5,7 @@
 // only compile.
 
 #include <smilparser/mmslogger.h>
+#include <smilparser/smilcomposer.h>
 #include <smilparser/smilparser.h>
 
 #include <cstddef>
