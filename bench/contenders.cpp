@@ -38,6 +38,16 @@ static void write(const Message &message, Made &made)
     made.dom = made.parser->getContent();
 }
 
+static void floorText(const Message &message, Made &made)
+{
+    made.text = SmilParser(message.model).getContent().toByteArray(-1); // the tree is dropped, too
+}
+
+static void text(const Message &message, Made &made)
+{
+    made.text = SmilParser(message.model).toXml();
+}
+
 static SmilDocument readWithLibrary(const QByteArray &text)
 {
     return SmilParser(text).parse();
@@ -54,6 +64,8 @@ const std::vector<Contender> contenders = {
     {"parse",       slidesText,  parse                       },
     {"floor-write", slidesModel, floorWrite                  },
     {"write",       slidesModel, write                       },
+    {"floor-text",  slidesModel, floorText                   },
+    {"text",        slidesModel, text                        },
     {"model",       slidesText,  keepModel<readWithLibrary>  }, // the parser is dropped, and its DOM with it
     {"xmlstream",   slidesText,  keepModel<readWithXmlStream>},
     {"libxml2",     slidesText,  keepModel<readWithLibxml2>  },
@@ -74,6 +86,9 @@ bool contendersAgree(int slides)
     for (const Contender &contender : contenders) {
         Made made;
         contender.pass(contender.message(slides), made);
+        if (!made.text.isEmpty()) {
+            made.dom.setContent(made.text);
+        }
         SmilLayout &layout = made.model.header.layout;
         layout.topLayoutWidth = layout.rootLayoutWidth; // the model states the size twice, the text once
         layout.topLayoutHeight = layout.rootLayoutHeight;

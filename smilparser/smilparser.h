@@ -528,6 +528,23 @@ public:
     QDomDocument &getContent();
 
     /**
+     * The model as text: the elements and attributes that getContent() writes, with the same values, in UTF-8 and on
+     * one line, without XML declaration. The bytes are the same on every run, Qt and machine. Neither the model nor the
+     * parser is changed, and there is no DOM.
+     *
+     * Attributes stand in the order in which getContent() sets them. An element without others inside is written as
+     * `<img src="a"/>`. Tabs and line ends in a text stay, as references. A character that XML does not allow, such as
+     * U+0001 or half a surrogate pair, is left out of its text, and what is left may be empty (`src=""`).
+     *
+     * parse() reads all this back as #Complete, unless "smil", "body", the nodes and a medium are together deeper than
+     * #MaxDepth, or deeper than #MaxMeanDepth on average.
+     *
+     * Cost: linear in the number of records and in the length of the texts; one call level per level of nested nodes.
+     * A model that parse() made takes no more stack than it took to read.
+     */
+    QByteArray toXml() const;
+
+    /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends
      * it where it belongs. The record is not changed. The result is "smil", "head", "layout" and so on, never
      * null except for a SmilRef of unknown kind.

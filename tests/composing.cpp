@@ -48,8 +48,7 @@ static void add(SmilComposer &composer, const QString &media)
 static SmilDocument readBack(const SmilComposer &composer)
 {
     const SmilDocument message = composer.message();
-    SmilParser writer(message);
-    SmilParser reader(writer.getContent().toByteArray(-1));
+    SmilParser reader(SmilParser(message).toXml());
     SmilParser::Outcome outcome;
     const SmilDocument &again = reader.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize, &outcome);
     if (outcome != SmilParser::Complete || again != message) {

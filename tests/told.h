@@ -30,6 +30,7 @@ inline QString toldByLibrary(const QByteArray &input)
     SmilParser parser(input);
     const QString model = Outline::of(parser.parse());
     parser.getContent();
+    parser.toXml();
     return messages.take() + model;
 }
 
