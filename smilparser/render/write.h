@@ -7,7 +7,7 @@
 #include "smilparser/model/attributes.h"
 
 template<typename Out>
-void write(Out &out, typename Out::Element &element, const QString &attribute, const QString &text)
+inline void write(Out &out, typename Out::Element &element, const QString &attribute, const QString &text)
 {
     if (!text.isEmpty()) {
         out.write(element, attribute, text);
@@ -15,7 +15,7 @@ void write(Out &out, typename Out::Element &element, const QString &attribute, c
 }
 
 template<typename Out>
-void write(Out &out, typename Out::Element &element, const QString &attribute, const SmilUnit &measure)
+inline void write(Out &out, typename Out::Element &element, const QString &attribute, const SmilUnit &measure)
 {
     if (measure.valid) {
         out.write(element, attribute, measure.toString());
@@ -24,7 +24,8 @@ void write(Out &out, typename Out::Element &element, const QString &attribute, c
 
 /** All attributes in the table. */
 template<typename Out, typename Record, std::size_t Count>
-void write(Out &out, typename Out::Element &element, const Attribute<Record> (&attributes)[Count], const Record &record)
+inline void write(Out &out, typename Out::Element &element, const Attribute<Record> (&attributes)[Count],
+                  const Record &record)
 {
     for (const Attribute<Record> &attribute : attributes) {
         if (attribute.text) {
