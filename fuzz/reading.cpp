@@ -1,29 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "require.h"
+
 #include "tests/messages.h"
 #include "tests/outline.h"
 
 #include <QtCore/QRegularExpression>
 
 bool MMSLogger::qdebugEnabled = false;
-
-static void require(bool holds, const char *what)
-{
-    if (!holds) {
-        fprintf(stderr, "Does not hold: %s\n", what);
-        abort();
-    }
-}
-
-/** Whether XML allows every character of the text; what it does not allow is written, but cannot be read. */
-static bool isXml(const QString &text)
-{
-    const QVector<uint> characters = text.toUcs4();
-    return std::all_of(characters.begin(), characters.end(), [](uint c) {
-        return c == '\t' || c == '\n' || c == '\r' || (c >= ' ' && !QChar::isSurrogate(c) && (c & ~1u) != 0xfffe);
-    });
-}
 
 /** The outline without empty texts, which are not written, and without a head that held no more. */
 static QString outline(const SmilDocument &model)
