@@ -537,7 +537,7 @@ public:
      * U+0001 or half a surrogate pair, is left out of its text, and what is left may be empty (`src=""`).
      *
      * parse() reads all this back as #Complete, unless "smil", "body", the nodes and a medium are together deeper than
-     * #MaxDepth, or deeper than #MaxMeanDepth on average.
+     * #MaxDepth, or than 32 levels around a byte on average.
      *
      * Cost: linear in the number of records and in the length of the texts; one call level per level of nested nodes.
      * A model that parse() made takes no more stack than it took to read.
