@@ -13,6 +13,7 @@
 struct Made {
     std::optional<SmilParser> parser;
     QDomDocument dom;
+    QByteArray text;
     SmilDocument model;
     SmilTimeline timeline;
     SmilScreen screen;

@@ -3,6 +3,7 @@
 
 // Lists what plays on each slide of the message on standard input.
 
+#include <smilparser/mmslogger.h>
 #include <smilparser/smilparser.h>
 
 #include <QtCore/QDebug>
@@ -10,11 +11,6 @@
 
 #include <cstdio>
 
-class Q_DECL_EXPORT MMSLogger
-{
-public:
-    static bool qdebugEnabled;
-};
 bool MMSLogger::qdebugEnabled = false;
 
 int main()

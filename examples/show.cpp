@@ -3,6 +3,7 @@
 
 // show NAME...: tells when and where each part of those names is shown by the message on standard input.
 
+#include <smilparser/mmslogger.h>
 #include <smilparser/smilplayback.h>
 
 #include <QtCore/QDebug>
@@ -11,11 +12,6 @@
 
 #include <cstdio>
 
-class Q_DECL_EXPORT MMSLogger
-{
-public:
-    static bool qdebugEnabled;
-};
 bool MMSLogger::qdebugEnabled = false;
 
 int main(int argc, char *argv[])

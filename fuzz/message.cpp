@@ -2,17 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "parts.h"
-
-#include <cstdio>
-#include <cstdlib>
-
-static void require(bool holds, const char *what)
-{
-    if (!holds) {
-        fprintf(stderr, "Does not hold: %s\n", what);
-        abort();
-    }
-}
+#include "require.h"
 
 /** From bytes to a message, and from each of its names to a part. */
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

@@ -24,15 +24,13 @@
  * set to anything: nothing is checked on the way in, and the field says what rendering makes of it. The order and types
  * of the fields and the numbers of the enumerators are part of the binary interface and do not change.
  *
- * The host program must define the flag that switches the library's debug messages:
- * @code
- * class Q_DECL_EXPORT MMSLogger
- * {
- * public:
- *     static bool qdebugEnabled;
- * };
- * bool MMSLogger::qdebugEnabled = false;
- * @endcode
+ * Two values of a model type are equal ("==") if all their fields are: texts character by character, a null one being
+ * equal to an empty one; lists record by record, in order; measures by SmilUnit::operator==(). So a copy is equal to
+ * its source. Comparing takes time in proportion to what the smaller of the two holds, less what the two share, and one
+ * call level per level of nested nodes. It changes neither.
+ *
+ * The host program must define the flag that switches the library's debug messages, MMSLogger::qdebugEnabled, which
+ * smilparser/mmslogger.h declares.
  */
 
 /**
@@ -71,6 +69,16 @@ public:
         , value(0.0)
     {
         valid = convert(text);
+    }
+
+    /**
+     * The measure of @p number in @p kind; it is #valid, whatever the number: toString() says what is written of it.
+     */
+    SmilUnit(double number, Unit kind)
+        : valid(true)
+        , unit(kind)
+        , value(number)
+    {
     }
 
     /**
@@ -122,6 +130,13 @@ public:
      */
     QString toString() const;
 
+    /**
+     * Whether #valid, #unit and #value are the same in both; units are not converted, so 1 in is not 72 pt. Two values
+     * that are not a number are the same here, and so are 0 and -0. Cost: constant.
+     */
+    bool operator==(const SmilUnit &other) const;
+    bool operator!=(const SmilUnit &other) const; ///< the opposite of "=="
+
     bool valid; ///< whether the text was understood; rendering writes a measure only when this is true
     int unit; ///< a #Unit; a valid measure of any other kind is rendered as an empty attribute
     double value; ///< the number, in #unit
@@ -150,6 +165,9 @@ public:
     int type; ///< a #Type; a reference of any other kind is left out when rendered
     QString src; ///< attribute "src", verbatim: where the media is; null when absent, not written when empty
     QString region; ///< attribute "region", verbatim: the SmilRegion::id to play in, existing or not; as #src
+
+    bool operator==(const SmilRef &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilRef &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
 
@@ -158,7 +176,7 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
  * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs. In a
  * "par" that loses nothing. In a "seq" with both, only SmilParser::dom() tells what plays first.
  *
- * Destroying a tree takes one call level per level of nesting; so does rendering it. A tree made by
+ * Destroying a tree takes one call level per level of nesting; so do rendering and comparing it. A tree made by
  * SmilParser::parse() is never deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that
  * first.
  */
@@ -187,6 +205,9 @@ public:
     int type; ///< a #Type; any other kind is rendered as "par"
     SmilUnit dur; ///< attribute "dur"; invalid when absent or not understood; "5000ms" takes SmilParser::ClockDurations
     QList<SmilRef> refs; ///< the media directly inside this element, in document order
+
+    bool operator==(const SmilNode &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilNode &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilNode, Q_MOVABLE_TYPE);
 
@@ -205,6 +226,9 @@ public:
      * directly inside "body", its SmilNode::refs; rendering writes its SmilNode::children only.
      */
     SmilNode root;
+
+    bool operator==(const SmilBody &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilBody &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilBody, Q_MOVABLE_TYPE);
 
@@ -215,6 +239,9 @@ public:
     QString id; ///< attribute "id", verbatim; null when absent, not written when empty
     QString name; ///< attribute "name"; as #id
     QString content; ///< attribute "content"; as #id
+
+    bool operator==(const SmilMeta &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilMeta &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilMeta, Q_MOVABLE_TYPE);
 
@@ -233,6 +260,9 @@ public:
     SmilUnit left; ///< attribute "left": distance from its left edge
     SmilUnit right; ///< attribute "right": distance from its right edge
     QString fit; ///< attribute "fit", verbatim ("meet", "scroll", "hidden" or anything else); as #id
+
+    bool operator==(const SmilRegion &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilRegion &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilRegion, Q_MOVABLE_TYPE);
 
@@ -249,6 +279,9 @@ public:
     SmilUnit topLayoutWidth; ///< attribute "width" of "topLayout" when read, of "root-layout" when written
     SmilUnit topLayoutHeight; ///< attribute "height" of "topLayout" when read, of "root-layout" when written
     QList<SmilRegion> regions; ///< every "region", in document order, those of equal SmilRegion::id too
+
+    bool operator==(const SmilLayout &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilLayout &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilLayout, Q_MOVABLE_TYPE);
 
@@ -271,6 +304,9 @@ public:
     QString spare; ///< free for the host; null by default, copied with the record, never read or written here
     QList<SmilMeta> metas; ///< every "meta", in document order, those of equal SmilMeta::name too
     SmilLayout layout; ///< the element "layout"
+
+    bool operator==(const SmilHeader &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilHeader &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilHeader, Q_MOVABLE_TYPE);
 
@@ -283,6 +319,9 @@ public:
 
     SmilBody body; ///< the timeline
     SmilHeader header; ///< what precedes it
+
+    bool operator==(const SmilDocument &other) const; ///< whether all fields are equal
+    bool operator!=(const SmilDocument &other) const; ///< the opposite of "=="
 };
 Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
 
@@ -501,13 +540,30 @@ public:
     QDomDocument &getContent();
 
     /**
+     * The model as text: the elements and attributes that getContent() writes, with the same values, in UTF-8 and on
+     * one line, without XML declaration. The bytes are the same on every run, Qt and machine. Neither the model nor the
+     * parser is changed, and there is no DOM.
+     *
+     * Attributes stand in the order in which getContent() sets them. An element without others inside is written as
+     * `<img src="a"/>`. Tabs and line ends in a text stay, as references. A character that XML does not allow, such as
+     * U+0001 or half a surrogate pair, is left out of its text, and what is left may be empty (`src=""`).
+     *
+     * parse() reads all this back as #Complete, unless "smil", "body", the nodes and a medium are together deeper than
+     * #MaxDepth, or than 32 levels around a byte on average.
+     *
+     * Cost: linear in the number of records and in the length of the texts; one call level per level of nested nodes.
+     * A model that parse() made takes no more stack than it took to read.
+     */
+    QByteArray toXml() const;
+
+    /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends
      * it where it belongs. The record is not changed. The result is "smil", "head", "layout" and so on, never
      * null except for a SmilRef of unknown kind.
      *
      * The element belongs to the parser's document. When getContent() begins another one, parse() fails, or the parser
-     * is destroyed, that document ends, unless the host keeps a copy of it. An element that is in no document by then may only be
-     * destroyed: Qt would use memory that was the document's.
+     * is destroyed, that document ends, unless the host keeps a copy of it. An element that is in no document by then
+     * may only be destroyed: Qt would use memory that was the document's.
      *
      * Cost: linear in the number of records held, however long their texts, which are shared; one call level per level
      * of nested nodes.

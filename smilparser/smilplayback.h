@@ -49,6 +49,9 @@ public:
 
     double begin; ///< seconds from the beginning of the message; may be infinite
     double end; ///< as #begin, and never before it; equal to it when the medium never plays
+
+    bool operator==(const SmilCue &other) const; ///< whether all fields are equal; a null text is equal to an empty one
+    bool operator!=(const SmilCue &other) const; ///< whether any is not
 };
 Q_DECLARE_TYPEINFO(SmilCue, Q_MOVABLE_TYPE);
 

@@ -4,6 +4,8 @@
 // The public headers alone, in the oldest language that each Qt allows and with a host's strictest options. They need
 // only compile.
 
+#include <smilparser/mmslogger.h>
+#include <smilparser/smilcomposer.h>
 #include <smilparser/smilparser.h>
 #include <smilparser/smilplayback.h>
 

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void texts();
     void leavesTheTextAlone();
     void oddKinds();
+    void equal();
     void clocks_data() { addCases("clocks.txt"); }
     void clocks();
 };
@@ -70,6 +71,30 @@ void Measures::oddKinds()
         measure.unit = kind;
         QVERIFY2(measure.toString().isNull(), qPrintable(measure.toString()));
     }
+}
+
+/** A copy is equal to its source, whatever a host has put into that; nothing is converted. */
+void Measures::equal()
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    SmilDocument model;
+    model.header.layout.topLayoutWidth = SmilUnit(nan, SmilUnit::Px);
+    model.header.title = QStringLiteral("");
+    QVERIFY(SmilDocument(model) == model && model != SmilDocument());
+    model.header.layout.topLayoutWidth = SmilUnit();
+    QVERIFY(model == SmilDocument()); // one title is empty, one is null
+    for (QString SmilBody::*spare : {&SmilBody::spare1, &SmilBody::spare2, &SmilBody::spare3, &SmilBody::spare4}) {
+        SmilBody body;
+        body.*spare = QStringLiteral("s");
+        QVERIFY(body != SmilBody() && body == SmilBody(body));
+    }
+    model.header.spare = QStringLiteral("s");
+    QVERIFY(model != SmilDocument());
+    QVERIFY(SmilUnit(5, SmilUnit::Px) == SmilUnit(QStringLiteral("5px")));
+    QVERIFY(SmilUnit(5, SmilUnit::NoUnit) != SmilUnit(5, SmilUnit::Px));
+    SmilUnit invalid(0, SmilUnit::NoUnit);
+    invalid.valid = false;
+    QVERIFY(invalid == SmilUnit() && invalid != SmilUnit(0, SmilUnit::NoUnit));
 }
 
 /** Into a measure of 7 pixels, valid or not, which it stays. */

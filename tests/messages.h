@@ -4,17 +4,12 @@
 #ifndef SMILPARSER_MESSAGES_H
 #define SMILPARSER_MESSAGES_H
 
+#include <smilparser/mmslogger.h>
+
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QString>
 
 #include <utility>
-
-/** The host's flag, which the library leaves undefined. */
-class Q_DECL_EXPORT MMSLogger
-{
-public:
-    static bool qdebugEnabled;
-};
 
 /** Takes everything off Qt's message channel while it lives, one at a time, whatever the user has it filtered by. */
 class Messages

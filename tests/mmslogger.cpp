@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "messages.h"
+#include <smilparser/mmslogger.h>
 
 bool MMSLogger::qdebugEnabled = false;

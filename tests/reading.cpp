@@ -20,6 +20,8 @@ private Q_SLOTS:
     void walks();
     void nodes_data() { addCases("nodes.txt"); }
     void nodes();
+    void differences_data() { addCases("differences.txt"); }
+    void differences();
 };
 
 static const auto unwritten = SmilParser::Outcome(7);
@@ -286,6 +288,24 @@ void Reading::nodes()
                  QVariant(result).toString() + QLatin1Char('\n') + told + Outline::of(own)
                      + Outline::of(parser.parse()),
                  returns + QLatin1Char('\n') + node + QStringLiteral("<body/>"));
+}
+
+/** Messages with one or the other of the values at the "?" are equal, read apart, if that is the same. */
+void Reading::differences()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, values);
+    const QStringList all = values.split(QLatin1Char(' '));
+    for (const QString &one : all) {
+        for (const QString &other : all) {
+            SmilParser first(QString(text).replace(QLatin1Char('?'), one).toUtf8());
+            SmilParser second(QString(text).replace(QLatin1Char('?'), other).toUtf8());
+            const SmilDocument model = first.parse();
+            const SmilDocument again = second.parse();
+            QVERIFY2((model == again) == (one == other), qPrintable(one + QLatin1Char(' ') + other));
+            QVERIFY2((model != again) == (one != other), qPrintable(one + QLatin1Char(' ') + other));
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(Reading)

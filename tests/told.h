@@ -32,6 +32,7 @@ inline QString toldByLibrary(const QByteArray &input, SmilParser::ReadOptions op
     SmilParser parser(input);
     const QString model = Outline::of(parser.parse(options));
     parser.getContent();
+    parser.toXml();
     return messages.take() + model;
 }
 

@@ -761,11 +761,15 @@ void Tool::manualAndCompletionNameEveryFinding()
 
 void Tool::examples()
 {
-    const Outcome composed = run(QStringLiteral(EXAMPLES_BIN_DIR "/compose"), {});
-    QCOMPARE(composed.status, 0);
-    const Outcome rendered = smiltool({QStringLiteral("render"), QStringLiteral("-")}, composed.out.toUtf8());
-    // The root layout's size is written, and not written back.
-    QCOMPARE(rendered.out, golden(QStringLiteral("compose.render")));
+    Outcome composed;
+    for (const QStringList &way : {QStringList(QStringLiteral("dom")), QStringList()}) {
+        composed = run(QStringLiteral(EXAMPLES_BIN_DIR "/compose"), way);
+        QCOMPARE(composed.status, 0);
+        QCOMPARE(composed.out.contains(QLatin1String("xml:lang")), !way.isEmpty());
+        const Outcome rendered = smiltool({QStringLiteral("render"), QStringLiteral("-")}, composed.out.toUtf8());
+        // The root layout's size is written, and not written back.
+        QCOMPARE(rendered.out, golden(QStringLiteral("compose.render")));
+    }
     const QString read = QStringLiteral(EXAMPLES_BIN_DIR "/read");
     const Outcome listed = run(read, {}, composed.out.toUtf8());
     QCOMPARE(listed.err, golden(QStringLiteral("read.err")));
@@ -778,12 +782,15 @@ void Tool::examples()
                               readFile(QStringLiteral(EXAMPLES_DIR "/holiday.smil")).toUtf8());
     QCOMPARE(shown.err, golden(QStringLiteral("show.err")));
 
+    const Outcome sent = run(QStringLiteral(EXAMPLES_BIN_DIR "/send"), {});
+    QCOMPARE(sent.err, QStringLiteral("beach___boats.jpg, hello.txt, harbour.jpg, waves.amr\n"));
+    QCOMPARE(run(read, {}, sent.out.toUtf8()).err.count(QStringLiteral("slide, \"8s\"\n")), 1);
+
     const QString readme = readFile(QStringLiteral(EXAMPLES_DIR "/../README.md"));
     static const QRegularExpression snippet(QStringLiteral("//! \\[(\\w+)\\]\n(.*)\n *//! \\[\\1\\]\n"),
                                             QRegularExpression::DotMatchesEverythingOption);
-    for (const QString &file :
-         {QStringLiteral("/compose.cpp"), QStringLiteral("/read.cpp"), QStringLiteral("/show.cpp")}) {
-        auto snippets = snippet.globalMatch(readFile(QStringLiteral(EXAMPLES_DIR) + file));
+    for (const char *const file : {"/compose.cpp", "/read.cpp", "/send.cpp", "/show.cpp"}) {
+        auto snippets = snippet.globalMatch(readFile(QStringLiteral(EXAMPLES_DIR) + QLatin1String(file)));
         QVERIFY(snippets.hasNext());
         while (snippets.hasNext()) {
             QString code = snippets.next().captured(2);

@@ -3,9 +3,9 @@
 
 #include "commands.h"
 #include "complain.h"
-#include "mmslogger.h"
 #include "output.h"
 
+#include <smilparser/mmslogger.h>
 #include <smilparser/smilparser_version.h>
 
 #include <QtCore/QCommandLineParser>

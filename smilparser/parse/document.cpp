@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "mmslogger.h"
 #include "reader.h"
 #include "walks.h"
 
 #include "smilparser/model/elements.h"
+
+#include <smilparser/mmslogger.h>
 
 #include <QtCore/QDebug>
 #include <QtCore/QIODevice>

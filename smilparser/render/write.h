@@ -6,29 +6,32 @@
 
 #include "smilparser/model/attributes.h"
 
-inline void write(QDomElement &element, const QString &attribute, const QString &text)
+template<typename Out>
+inline void write(Out &out, typename Out::Element &element, const QString &attribute, const QString &text)
 {
     if (!text.isEmpty()) {
-        element.setAttribute(attribute, text);
+        out.write(element, attribute, text);
     }
 }
 
-inline void write(QDomElement &element, const QString &attribute, const SmilUnit &measure)
+template<typename Out>
+inline void write(Out &out, typename Out::Element &element, const QString &attribute, const SmilUnit &measure)
 {
     if (measure.valid) {
-        element.setAttribute(attribute, measure.toString());
+        out.write(element, attribute, measure.toString());
     }
 }
 
 /** All attributes in the table. */
-template<typename Record, std::size_t Count>
-inline void write(QDomElement &element, const Attribute<Record> (&attributes)[Count], const Record &record)
+template<typename Out, typename Record, std::size_t Count>
+inline void write(Out &out, typename Out::Element &element, const Attribute<Record> (&attributes)[Count],
+                  const Record &record)
 {
     for (const Attribute<Record> &attribute : attributes) {
         if (attribute.text) {
-            write(element, attribute.name, record.*attribute.text);
+            write(out, element, attribute.name, record.*attribute.text);
         } else {
-            write(element, attribute.name, record.*attribute.measure);
+            write(out, element, attribute.name, record.*attribute.measure);
         }
     }
 }

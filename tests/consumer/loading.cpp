@@ -3,14 +3,11 @@
 
 // loading LIBRARY: loads the library at run time and has it read a measure.
 
+#include <smilparser/mmslogger.h>
+
 #include <QtCore/QDebug>
 #include <QtCore/QLibrary>
 
-class Q_DECL_EXPORT MMSLogger
-{
-public:
-    static bool qdebugEnabled;
-};
 bool MMSLogger::qdebugEnabled = false;
 
 struct Measure {

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+// Makes a model and a list of media out of bytes. What is written of either can be read, and is the same then.
+
+#include "require.h"
+
+#include "tests/messages.h"
+
+#include <smilparser/smilcomposer.h>
+
+#include <limits>
+
+bool MMSLogger::qdebugEnabled = false;
+
+namespace
+{
+/** A fuzzer's bytes, one after another; behind the last one there are zeros. */
+class Bytes
+{
+public:
+    Bytes(const uint8_t *data, size_t size)
+        : at(data)
+        , end(data + size)
+    {
+    }
+    bool more() const { return at != end; }
+    int next(int count) { return at == end ? 0 : *at++ % count; }
+    double number()
+    {
+        static const double odd[] = {0,
+                                     1e300,
+                                     5e-324,
+                                     -1,
+                                     33.33333333,
+                                     0.00001,
+                                     std::numeric_limits<double>::infinity(),
+                                     std::numeric_limits<double>::quiet_NaN()};
+        const int chosen = next(256);
+        return chosen < 8 ? odd[chosen] : chosen * 1.25;
+    }
+    QString text()
+    {
+        static const ushort odd[] = {0xd83c, 0xdf0a, 0xfffd, 0xfffe, 0xffff, 0xfeff, 0x2028, 0x85, 0xe9, 0x4f60};
+        QString text;
+        for (int left = next(48) - 8; left > 0; --left) {
+            const int chosen = next(138);
+            text += QChar(chosen < 128 ? ushort(chosen) : odd[chosen - 128]);
+        }
+        all += text + u' ';
+        return text;
+    }
+    /** All that were given. */
+    QString texts() const { return all; }
+    SmilUnit measure()
+    {
+        SmilUnit measure(number(), SmilUnit::Unit(next(8)));
+        measure.valid = next(4) != 0;
+        return measure;
+    }
+
+private:
+    const uint8_t *at;
+    const uint8_t *const end;
+    QString all;
+};
+}
+
+/** A node with what the bytes say is in it, no deeper than one byte in an element may be on average. */
+static SmilNode nodeOf(Bytes &bytes, int level)
+{
+    SmilNode node(bytes.next(3));
+    node.dur = bytes.measure();
+    while (bytes.more()) {
+        const int what = bytes.next(8);
+        if (what >= 6) {
+            return node;
+        }
+        if (what == 5 && level < 28) {
+            node.children << nodeOf(bytes, level + 1);
+        } else {
+            node.refs << SmilRef(what);
+            node.refs.last().src = bytes.text();
+            node.refs.last().region = bytes.text();
+        }
+    }
+    return node;
+}
+
+static SmilDocument modelOf(Bytes &bytes)
+{
+    SmilDocument model;
+    model.header.title = bytes.text();
+    model.header.layout.topLayoutWidth = bytes.measure();
+    for (int left = bytes.next(4); left > 0; --left) {
+        SmilMeta meta;
+        meta.content = bytes.text();
+        model.header.metas << meta;
+        SmilRegion region;
+        region.id = bytes.text();
+        region.left = region.bottom = bytes.measure();
+        model.header.layout.regions << region;
+    }
+    while (bytes.more()) {
+        model.body.root.children << nodeOf(bytes, 0);
+    }
+    return model;
+}
+
+static SmilDocument read(const QByteArray &text)
+{
+    Messages messages(0);
+    SmilParser parser(text);
+    SmilParser::Outcome outcome;
+    const SmilDocument model = parser.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize, &outcome);
+    require(outcome == SmilParser::Complete && messages.take().isEmpty(), "what was written is complete");
+    return model;
+}
+
+static SmilDocument composedOf(Bytes &bytes)
+{
+    QSet<QString> names;
+    const double width = bytes.number();
+    SmilComposer composer(QSizeF(width, bytes.number()), bytes.number());
+    while (bytes.more()) {
+        const int what = bytes.next(6);
+        if (what == 5) {
+            composer.nextSlide();
+            continue;
+        }
+        const QString name = bytes.text();
+        const QString src = composer.add(SmilRef::Type(what), name, bytes.number());
+        require(!src.isEmpty() && src.size() <= 32 && !names.contains(src.toLower()), "a src is short and new");
+        names.insert(src.toLower());
+    }
+    return composer.message();
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    Bytes media(data, size);
+    const SmilDocument message = composedOf(media);
+    require(read(SmilParser(message).toXml()) == message, "what is composed is the same when read");
+
+    Bytes bytes(data, size);
+    SmilParser parser(modelOf(bytes));
+    const SmilDocument again = read(parser.toXml());
+    // Of a character that XML does not allow, Qt's text of the tree makes what it likes.
+    if (isXml(bytes.texts())) {
+        require(again == read(parser.getContent().toByteArray(-1)), "the text is that of the tree");
+    }
+    return 0;
+}

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_MMSLOGGER_H
+#define SMILPARSER_MMSLOGGER_H
+
+#include <QtCore/qglobal.h>
+
+/**
+ * @file
+ * The flag that the library asks of the program that it is loaded into.
+ */
+
+/**
+ * The host's class, which switches the library's debug messages. The library leaves the flag undefined, and finds the
+ * host's when it is loaded. So the host program defines it, once, in one of its sources:
+ * @code
+ * #include <smilparser/mmslogger.h>
+ *
+ * bool MMSLogger::qdebugEnabled = false;
+ * @endcode
+ *
+ * The class is visible to the library whatever the host is compiled with. A host that declares the class itself,
+ * exported and with this member, does not include this header; nothing else of the library does.
+ */
+// Imported by the library, exported by the host: on ELF, Q_DECL_IMPORT does for both. Q_DECL_EXPORT is "protected" in
+// some builds of Qt, and by that the library would look for the flag in itself.
+class Q_DECL_IMPORT MMSLogger
+{
+public:
+    /** Whether debug messages are printed. The host may switch it between two calls of the library. */
+    static bool qdebugEnabled;
+};
+
+#endif

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "document.h"
+
+#include <QtCore/QXmlStreamWriter>
+
+#include <algorithm>
+
+static bool isCharacter(char16_t unit)
+{
+    return (unit >= 0x20 && !QChar::isSurrogate(unit) && unit < 0xfffe) || unit == u'\t' || unit == u'\n'
+        || unit == u'\r';
+}
+
+/** The text without what XML does not allow. Qt's writer would leave out all of a text with half a surrogate pair. */
+static QString allowed(const QString &text)
+{
+    const auto isOrdinary = [](QChar c) { return c >= u' ' && c.unicode() < 0xd800; };
+    if (std::all_of(text.begin(), text.end(), isOrdinary)) {
+        return text;
+    }
+    QString result;
+    result.reserve(text.size());
+    for (auto at = text.begin(); at != text.end(); ++at) {
+        if (isCharacter(at->unicode())) {
+            result += *at;
+        } else if (at->isHighSurrogate() && at + 1 != text.end() && at[1].isLowSurrogate()) {
+            result += *at++;
+            result += *at;
+        }
+    }
+    return result;
+}
+
+namespace
+{
+/** The way out into a text, in which an element stands where it begins. */
+class Text
+{
+public:
+    struct Element {
+    };
+
+    explicit Text(QByteArray &text)
+        : writer(&text)
+    {
+    }
+    Element begin(const QString &name)
+    {
+        writer.writeStartElement(name);
+        return Element();
+    }
+    void write(Element, const QString &attribute, const QString &text)
+    {
+        writer.writeAttribute(attribute, allowed(text));
+    }
+    void append(Element, Element) { }
+    void end() { writer.writeEndElement(); }
+
+private:
+    QXmlStreamWriter writer;
+};
+}
+
+QByteArray SmilParser::toXml() const
+{
+    QByteArray text;
+    Text out(text);
+    writeDocument(out, document);
+    return text;
+}

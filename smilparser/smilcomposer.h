@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILCOMPOSER_H
+#define SMILCOMPOSER_H
+
+#include <smilparser/smilparser.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QSet>
+#include <QtCore/QSizeF>
+
+/**
+ * @file
+ * SmilComposer, which makes a presentation of a list of media.
+ */
+
+/**
+ * Makes a message that other phones show out of the media that a host adds, in their order: slides one after another,
+ * pictures above texts.
+ *
+ * A slide has room for one thing to look at (SmilRef::Img, SmilRef::Video or SmilRef::Ref), one SmilRef::Text and one
+ * sound (SmilRef::Audio; a SmilRef::Video takes that room too). A medium whose room is taken begins the next slide, so
+ * a host that adds a picture and its text in turn need not say where a slide ends.
+ *
+ * @code
+ * SmilComposer composer;
+ * composer.add(SmilRef::Img, QStringLiteral("beach.jpg"));
+ * const QString src = composer.add(SmilRef::Text, QStringLiteral("a&b.txt")); // "a_b.txt": send the text as that
+ * const QByteArray smil = SmilParser(composer.message()).toXml();
+ * @endcode
+ *
+ * A composer is a plain value: a copy goes on by itself. It opens no file and keeps no names but those it has returned.
+ */
+class SMILPARSER_EXPORT SmilComposer
+{
+public:
+    /**
+     * A composer without media, for a screen of that many pixels. A side that is not finite, or below 1, is not stated
+     * in the message; others are rounded to whole pixels, and to six digits. @p slideDuration is how many seconds a
+     * slide lasts where its media do not say; 5 where it is not finite and above 0. Cost: constant.
+     */
+    explicit SmilComposer(const QSizeF &screen = QSizeF(320, 480), double slideDuration = 5.0);
+
+    /**
+     * Puts a medium into the current slide, behind those there; or into a new one, if its room there is taken, or after
+     * nextSlide(), or if it is the first. @p seconds is how long it lasts; a value that is not finite and above 0 says
+     * that nothing is known of that.
+     *
+     * @return the SmilRef::src of the medium: the name under which its part is to be sent. It is made of @p name, which
+     * may be a path, so that any phone finds the part by it: what follows the last "/" or "\", with "_" for each UTF-16
+     * code unit but ASCII letters, digits, ".", "-" and "_", without the "." and "-" in front. If nothing is left, as
+     * of a null or empty name, it is "part". It has at most 32 characters, and differs from all that were returned
+     * before in more than letter case: it is cut, and gets the first number of "-2", "-3" and so on that makes it so.
+     * Both leave the extension as it is: the last dot and what is behind it, if that is 1 to 8 characters. A name that
+     * needs nothing of this comes back as it is.
+     *
+     * A @p type that is no SmilRef::Type, and that rendering would leave out, adds nothing and returns a null string.
+     *
+     * Cost: linear in the length of the name, however many media there are, and how often under one name; and, the
+     * first time after the composer was copied, a copy of its lists.
+     */
+    QString add(SmilRef::Type type, const QString &name, double seconds = 0);
+
+    /**
+     * Ends the current slide: the next medium begins another one. Where there is no medium since the last call, or none
+     * at all, it changes nothing: no slide is empty. Cost: constant.
+     */
+    void nextSlide();
+
+    /**
+     * The message of all media added so far, each in a SmilNode::Par of the body for its slide. The composer is not
+     * changed, and more may be added.
+     *
+     * - SmilNode::dur is the longest that one of the slide's media lasts, in seconds. One of which nothing is known
+     *   counts as the composer's slide duration, a SmilRef::Audio as 0; if all is 0, the slide duration is taken. So
+     *   a picture with a short sound is shown as long as one without.
+     * - The region "Image" is where there is something to look at: the whole screen, or its upper 70 % if there are
+     *   texts too, in whichever slide. Its SmilRegion::fit is "meet". The region "Text" is the lower 30 %, or the whole
+     *   if there is nothing to look at, and its fit is "scroll". A region without media is left out. All measures of
+     *   regions are in percent. A sound has no region.
+     * - The root layout and the top layout are both the size of the screen.
+     *
+     * Everything else is as in a default SmilDocument, which is the message without media but for the size. Measures
+     * are rounded to the six digits that SmilUnit::toString() writes: so what is written, and read with both
+     * SmilParser::ReadOptions, is equal to what was returned.
+     *
+     * Cost: linear in the number of media.
+     */
+    SmilDocument message() const;
+
+private:
+    QSizeF size;
+    double slideSeconds;
+    bool slideEnded;
+    QList<SmilNode> slides; // of each, SmilNode::dur is not valid yet, and has the longest seconds known, or 0
+    QSet<QString> names; // the returned ones, in lower case
+    QHash<QString, int> numbers; // the next to try, for names that differ by their number only
+};
+
+#endif
