@@ -1,14 +1,21 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "parts.h"
+#include "commands.h"
 #include "require.h"
 
+#include <smilparser/mmslogger.h>
+
+#include <QtCore/QBuffer>
+
+#include <algorithm>
+#include <functional>
+
+bool MMSLogger::qdebugEnabled = false;
+
 /** From bytes to a message, and from each of its names to a part. */
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+static void takeApart(const QByteArray &bytes)
 {
-    // Not copied: the fuzzer's bytes have nothing behind them that could be read by mistake.
-    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), QByteArray::size_type(size));
     MmsMessage message;
     const QString problem = decodeMms(bytes, message);
     require(!problem.contains(QLatin1Char('\n')), "a problem is one line");
@@ -21,12 +28,84 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     for (int i = 0; i < parts.size(); ++i) {
         const MmsPart &part = message.parts.at(i);
         total += part.data.size();
-        require(part.id.isEmpty() || parts.find(part.id) <= i, "a part is found by its identifier");
-        for (const QString &name : {part.name, part.location, QLatin1String("cid:<") + part.id + QLatin1Char('>')}) {
-            require(name.isEmpty() || name == QLatin1String("cid:<>") || parts.find(name) >= 0, "a name finds a part");
-        }
-        require(parts.find(parts.at(i).name) >= -1 && parts.read(i).kind != Parts::Unread, "a part has a kind");
+        const auto isFound = [&parts, i](const QString &name, bool isOwn) {
+            const int found = parts.find(name);
+            return name.isEmpty() || (found >= 0 && (!isOwn || found <= i));
+        };
+        require(isFound(part.id, true), "a part is found by its identifier, or the first that has it");
+        require(isFound(part.location, false) && isFound(part.name, false), "a name finds a part");
+        require(isFound(parts.at(i).name, false), "what a part is called finds a part");
+        require(part.id.isEmpty() || isFound(QLatin1String("cid:<") + part.id + QLatin1Char('>'), false),
+                "a reference by the identifier finds a part");
+        require(parts.read(i).kind != Parts::Unread, "a part has a kind");
     }
-    require(total <= qint64(size), "there is no more data than there was");
+    require(total <= bytes.size(), "there is no more data than there was");
+}
+
+/** That a terminal obeys nothing in what was written, and that there is not too much of it. */
+static void requireOutput(const QByteArray &out, qint64 most)
+{
+    const auto isControl = [](char c) { return uchar(c) < 0x20 && c != '\n'; };
+    require(std::none_of(out.cbegin(), out.cend(), isControl), "no control character is written");
+    require(QString::fromUtf8(out.constData(), out.size()).toUtf8() == out, "what is written is UTF-8");
+    require(out.size() <= most, "what is written is in proportion to what was read");
+}
+
+/** Parts of every kind, for a document that came without any. */
+static MmsMessage companions()
+{
+    MmsMessage message;
+    message.parts = {
+        {QStringLiteral("a"), {}, {},                 {},   QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)},
+        {QStringLiteral("b"),                   {},   {}, {}, "Hel\tlo \xe2\x80\xae\xd7\xa9"                                        },
+        {QStringLiteral("c"),                   {},   {}, {}, "#!AMR\n\x3c\x91"}
+    };
+    return message;
+}
+
+static QByteArray written(const std::function<void(QIODevice &)> &write)
+{
+    QBuffer out;
+    out.open(QIODevice::WriteOnly);
+    write(out);
+    return out.data();
+}
+
+static void runCommands(Message &message, qint64 size)
+{
+    const qint64 most = 4096 + 64 * size;
+    requireOutput(written([&](QIODevice &out) { show(message, out); }), most);
+    requireOutput(written([&](QIODevice &out) { render(message, out); }), most);
+    bool found = false;
+    const QByteArray findings = written([&](QIODevice &out) { found = check(message, {}, out); });
+    requireOutput(findings, most);
+    require(found == !findings.isEmpty() && (!found || findings.endsWith("]\n")), "a finding is a line");
+    bool drawn = false;
+    const QByteArray picture = written([&](QIODevice &out) { drawn = storyboard(message, out); });
+    requireOutput(picture, 4096 + 1024 * size);
+    require(drawn && picture.endsWith("</svg>\n"), "the picture is whole");
+}
+
+/** Whatever the file: a message as it is sent, or a SMIL part with or without others. */
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    // Not copied: the fuzzer's bytes have nothing behind them that could be read by mistake.
+    const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), QByteArray::size_type(size));
+    takeApart(bytes);
+
+    Message message;
+    message.file = QStringLiteral("-");
+    const QString problem = readBytes(bytes, QString(), SmilParser::ClockDurations, message);
+    require(!problem.contains(QLatin1Char('\n')) && (problem.isEmpty() || problem.startsWith(QLatin1Char('-'))),
+            "a problem is one line");
+    if (problem.isEmpty()) {
+        runCommands(message, qint64(size));
+        if (!message.hasParts) {
+            message.parts = Parts::ofMessage(companions());
+            message.hasParts = true;
+            runCommands(message, qint64(size));
+        }
+    }
     return 0;
 }

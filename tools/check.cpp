@@ -109,8 +109,7 @@ public:
 
     QList<Finding> findings()
     {
-        const QDomDocument dom = readDom(message.bytes);
-        const QDomElement smil = dom.documentElement();
+        const QDomElement smil = message.dom.documentElement();
         walk(smil, QStringLiteral("smil"));
         checkLayout(smil, message.document.header.layout);
         checkRegions();

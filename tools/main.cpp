@@ -188,8 +188,11 @@ static int run(const Command &command, const QCommandLineParser &options)
     const QString folder = valueOf(command, options, QStringLiteral("parts"));
     for (const QString &file : files) {
         Message message;
-        const bool well =
-            readMessage(file, folder, readOptions(command, options), message) && run(command, options, message, out);
+        const QString problem = readMessage(file, folder, readOptions(command, options), message);
+        if (!problem.isEmpty()) {
+            complain(problem);
+        }
+        const bool well = problem.isEmpty() && run(command, options, message, out);
         if (!complainOfParts(message, folder) || !well) {
             status = Failure;
         }
@@ -229,6 +232,14 @@ static QString problemWith(const Command &command, const QCommandLineParser &opt
         }
     }
     return QString();
+}
+
+/** What the library warns of is told by its outcome. */
+static void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtDebugMsg) {
+        complain(text.trimmed());
+    }
 }
 
 /** All names and all output are UTF-8. Where the locale is of another encoding, Qt 6 says so in four lines at every
@@ -285,6 +296,7 @@ int main(int argc, char *argv[])
     if (!problem.isEmpty()) {
         return badUsage(problem);
     }
+    qInstallMessageHandler(handleMessage);
     MMSLogger::qdebugEnabled = parser.isSet(QStringLiteral("debug"));
     return run(*command, parser);
 }

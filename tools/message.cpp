@@ -6,9 +6,6 @@
 #include "text.h"
 
 #include <QtCore/QFile>
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-#include <QtCore/QStringConverter>
-#endif
 
 #include <algorithm>
 #include <cstdio>
@@ -19,15 +16,9 @@ static const int mebibyte = 1024 * 1024;
 static const int largestPresentation = mebibyte;
 static const int largestMessage = 8 * mebibyte;
 
-static QString lastWarning;
-
-static void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+static QString problemOf(const QString &file, const QString &problem)
 {
-    if (type == QtDebugMsg) {
-        complain(text.trimmed());
-    } else {
-        lastWarning = text;
-    }
+    return file + QLatin1String(": ") + problem;
 }
 
 /** Reads up to @p size bytes in all. */
@@ -41,7 +32,7 @@ static void readUpTo(QFile &file, int size, QByteArray &bytes)
     } while (!more.isEmpty());
 }
 
-static bool readFile(const QString &name, QByteArray &bytes)
+static QString readFile(const QString &name, QByteArray &bytes)
 {
     QFile file(name);
     const bool opened =
@@ -55,60 +46,31 @@ static bool readFile(const QString &name, QByteArray &bytes)
         }
     }
     if (!opened || file.error() != QFileDevice::NoError) {
-        return complainOf(name, file.errorString());
+        return problemOf(name, file.errorString());
     }
-    return bytes.size() <= largest || complainOf(name, QStringLiteral("larger than %1 MiB").arg(largest / mebibyte));
+    return bytes.size() <= largest ? QString()
+                                   : problemOf(name, QStringLiteral("larger than %1 MiB").arg(largest / mebibyte));
 }
 
 /** Finds the SMIL part and its companions in what was read. */
-static bool findParts(const QString &folder, Message &message)
+static QString findParts(const QString &folder, Message &message)
 {
     QString problem;
     if (isMms(message.bytes)) {
         problem = decodeMms(message.bytes, message.mms);
         if (!problem.isEmpty()) {
-            return complainOf(message.file, problem);
+            return problemOf(message.file, problem);
         }
         message.parts = Parts::ofMessage(message.mms);
         message.bytes = message.mms.parts.at(message.mms.smil).data;
         if (message.bytes.size() > largestPresentation) {
-            return complainOf(message.file, QStringLiteral("the SMIL part is larger than 1 MiB"));
+            return problemOf(message.file, QStringLiteral("the SMIL part is larger than 1 MiB"));
         }
     } else if (!folder.isEmpty()) {
         message.parts = Parts::ofFolder(folder, message.file, problem);
     }
     message.hasParts = message.mms.smil >= 0 || !folder.isEmpty();
-    return problem.isEmpty() || complainOf(folder, problem);
-}
-
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-/** The library reads U+FFFD for a surrogate without the other half; some versions of Qt crash on it. */
-static void replaceUnpaired(QString &text)
-{
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text.at(i).isHighSurrogate() && i + 1 < text.size() && text.at(i + 1).isLowSurrogate()) {
-            ++i;
-        } else if (text.at(i).isSurrogate()) {
-            text[i] = QChar::ReplacementCharacter;
-        }
-    }
-}
-#endif
-
-QDomDocument readDom(const QByteArray &bytes)
-{
-    QDomDocument dom;
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const auto encoding = QStringConverter::encodingForData(bytes, u'<');
-    if (encoding && *encoding != QStringConverter::Utf8) {
-        QString text = QStringDecoder(*encoding)(bytes);
-        replaceUnpaired(text);
-        dom.setContent(text);
-        return dom;
-    }
-#endif
-    dom.setContent(bytes);
-    return dom;
+    return problem.isEmpty() ? QString() : problemOf(folder, problem);
 }
 
 /** Whether the input begins as XML does in any encoding: with "<", behind nothing but a byte order mark and blanks. */
@@ -119,36 +81,48 @@ static bool looksLikeXml(const QByteArray &bytes)
     return first == bytes.cend() || *first == '<';
 }
 
-static QString missingElement(SmilParser::Outcome outcome, const QByteArray &bytes)
+static QString missingElement(SmilParser::Outcome outcome, const QDomDocument &dom)
 {
-    if (outcome != SmilParser::NoSmil) {
-        return lastWarning;
+    switch (outcome) {
+    case SmilParser::NoSmil:
+        return QStringLiteral("Fail to find SMIL document! The root element is %1, not \"smil\".")
+            .arg(quoted(dom.documentElement().tagName().left(40)));
+    case SmilParser::NoHead:
+        return QStringLiteral("Fail to find SMIL head!");
+    default:
+        return QStringLiteral("Fail to find SMIL body!");
     }
-    const QString root = readDom(bytes).documentElement().tagName();
-    return lastWarning + QStringLiteral(" The root element is %1, not \"smil\".").arg(quoted(root.left(40)));
 }
 
-static bool parse(SmilParser::ReadOptions options, Message &message)
+static QString parse(SmilParser::ReadOptions options, Message &message)
 {
-    lastWarning.clear();
     SmilParser parser(message.bytes);
     SmilParser::Outcome outcome;
     QString error;
     int line = 0;
     int column = 0;
     message.document = parser.parse(options, &outcome, &error, &line, &column);
+    message.dom = parser.dom();
     if (outcome == SmilParser::NotWellFormed) {
         const QString what = looksLikeXml(message.bytes) ? QString() : QStringLiteral("this is no XML: ");
-        return complainOf(QStringLiteral("%1:%2:%3").arg(message.file).arg(line).arg(column), what + error);
+        return problemOf(QStringLiteral("%1:%2:%3").arg(message.file).arg(line).arg(column), what + error);
     }
-    return lastWarning.isEmpty() || complainOf(message.file, missingElement(outcome, message.bytes));
+    return outcome == SmilParser::Complete ? QString() : problemOf(message.file, missingElement(outcome, message.dom));
 }
 
-bool readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message)
+QString readBytes(const QByteArray &bytes, const QString &folder, SmilParser::ReadOptions options, Message &message)
 {
-    qInstallMessageHandler(handleMessage);
+    message.bytes = bytes;
+    const QString problem = findParts(folder, message);
+    return problem.isEmpty() ? parse(options, message) : problem;
+}
+
+QString readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message)
+{
     message.file = file;
-    return readFile(file, message.bytes) && findParts(folder, message) && parse(options, message);
+    QByteArray bytes;
+    const QString problem = readFile(file, bytes);
+    return problem.isEmpty() ? readBytes(bytes, folder, options, message) : problem;
 }
 
 bool complainOfParts(const Message &message, const QString &folder)

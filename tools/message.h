@@ -14,6 +14,7 @@ struct Message {
     QString file;
     QByteArray bytes; ///< of the SMIL part alone
     SmilDocument document;
+    QDomDocument dom; ///< what the library read it from, with the lines and all that the model leaves out
     MmsMessage mms; ///< without parts when the file is no message as it is sent
     bool hasParts = false;
     Parts parts;
@@ -21,16 +22,16 @@ struct Message {
 
 /**
  * Reads @p file ("-" is standard input), a SMIL part or a message as it is sent, into @p message, with the library's @p
- * options. The other parts are those of the message, or else the files in @p folder unless that is empty. If the SMIL
- * cannot be read, is not well formed or lacks smil, head or body, or if the folder cannot be read, says so in one line
- * on standard error and returns false.
+ * options. The other parts are those of the message, or else the files in @p folder unless that is empty. Returns a
+ * line that says why if the SMIL cannot be read, is not well formed or lacks smil, head or body, or if the folder
+ * cannot be read; or else nothing.
  */
-bool readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message);
+QString readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message);
+
+/** The same of bytes that have been read; @p message has its file already. */
+QString readBytes(const QByteArray &bytes, const QString &folder, SmilParser::ReadOptions options, Message &message);
 
 /** Says on standard error which parts could not be read when they were needed. Returns whether there was none. */
 bool complainOfParts(const Message &message, const QString &folder);
-
-/** The DOM of bytes that the library has found well formed and harmless, with the lines that the model lacks. */
-QDomDocument readDom(const QByteArray &bytes);
 
 #endif
