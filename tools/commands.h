@@ -11,8 +11,11 @@
 /** Writes the model of the message to @p out, as an indented outline. */
 void show(const Message &message, QIODevice &out);
 
-/** Writes the model to @p out as indented XML, the attributes of an element always in the same order. */
-void render(const Message &message, QIODevice &out);
+/**
+ * Writes the model to @p out as indented XML, the attributes of an element always in the same order. The message's DOM
+ * is dropped.
+ */
+void render(Message &message, QIODevice &out);
 
 /**
  * Draws the message as a picture in SVG, with the parts that it has: a frame for each thing that plays by itself.

@@ -29,14 +29,16 @@ public:
         QByteArray data;
         QString type; ///< by its content, such as "image/png"
         Kind kind = Unread;
-        QString problem; ///< why it could not be read, to be written after its name; then it stays Unread
+        QString problem; ///< why it could not be read (a link by now, too large), to be written after its name
     };
 
     /**
      * The files directly in the folder; no links, no devices and the like. @p smil is the file that the presentation
-     * was read from, wherever that is. If the folder cannot be read, @p problem says why, and there are no parts.
+     * was read from, wherever that is. If the folder cannot be read, or has more than 10,000 files, @p problem says
+     * so, and there are no parts. A file of more than 8 MiB is not read, nor one that makes it more than 64 MiB in all.
      */
     static Parts ofFolder(const QString &folder, const QString &smil, QString &problem);
+    /** Those of a message as it is sent, with their data; no bound is needed but that of the message. */
     static Parts ofMessage(const MmsMessage &message);
 
     int size() const { return int(m_parts.size()); } // never many: both kinds have a limit
@@ -52,7 +54,7 @@ public:
      */
     int find(const QString &src) const;
 
-    /** The part with its data, which is read when it is first asked for. */
+    /** The part with its data and kind, which are looked at when they are first asked for. */
     const Part &read(int part);
 
 private:

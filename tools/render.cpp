@@ -24,8 +24,10 @@ static void writeElement(QXmlStreamWriter &writer, const QDomElement &element)
     writer.writeEndElement();
 }
 
-void render(const Message &message, QIODevice &out)
+void render(Message &message, QIODevice &out)
 {
+    // Two trees of a large message take more memory than all else together.
+    message.dom = QDomDocument();
     SmilParser parser(message.document);
     QString xml;
     QXmlStreamWriter writer(&xml);

@@ -112,20 +112,28 @@ static void showLayout(Outline &outline, const SmilLayout &layout)
     }
 }
 
+/** A header may be as long as a message, and takes much more memory than that when it is escaped. */
+static QString header(const QString &text)
+{
+    return shortened(text, 65536);
+}
+
 static void showMessage(Outline &outline, const MmsMessage &message)
 {
-    outline.text(1, QLatin1String("from"), message.from);
+    outline.text(1, QLatin1String("from"), header(message.from));
     for (const QString &receiver : message.to) {
-        outline.text(1, QLatin1String("to"), receiver);
+        outline.text(1, QLatin1String("to"), header(receiver));
     }
-    outline.text(1, QLatin1String("subject"), message.subject);
+    outline.text(1, QLatin1String("subject"), header(message.subject));
     if (message.date.isValid()) {
         outline.line(1, QLatin1String("date ") + message.date.toString(Qt::ISODate));
     }
     for (const MmsPart &part : message.parts) {
         const QString name = part.name.isEmpty() ? part.location.isEmpty() ? part.id : part.location : part.name;
-        outline.line(
-            1, QStringLiteral("part %1, %2, %3 bytes").arg(quoted(name), printable(part.type)).arg(part.data.size()));
+        outline.line(1,
+                     QStringLiteral("part %1, %2, %3 bytes")
+                         .arg(quoted(header(name)), printable(header(part.type)))
+                         .arg(part.data.size()));
     }
 }
 

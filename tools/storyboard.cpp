@@ -56,9 +56,14 @@ struct Label {
     bool isId;
 };
 
+struct Drawn {
+    int part;
+    QString name;
+};
+
 /** What plays in one region. */
 struct Content {
-    QList<const SmilRef *> drawn; ///< whose parts are drawn
+    QList<Drawn> drawn; ///< whose parts are drawn
     QStringList names; ///< of all others
     bool missing = false; ///< whether one of these has no part
 };
@@ -110,23 +115,67 @@ static bool isDrawn(Parts::Kind kind)
     return kind == Parts::Picture || kind == Parts::Text || kind == Parts::Xml;
 }
 
-static void sort(const SmilRef &ref, const Screen &screen, Message &message, Picture &picture)
+namespace
 {
-    const int region = screen.indexes.value(ref.region, -1);
-    const QString id = quoted(elided(shortened(ref.region, 40), frameWidth / 3));
-    const int part = message.parts.find(ref.src);
-    const QString missing = message.hasParts && part < 0 ? QStringLiteral(", missing") : QString();
-    if (ref.type == SmilRef::Audio || ref.region.isEmpty()) {
-        picture.below.append(lineBelow(nameOf(ref), missing));
-    } else if (region < 0) {
-        picture.below.append(lineBelow(nameOf(ref), missing + QLatin1String(", no region ") + id));
-    } else if (screen.areas.at(region).isEmpty()) {
-        picture.below.append(lineBelow(nameOf(ref), missing + QLatin1String(", off screen in ") + id));
-    } else if (part >= 0 && isDrawn(message.parts.read(part).kind)) {
-        picture.inRegions[region].drawn.append(&ref);
+/** Where what plays is shown, and how. */
+struct Place {
+    int region = -1; ///< -1: below the frame
+    QString name;
+    int part = -1; ///< that is drawn
+    bool missing = false;
+};
+
+/** Each is looked for once, however many frames show it: both its name and the names of parts may be long. */
+class Places
+{
+public:
+    Places(const Screen &layout, Message &of)
+        : screen(layout)
+        , message(of)
+    {
+    }
+
+    const Place &of(const SmilRef *ref)
+    {
+        const auto found = known.constFind(ref);
+        return found != known.constEnd() ? *found : *known.insert(ref, find(*ref));
+    }
+
+private:
+    Place find(const SmilRef &ref)
+    {
+        const int region = screen.indexes.value(ref.region, -1);
+        const QString id = quoted(elided(shortened(ref.region, 40), frameWidth / 3));
+        const int part = message.parts.find(ref.src);
+        const QString missing = message.hasParts && part < 0 ? QStringLiteral(", missing") : QString();
+        if (ref.type == SmilRef::Audio || ref.region.isEmpty()) {
+            return {-1, lineBelow(nameOf(ref), missing)};
+        }
+        if (region < 0) {
+            return {-1, lineBelow(nameOf(ref), missing + QLatin1String(", no region ") + id)};
+        }
+        if (screen.areas.at(region).isEmpty()) {
+            return {-1, lineBelow(nameOf(ref), missing + QLatin1String(", off screen in ") + id)};
+        }
+        const bool drawn = part >= 0 && isDrawn(message.parts.read(part).kind);
+        return {region, nameOf(ref), drawn ? part : -1, !missing.isEmpty()};
+    }
+
+    const Screen &screen;
+    Message &message;
+    QHash<const SmilRef *, Place> known;
+};
+}
+
+static void sort(const Place &place, Picture &picture)
+{
+    if (place.region < 0) {
+        picture.below.append(place.name);
+    } else if (place.part >= 0) {
+        picture.inRegions[place.region].drawn.append({place.part, place.name});
     } else {
-        picture.inRegions[region].names.append(nameOf(ref));
-        picture.inRegions[region].missing |= !missing.isEmpty();
+        picture.inRegions[place.region].names.append(place.name);
+        picture.inRegions[place.region].missing |= place.missing;
     }
 }
 
@@ -168,11 +217,11 @@ static void label(const QRectF &region, const QString &id, const Content &conten
     }
 }
 
-static Picture pictureOf(const Frame &frame, const Screen &screen, Message &message)
+static Picture pictureOf(const Frame &frame, const Screen &screen, Places &places)
 {
     Picture picture;
     for (const SmilRef *const ref : frame.media) {
-        sort(*ref, screen, message, picture);
+        sort(places.of(ref), picture);
     }
     for (auto region = picture.inRegions.cbegin(); region != picture.inRegions.cend(); ++region) {
         label(screen.areas.at(region.key()), screen.ids.at(region.key()), region.value(), picture);
@@ -221,14 +270,13 @@ public:
 
     void draw(const Content &content, int region)
     {
-        for (const SmilRef *const ref : content.drawn) {
-            const int part = message.parts.find(ref->src);
-            const QString id = QStringLiteral("p%1-%2").arg(part).arg(region);
+        for (const Drawn &each : content.drawn) {
+            const QString id = QStringLiteral("p%1-%2").arg(each.part).arg(region);
             if (drawn.contains(id)) {
                 svg.reuse(id);
             } else {
                 drawn.insert(id);
-                draw(message.parts.read(part), region, nameOf(*ref), id);
+                draw(message.parts.read(each.part), region, each.name, id);
             }
         }
         if (content.missing && content.drawn.isEmpty()) {
@@ -324,10 +372,11 @@ bool storyboard(Message &message, QIODevice &out)
 {
     const Screen screen(message.document.header.layout);
     const QList<Frame> frames = framesOf(message.document.body.root);
+    Places places(screen, message);
     QList<Picture> pictures;
     double lines = 0;
     for (const Frame &frame : frames) {
-        pictures.append(pictureOf(frame, screen, message));
+        pictures.append(pictureOf(frame, screen, places));
         lines = qMax<double>(lines, pictures.last().below.size());
     }
     const double cellWidth = frameWidth + margin;

@@ -37,15 +37,24 @@ static QString escape(const QString &text, Escape escaped)
     result.reserve(text.size());
     const std::u32string characters = text.toStdU32String();
     for (size_t i = 0; i < characters.size(); ++i) {
-        result += isObeyedOrHidden(characters[i]) && !joins(characters, i) ? escaped(characters[i])
-                                                                           : QString::fromUcs4(&characters[i], 1);
+        const char32_t c = characters[i];
+        if (isObeyedOrHidden(c) && !joins(characters, i)) {
+            result += escaped(c);
+        } else if (QChar::requiresSurrogates(c)) {
+            result += QChar(QChar::highSurrogate(c));
+            result += QChar(QChar::lowSurrogate(c));
+        } else {
+            result += QChar(ushort(c));
+        }
     }
     return result;
 }
 
 QString printable(const QString &text)
 {
-    return escape(text, [](uint c) { return QStringLiteral("\\u{%1}").arg(c, 4, 16, QLatin1Char('0')); });
+    return escape(text, [](uint c) {
+        return QLatin1String("\\u{") + QString::number(c, 16).rightJustified(4, QLatin1Char('0')) + QLatin1Char('}');
+    });
 }
 
 QString printableXml(const QString &text)
@@ -96,16 +105,19 @@ double width(const QString &text)
 
 QString elided(const QString &text, double most)
 {
-    if (width(text) <= most) {
+    // What is longer than this does not fit, whatever it is made of, and need not be looked at.
+    const auto enough = qsizetype(qMax(0.0, most) / narrowestLetter) + 1;
+    if (text.size() <= enough && width(text) <= most) {
         return text;
     }
     const auto dot = text.lastIndexOf(QLatin1Char('.'));
     const QString end = QChar(0x2026) + (dot > 0 && text.size() - dot <= 6 ? text.mid(dot + 1) : QString());
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    const QString beginning = text.left(enough);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, beginning);
     auto kept = finder.position();
     double used = width(end);
     while (finder.toNextBoundary() > 0) {
-        used += width(text.mid(kept, finder.position() - kept));
+        used += width(beginning.mid(kept, finder.position() - kept));
         if (used > most) {
             break;
         }
