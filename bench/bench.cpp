@@ -15,8 +15,6 @@
 #include <QtCore/QElapsedTimer>
 
 #include <benchmark/benchmark.h>
-#include <libxml/xmlversion.h>
-#include <pugixml.hpp>
 
 #include <cstdio>
 #include <memory>
@@ -95,8 +93,6 @@ static int runBenchmarks(int argc, char **argv)
     }
     benchmark::AddCustomContext("qt", qVersion());
     benchmark::AddCustomContext("compiler", __VERSION__);
-    benchmark::AddCustomContext("libxml2", LIBXML_DOTTED_VERSION);
-    benchmark::AddCustomContext("pugixml", QByteArray::number(PUGIXML_VERSION / 1000.0).toStdString());
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 2;

@@ -4,7 +4,8 @@
 #include "contenders.h"
 
 #include "outline.h"
-#include "peers.h"
+#include "readeralone.h"
+#include "xmlstream.h"
 
 #include <cstdio>
 
@@ -13,12 +14,10 @@ static void floorParse(const Message &message, Made &made)
     QBuffer buffer;
     buffer.setData(message.text);
     buffer.open(QIODevice::ReadOnly); // Qt 6 would warn of a closed one
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    made.dom.setContent(&buffer, QDomDocument::ParseOption::Default);
-#else
     QString error;
-    made.dom.setContent(&buffer, &error);
-#endif
+    int line = 0;
+    int column = 0;
+    readAlone(buffer, made.dom, error, line, column);
 }
 
 static void parse(const Message &message, Made &made)
@@ -81,8 +80,6 @@ const std::vector<Contender> contenders = {
     {"text",        slidesModel, text                        },
     {"model",       slidesText,  keepModel<readWithLibrary>  }, // the parser is dropped, and its DOM with it
     {"xmlstream",   slidesText,  keepModel<readWithXmlStream>},
-    {"libxml2",     slidesText,  keepModel<readWithLibxml2>  },
-    {"pugixml",     slidesText,  keepModel<readWithPugixml>  },
 };
 
 static QString treeOf(const SmilDocument &model)

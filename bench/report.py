@@ -25,7 +25,7 @@ CHART = pathlib.Path("docs/figures/performance.svg")
 SIZES = (3, 1000, 100000)
 STRAIGHT_SIZES = (100, 1000, 10000, 100000)
 REPETITIONS = 8
-READERS = {"parse": "smilparser", "xmlstream": "QXmlStreamReader", "libxml2": "libxml2", "pugixml": "pugixml"}
+READERS = {"parse": "smilparser", "xmlstream": "QXmlStreamReader"}
 HOLDERS = {"model": "The model", "floor-parse": "The DOM", "parse": "A parser, which holds both"}
 
 
@@ -115,8 +115,7 @@ def machine(contexts):
     valgrind = output("valgrind", "--version").strip().replace("-", " ")
     system = platform.freedesktop_os_release()["PRETTY_NAME"]
     return (f"{processor}, {os.cpu_count()} cores, {platform.machine()}; {system}; Qt {' and Qt '.join(versions)}; "
-            f"GCC {context['compiler']}, RelWithDebInfo (`-O2 -g -DNDEBUG`); libxml2 {context['libxml2']}, "
-            f"pugixml {context['pugixml']}; {valgrind}.\n")
+            f"GCC {context['compiler']}, RelWithDebInfo (`-O2 -g -DNDEBUG`); {valgrind}.\n")
 
 
 def fill(page, name, content):

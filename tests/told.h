@@ -6,6 +6,7 @@
 
 #include "messages.h"
 #include "outline.h"
+#include "readeralone.h"
 
 #include <QtCore/QThread>
 
@@ -52,16 +53,7 @@ inline QString toldByReaderAlone(QByteArray input)
     int line = 0;
     int column = 0;
     SmilParser parser((SmilDocument()));
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    const auto result = dom.setContent(&buffer, QDomDocument::ParseOption::Default);
-    const bool wellFormed = bool(result);
-    error = result.errorMessage;
-    line = int(result.errorLine);
-    column = int(result.errorColumn);
-#else
-    const bool wellFormed = dom.setContent(&buffer, &error, &line, &column);
-#endif
-    if (!wellFormed) {
+    if (!readAlone(buffer, dom, error, line, column)) {
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", qPrintable(error), line, column);
     } else if (QDomElement smil = dom.firstChildElement(QStringLiteral("smil")); smil.isNull()) {
         qWarning("Fail to find SMIL document!");
