@@ -27,7 +27,8 @@ inline const std::vector<Piece> &contents()
         for (const QByteArray &text :
              divided("<x>~<x>~</x>~</x>~<x/>~<x/>~<x></x>~t~\n~ ~\xc3\xa9~\xf0\x9f\x8c\x8a~<!---->~<!-- <x>' -->~"
                      "<![CDATA[]]>~<![CDATA[</x>]]>~<?p?>~<?p <x>\"?>~&a;~&\xc3\xa9;~&lt;~&#65;~>~'~"
-                     "<par/>~<seq/>~<img src='a' region=\"b\"/>~<par dur='2s'><text src='c'/></par>")) {
+                     "<par/>~<seq/>~<img src='a' region=\"b\"/>~<par dur='2s'><text src='c'/></par>~"
+                     "<img begin='0:0:0.1' end='0:0:9.1' dur='0:0:1.1'/>")) {
             pieces.push_back({text, text == "<x>" ? 1 : text == "</x>" ? -1 : 0});
         }
         return pieces;
