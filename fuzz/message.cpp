@@ -23,7 +23,7 @@ static void takeApart(const QByteArray &bytes)
 
     const QDateTime &date = message.date;
     require(date.isNull() || (date.isValid() && date.date().year() < 2107), "the date can be written");
-    Parts parts = Parts::ofMessage(message);
+    Parts parts(message);
     qint64 total = 0;
     for (int i = 0; i < parts.size(); ++i) {
         const MmsPart &part = message.parts.at(i);
@@ -37,7 +37,7 @@ static void takeApart(const QByteArray &bytes)
         require(isFound(parts.at(i).name, false), "what a part is called finds a part");
         require(part.id.isEmpty() || isFound(QLatin1String("cid:<") + part.id + QLatin1Char('>'), false),
                 "a reference by the identifier finds a part");
-        require(parts.read(i).kind != Parts::Unread, "a part has a kind");
+        require(parts.read(i).content.kind != PartKind::Unread, "a part has a kind");
     }
     require(total <= bytes.size(), "there is no more data than there was");
 }
@@ -95,15 +95,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     takeApart(bytes);
 
     Message message;
-    message.file = QStringLiteral("-");
-    const QString problem = readBytes(bytes, QString(), SmilParser::ClockDurations, message);
-    require(!problem.contains(QLatin1Char('\n')) && (problem.isEmpty() || problem.startsWith(QLatin1Char('-'))),
+    const Problem problem = readBytes(bytes, QStringLiteral("-"), QString(), SmilParser::ClockDurations, message);
+    require(!problem.toString().contains(QLatin1Char('\n')) && problem.isNone() == problem.text.isEmpty(),
             "a problem is one line");
-    if (problem.isEmpty()) {
+    if (problem.isNone()) {
         runCommands(message, qint64(size));
-        if (!message.hasParts) {
-            message.parts = Parts::ofMessage(companions());
-            message.hasParts = true;
+        if (!message.parts.areKnown()) {
+            message.parts = Parts(companions());
             runCommands(message, qint64(size));
         }
     }

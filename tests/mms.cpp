@@ -62,7 +62,7 @@ static QByteArray greeting()
         + part(text("Application/SMIL; charset=utf-8") + "\xC0" + text("\"<start>\""), slides);
 }
 
-Q_DECLARE_METATYPE(Parts::Kind)
+Q_DECLARE_METATYPE(PartKind)
 
 class Mms : public QObject
 {
@@ -220,8 +220,8 @@ void Mms::srcOfMessage()
     }
     read.smil = 0;
     QFETCH(QString, src);
-    QTEST(meaning(Parts::ofMessage(read), src), "part");
-    QCOMPARE(Parts::ofMessage(read).smil(), 0);
+    QTEST(meaning(Parts(read), src), "part");
+    QCOMPARE(Parts(read).smil(), 0);
 }
 
 /** Writes a file, of that size if one is given. */
@@ -254,7 +254,7 @@ void Mms::srcOfFolder()
     QCOMPARE(mkfifo(path("pipe").constData(), 0600), 0);
 
     QString problem;
-    Parts parts = Parts::ofFolder(folder.path(), folder.filePath(QStringLiteral("a")), problem);
+    Parts parts(Folder(folder.path(), problem), folder.filePath(QStringLiteral("a")));
     QCOMPARE(problem, QString());
     QCOMPARE(parts.size(), 6);
     QCOMPARE(parts.at(parts.smil()).name, QStringLiteral("a"));
@@ -276,7 +276,7 @@ void Mms::onlyFilesOfTheFolder()
         QVERIFY(write(folder.filePath(QStringLiteral("4%1").arg(i)), limit));
     }
     QString problem;
-    Parts parts = Parts::ofFolder(folder.path(), QString(), problem);
+    Parts parts(Folder(folder.path(), problem), QString());
     QVERIFY(QFile::remove(file) && QFile::link(QStringLiteral("3"), file));
     QVERIFY(QFile::remove(pipe) && mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0);
     QCOMPARE(parts.read(0).problem, QStringLiteral("cannot be read"));
@@ -288,27 +288,27 @@ void Mms::onlyFilesOfTheFolder()
     }
     QCOMPARE(parts.read(11).problem, QStringLiteral("would be more than 64 MiB with the files before it"));
     QCOMPARE(parts.smil(), -1);
-    QCOMPARE(Parts::ofFolder(QStringLiteral("/dev"), QString(), problem).find(QStringLiteral("zero")), -1);
+    QCOMPARE(Folder(QStringLiteral("/dev"), problem).files().indexOf(QStringLiteral("zero")), -1);
     QCOMPARE(problem, QString());
-    QCOMPARE(Parts::ofFolder(file, QString(), problem).size(), 0);
+    QCOMPARE(Folder(file, problem).files().size(), 0);
     QCOMPARE(problem, QStringLiteral("is not a folder that can be read"));
 }
 
 void Mms::kinds_data()
 {
     QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<Parts::Kind>("kind");
-    QTest::newRow("PNG") << png << Parts::Picture;
-    QTest::newRow("WebP") << QByteArray("RIFF\x1A\x00\x00\x00WEBPVP8L", 16) << Parts::Picture;
-    QTest::newRow("SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>") << Parts::OtherPicture;
-    QTest::newRow("text") << QByteArray("Hello") << Parts::Text;
-    QTest::newRow("empty") << QByteArray() << Parts::Text;
-    QTest::newRow("Latin-1") << QByteArray("Gru\xDF") << Parts::Text;
-    QTest::newRow("UTF-16") << QByteArray("\xFF\xFEH\x00i\x00", 6) << Parts::Text;
-    QTest::newRow("SMIL") << slides << Parts::Xml;
-    QTest::newRow("AMR") << QByteArray("#!AMR\n\x3C\x91") << Parts::Audio;
-    QTest::newRow("3GP") << QByteArray::fromHex("000000186674797033677034") << Parts::Video;
-    QTest::newRow("anything") << QByteArray("\x00\x01\x02\x03", 4) << Parts::Other;
+    QTest::addColumn<PartKind>("kind");
+    QTest::newRow("PNG") << png << PartKind::Picture;
+    QTest::newRow("WebP") << QByteArray("RIFF\x1A\x00\x00\x00WEBPVP8L", 16) << PartKind::Picture;
+    QTest::newRow("SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>") << PartKind::OtherPicture;
+    QTest::newRow("text") << QByteArray("Hello") << PartKind::Text;
+    QTest::newRow("empty") << QByteArray() << PartKind::Text;
+    QTest::newRow("Latin-1") << QByteArray("Gru\xDF") << PartKind::Text;
+    QTest::newRow("UTF-16") << QByteArray("\xFF\xFEH\x00i\x00", 6) << PartKind::Text;
+    QTest::newRow("SMIL") << slides << PartKind::Xml;
+    QTest::newRow("AMR") << QByteArray("#!AMR\n\x3C\x91") << PartKind::Audio;
+    QTest::newRow("3GP") << QByteArray::fromHex("000000186674797033677034") << PartKind::Video;
+    QTest::newRow("anything") << QByteArray("\x00\x01\x02\x03", 4) << PartKind::Other;
 }
 
 void Mms::kinds()
@@ -316,7 +316,7 @@ void Mms::kinds()
     QFETCH(QByteArray, data);
     MmsMessage read;
     read.parts.append({QStringLiteral("photo.png"), QString(), QString(), QStringLiteral("image/png"), data});
-    QTEST(Parts::ofMessage(read).read(0).kind, "kind");
+    QTEST(Parts(read).read(0).content.kind, "kind");
 }
 
 QTEST_APPLESS_MAIN(Mms)

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "escaping.h"
+
+#include <string>
+
+static bool isObeyedOrHidden(char32_t c)
+{
+    switch (QChar::category(c)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return QChar::isNonCharacter(c);
+    }
+}
+
+/** Whether a joiner stands between two characters that show, as in Persian words and many emoji. */
+static bool joins(const std::u32string &text, size_t i)
+{
+    const auto shows = [&text](size_t at) {
+        return at < text.size() && !isObeyedOrHidden(text[at]) && !QChar::isSpace(text[at]);
+    };
+    return (text[i] == 0x200c || text[i] == 0x200d) && i > 0 && shows(i - 1) && shows(i + 1);
+}
+
+template<typename Escape>
+static QString escape(const QString &text, Escape escaped)
+{
+    QString result;
+    result.reserve(text.size());
+    const std::u32string characters = text.toStdU32String();
+    for (size_t i = 0; i < characters.size(); ++i) {
+        const char32_t c = characters[i];
+        if (isObeyedOrHidden(c) && !joins(characters, i)) {
+            result += escaped(c);
+        } else if (QChar::requiresSurrogates(c)) {
+            result += QChar(QChar::highSurrogate(c));
+            result += QChar(QChar::lowSurrogate(c));
+        } else {
+            result += QChar(ushort(c));
+        }
+    }
+    return result;
+}
+
+QString printable(const QString &text)
+{
+    return escape(text, [](uint c) {
+        return QLatin1String("\\u{") + QString::number(c, 16).rightJustified(4, QLatin1Char('0')) + QLatin1Char('}');
+    });
+}
+
+QString printableXml(const QString &text)
+{
+    return escape(text, [](uint c) {
+        const bool allowed = c == '\t' || c == '\n' || c == '\r' || (c >= 0x20 && c != 0xfffe && c != 0xffff);
+        return c == '\n' ? QString(QLatin1Char('\n'))
+            : allowed    ? QStringLiteral("&#x%1;").arg(c, 0, 16)
+                         : QString(QChar(QChar::ReplacementCharacter));
+    });
+}
+
+QString quoted(const QString &text)
+{
+    QString escaped = text;
+    escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
+    return QLatin1Char('"') + printable(escaped) + QLatin1Char('"');
+}
+
+QString shortened(const QString &text, int most)
+{
+    if (text.size() <= most) {
+        return text;
+    }
+    const int end = most - 1 - (text.at(most - 2).isHighSurrogate() ? 1 : 0);
+    return text.left(end) + QChar(0x2026);
+}

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_ESCAPING_H
+#define SMILTOOL_ESCAPING_H
+
+#include <QtCore/QString>
+
+/**
+ * The text with what a terminal would obey or hide (control and format characters, but no joiner inside a word) written
+ * as \u{XXXX}.
+ */
+QString printable(const QString &text);
+
+/** The same for XML: as &#xXXXX;, and U+FFFD for what XML does not allow at all. Line feeds stay. */
+QString printableXml(const QString &text);
+
+/** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
+QString quoted(const QString &text);
+
+/** At most that many characters, as QString counts them, of the text; "\u2026" is the last when some are left out. */
+QString shortened(const QString &text, int most);
+
+#endif

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_COMMANDLINE_H
+#define SMILTOOL_COMMANDLINE_H
+
+#include "command.h"
+
+/** What the tool is told to do. */
+struct CommandLine {
+    const Command *command = nullptr;
+    Arguments arguments;
+};
+
+/**
+ * Reads the command line; --help, --version and the command "help" are answered at once, and end the program. Returns
+ * what is wrong with how the tool is called, or else nothing.
+ */
+QString parse(const QStringList &words, CommandLine &line);
+
+#endif

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "command.h"
+
+Result failure(const QString &file, const QString &problem)
+{
+    return {false, {file + QLatin1String(": ") + problem}};
+}
+
+Result withMessage(const QString &file, const Arguments &arguments, SmilParser::ReadOptions options,
+                   const std::function<Result(Message &)> &use)
+{
+    Message message;
+    const Problem problem = readMessage(file, arguments.parts, options, message);
+    if (!problem.isNone()) {
+        return {false, {problem.toString()}};
+    }
+    Result result = use(message);
+    result.problems += message.parts.problems();
+    result.well = result.well && result.problems.isEmpty();
+    return result;
+}

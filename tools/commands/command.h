@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_COMMAND_H
+#define SMILTOOL_COMMAND_H
+
+#include "message.h"
+
+#include <functional>
+
+class QIODevice;
+
+/** What the command line says, but for the command. */
+struct Arguments {
+    QStringList files;
+    QString parts; ///< a folder; null if none is given, as all names here
+    QString output; ///< a file to write
+    QStringList ignored; ///< names of findings
+    bool plain = false;
+    bool keep = false;
+    bool debug = false;
+    bool help = false;
+    bool version = false;
+};
+
+/** The options that a command may have of its own. Their names are in the table of the command line. */
+enum Option { Plain = 1, Keep = 2, Output = 4, PartsFolder = 8, Ignore = 16 };
+
+/** How a command went with a file. */
+struct Result {
+    bool well = true; ///< or else the exit status is 1
+    QStringList problems; ///< lines for standard error
+};
+
+/** What the tool can do with a file. */
+struct Command {
+    const char *name;
+    const char *files; ///< that it takes: "FILE" or "FILE..."
+    int options;
+    const char *summary;
+    const char *example;
+    Result (*run)(const QString &file, const Arguments &arguments, QIODevice &out);
+};
+
+/**
+ * Reads the file and, if that is possible, does something with the message. The result says also which of the message's
+ * parts could not be read.
+ */
+Result withMessage(const QString &file, const Arguments &arguments, SmilParser::ReadOptions options,
+                   const std::function<Result(Message &)> &use);
+
+/** A failure because of a file, "FILE: problem". */
+Result failure(const QString &file, const QString &problem);
+
+#endif

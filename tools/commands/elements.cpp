@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "elements.h"
+
+#include <QtCore/QHash>
+
+static QStringList words(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+static const char timeline[] = "par seq text img audio video ref";
+
+static const struct {
+    const char *elements;
+    const char *attributes;
+    const char *first;
+    const char *all;
+} table[] = {
+    {"smil",                     "",                                          "head body",             ""      },
+    {"head",                     "id title class",                            "layout",                "meta"  },
+    {"meta",                     "id name content",                           "",                      ""      },
+    {"layout",                   "",                                          "root-layout topLayout", "region"},
+    {"root-layout topLayout",    "width height",                              "",                      ""      },
+    {"region",                   "id width height top bottom left right fit", "",                      ""      },
+    {"body par seq",             "dur",                                       "",                      timeline},
+    {"text img audio video ref", "src region",                                "",                      ""      },
+};
+
+static QHash<QString, Element> byName()
+{
+    QHash<QString, Element> result;
+    for (const auto &row : table) {
+        const QStringList names = words(row.elements);
+        for (const QString &name : names) {
+            result.insert(name, {words(row.attributes), words(row.first), words(row.all)});
+        }
+    }
+    return result;
+}
+
+const Element &elementNamed(const QString &element)
+{
+    static const QHash<QString, Element> known = byName();
+    static const Element unknown;
+    const auto found = known.constFind(element);
+    return found == known.constEnd() ? unknown : *found;
+}
+
+bool isMeasure(const QString &attribute)
+{
+    static const QStringList measures = words("width height top bottom left right dur");
+    return measures.contains(attribute);
+}

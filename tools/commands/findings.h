@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_FINDINGS_H
+#define SMILTOOL_FINDINGS_H
+
+#include <QtCore/QHash>
+#include <QtCore/QStringList>
+
+/** What may be odd in a message. The first ones matter to whom it is shown. */
+enum class Finding {
+    UnreadMeasure,
+    WrongMeasure,
+    ClockDuration,
+    UnknownRegion,
+    UnusedRegion,
+    DuplicateRegion,
+    MissingId,
+    MissingSrc,
+    EmptyTimeline,
+    MissingPart,
+    UnusedPart,
+    WrongKind,
+    Lost, ///< all that follow, which matter only to who writes the message back
+    LostRootSize,
+    MovedTopSize,
+    LostInBody,
+    LostElement,
+    LostAttribute,
+    ChangedOrder,
+};
+
+/** The names of all, in the order above: they are printed behind what is found, and can be ignored. */
+QStringList findingNames();
+
+/** What was found in a message. */
+class Findings
+{
+public:
+    /**
+     * Adds one at a line. One with the same subject is the same, found again: it stays at the line where it was found
+     * first. @p detail says more of this place.
+     */
+    void add(Finding finding, int line, const QString &subject, const QString &detail = QString());
+
+    /** A text for each, in the order of their lines, but for those whose names, or that of Lost, are in @p ignored. */
+    QStringList lines(const QString &file, const QStringList &ignored) const;
+
+private:
+    struct Entry {
+        Finding finding;
+        int line;
+        QString subject;
+        QStringList details; ///< the first few different ones
+        int count;
+    };
+
+    QList<Entry> entries;
+    QHash<QPair<int, QString>, int> indexes; ///< by finding and subject
+};
+
+#endif

@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_MEDIA_H
+#define SMILTOOL_MEDIA_H
+
+#include "captions.h"
+#include "limits.h"
+#include "svg.h"
+
+#include <QtCore/QSet>
+
+/** Draws the parts, each only once in a region: where other frames show it again, they refer to the first. */
+class Media
+{
+public:
+    Media(Svg &picture, const Screen &layout, Parts &of)
+        : svg(picture)
+        , screen(layout)
+        , parts(of)
+    {
+    }
+
+    void draw(const Shown &shown, int region);
+
+private:
+    void draw(const Parts::Part &part, int region, const QString &name, const QString &id);
+    void drawPicture(const Parts::Part &part, int region);
+    void drawText(const Parts::Part &part, const QSizeF &size);
+
+    Svg &svg;
+    const Screen &screen;
+    Parts &parts;
+    QSet<QString> drawn;
+    qint64 left = limits::pictures;
+};
+
+#endif

@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "parts.h"
+#include "contentid.h"
+
+#include <utility>
+
+void Parts::add(const QString &name, const QByteArray &data)
+{
+    Part part;
+    part.name = name;
+    part.data = data;
+    m_parts.append(part);
+}
+
+/** The first part of a name keeps it. */
+void Parts::call(int part, const QString &name)
+{
+    if (!name.isEmpty()) {
+        m_names.insert(name, m_names.value(name, part));
+        const QString folded = name.toCaseFolded();
+        m_foldedNames.insert(folded, m_foldedNames.value(folded, part));
+    }
+}
+
+Parts::Parts(const Folder &folder, const QString &smil)
+    : m_folder(folder)
+    , m_areKnown(true)
+{
+    for (const QString &name : folder.files()) {
+        call(size(), name);
+        add(name);
+    }
+    m_smil = m_names.value(nameIn(folder.path(), smil), -1);
+}
+
+Parts::Parts(const MmsMessage &message)
+    : m_areKnown(true)
+    , m_smil(message.smil)
+{
+    for (const MmsPart &part : message.parts) {
+        const QString &place = part.location.isEmpty() ? part.id : part.location;
+        add(part.name.isEmpty() ? place : part.name, part.data);
+    }
+    // What identifies one part goes before what another is merely called.
+    for (QString MmsPart::*const name : {&MmsPart::id, &MmsPart::location, &MmsPart::name}) {
+        for (int i = 0; i < size(); ++i) {
+            call(i, message.parts.at(i).*name);
+        }
+    }
+}
+
+int Parts::find(const QString &src) const
+{
+    const QString bare = bareId(src);
+    const QByteArray bytes = QByteArray::fromPercentEncoding(bare.toUtf8());
+    const QString decodedName = QString::fromUtf8(bytes.constData(), bytes.size());
+    for (const QString &name : {src, bare, decodedName}) {
+        const auto found = m_names.constFind(name);
+        if (found != m_names.constEnd()) {
+            return *found;
+        }
+    }
+    return m_foldedNames.value(decodedName.toCaseFolded(), -1);
+}
+
+const Parts::Part &Parts::read(int index)
+{
+    Part &part = m_parts[index];
+    if (part.content.kind == PartKind::Unread && part.problem.isEmpty()) {
+        if (!m_folder.path().isNull()) {
+            part.problem = m_folder.read(part.name, part.data);
+        }
+        if (part.problem.isEmpty()) {
+            part.content = recognised(part.data);
+        }
+    }
+    return part;
+}
+
+QStringList Parts::problems() const
+{
+    QStringList lines;
+    for (const Part &part : m_parts) {
+        if (!part.problem.isEmpty()) {
+            lines.append(QStringLiteral("%1/%2: %3").arg(m_folder.path(), part.name, part.problem));
+        }
+    }
+    return lines;
+}

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILTOOL_OUTPUTFILE_H
+#define SMILTOOL_OUTPUTFILE_H
+
+#include <QtCore/QString>
+
+#include <functional>
+
+class QIODevice;
+
+/** Writes to the device, and returns whether all could be written. */
+using Write = std::function<bool(QIODevice &)>;
+
+/**
+ * Calls @p write with the file @p name. A file is replaced as a whole or not at all; a device, a pipe or a descriptor
+ * (/dev/stdout) is written to. Returns why that failed, to be written after its name, or else nothing.
+ */
+QString writeFile(const QString &name, const Write &write);
+
+/** Whether both are one regular file, by whatever names; as @p input, "-" is standard input. */
+bool isSameFile(const QString &input, const QString &output);
+
+#endif
