@@ -15,8 +15,9 @@
 
 /**
  * @file
- * The whole interface of the library: the model of a presentation (SmilUnit and the records up to SmilDocument) and
- * SmilParser, which reads SMIL text into the model and renders the model as a DOM.
+ * What all hosts of the library need: the model of a presentation (SmilUnit and the records up to SmilDocument) and
+ * SmilParser, which reads SMIL text into the model, and writes the model as a DOM or as text. To show a message,
+ * smilplayback.h has more; to make one, smilcomposer.h.
  *
  * The model types are plain values. A copy shares its text and lists with the source until one of the two is changed:
  * it costs the same however much it holds, and a change to one does not show in the other. The one exception is that of
@@ -174,7 +175,8 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
 /**
  * One element of the timeline, "par" (its contents play together) or "seq" (one after another). Nested elements and
  * media are kept apart: which came before which is not recorded, and rendering writes #children before #refs. In a
- * "par" that loses nothing. In a "seq" with both, only SmilParser::dom() tells what plays first.
+ * "par" that loses nothing. In a "seq" with both, SmilParser::dom() tells what plays first, and so does SmilTimeline.
+ * The node that stands for "body", SmilBody::root, is a #Par by its #type, but plays as a "seq".
  *
  * Destroying a tree takes one call level per level of nesting; so do rendering and comparing it. A tree made by
  * SmilParser::parse() is never deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that
@@ -334,8 +336,8 @@ Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
  *
  * Threads: a parser and its DOM, with every copy of that, are used by one thread at a time; they may move from one to
  * another, as long as the two do not use them at once. Different parsers may be used at the same time. All they share
- * is the host's MMSLogger::qdebugEnabled, which they read without a lock: a host that changes it while another thread
- * is in the library makes it wait until none is. A copy of a model may go to another thread, which uses it as its own.
+ * is the host's MMSLogger::qdebugEnabled, which they read without a lock: the host changes it only while no thread is
+ * in the library. A copy of a model may go to another thread, which uses it as its own.
  *
  * Nothing is thrown except by a failing allocation inside Qt. Warnings go through qWarning(); the debug lines go
  * through qDebug(), each only while the host's MMSLogger::qdebugEnabled is true. The walks (the operations that take an
@@ -348,8 +350,8 @@ public:
      * A bound on what is read. An ordinary message is nowhere near it, nor near the others that SECURITY.md states: on
      * the attributes of an element, the length of a name and the mean nesting of the whole. parse() cuts off a document
      * where it exceeds one, and reports that it is not well formed. So it does where the document type declares
-     * anything ("["), where a reference is by something that is no name ("&@;"), and where an XML declaration is too
-     * long, names two encodings, or one that Qt does not know.
+     * anything ("["), where a reference is by something that is no name ("&@;"), and, without #DecodedText, where an
+     * XML declaration is too long, names two encodings, or one that Qt does not know.
      */
     enum Limit {
         MaxDepth = 512 ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
@@ -377,7 +379,8 @@ public:
          * The input is text that has been decoded already, as UTF-8, whatever its XML declaration says: a service that
          * hands over a QString read from a part in ISO-8859-1 is served by QString::toUtf8() and this. A byte order
          * mark at its beginning is dropped. Bytes that are no UTF-8 are, as in a document that declares UTF-8, an error
-         * with Qt 6 and U+FFFD with Qt 5. Of the declaration, only what the XML reader itself refuses is refused.
+         * with Qt 6 (though it may be called another one) and U+FFFD with Qt 5. Of the declaration, only what the XML
+         * reader itself refuses is refused.
          */
         DecodedText = 4
     };
@@ -429,8 +432,8 @@ public:
      *
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *
-     * Every call drops the tree that an earlier getContent() returned: a copy of that document is the same document,
-     * and holds then what this call read of the input. Elements of the old tree may only be destroyed.
+     * Every call drops the tree that an earlier parse() or getContent() left: a copy of that document is the same
+     * document, and holds then what this call read of the input. Elements of the old tree may only be destroyed.
      *
      * The model is the parser's. Of a parser that is a temporary, take a copy: after
      * `const SmilDocument &model = SmilParser(bytes).parse();` the reference refers to nothing.
@@ -453,9 +456,8 @@ public:
      *
      * @p outcome may be null; if not, what became of the input is written to it in every case.
      *
-     * Cost: that of parse(). #ClockDurations adds a second walk over the children of "body", "par" and "seq", linear in
-     * their number and in the length of the durations, with one call level per level of nesting. The DOM is not
-     * changed, nor are the operations that take an element: those read as they ever do.
+     * Cost: that of parse(); the length of a duration counts twice with #ClockDurations, and #DecodedText may add two
+     * copies of the text. The operations that take an element read as they ever do.
      */
     SmilDocument &parse(ReadOptions options, Outcome *outcome = nullptr, QString *errorMsg = nullptr,
                         int *errorLine = nullptr, int *errorColumn = nullptr);
@@ -466,8 +468,10 @@ public:
      * was called, and after a parse() whose outcome is #NotWellFormed.
      *
      * This is Qt's handle, so that a change to the tree shows in every copy. A copy keeps the tree when the parser is
-     * destroyed or getContent() begins another one; a further parse() empties it in the copy too. The model is not
-     * looked at: what the host changes there after parse(), this tree does not show.
+     * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed. A further
+     * parse() replaces the tree in the copy too: by what it reads, if only the beginning of a broken document; and by
+     * nothing when the input was read before. The model is not looked at: what the host changes there after parse(),
+     * this tree does not show.
      *
      * Take the tree from here, not from QDomDocument::setContent() with the same bytes: that reads them without the
      * bounds of #Limit, and may take them for another text. Cost: constant.
