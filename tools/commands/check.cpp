@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "bounds.h"
 #include "commands.h"
 #include "elements.h"
 #include "escaping.h"
 #include "findings.h"
-#include "limits.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QIODevice>
@@ -23,7 +23,7 @@ struct Region {
 /** The text in quotation marks, and not much of it. */
 static QString shown(const QString &text)
 {
-    return quoted(shortened(text, limits::quotation));
+    return quoted(shortened(text, bounds::quotation));
 }
 
 /** The measures that cannot be negative. */
@@ -87,8 +87,8 @@ private:
             if (again || !(known.first.contains(childName) || known.all.contains(childName))) {
                 add(Finding::LostElement, child,
                     QStringLiteral("lost when written back: %1 in %2")
-                        .arg(again ? QLatin1String("another ") + printable(child.tagName().left(limits::quotation))
-                                   : printable(child.tagName().left(limits::quotation)),
+                        .arg(again ? QLatin1String("another ") + printable(child.tagName().left(bounds::quotation))
+                                   : printable(child.tagName().left(bounds::quotation)),
                              name));
                 continue;
             }
@@ -123,7 +123,7 @@ private:
             } else {
                 add(Finding::LostAttribute, element,
                     QStringLiteral("lost when written back: %1 of %2")
-                        .arg(printable(attribute.left(limits::quotation)), name));
+                        .arg(printable(attribute.left(bounds::quotation)), name));
             }
         }
     }

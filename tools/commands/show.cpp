@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "bounds.h"
 #include "commands.h"
 #include "escaping.h"
-#include "limits.h"
 
 #include <QtCore/QIODevice>
 
@@ -20,7 +20,7 @@ public:
 
     void line(int level, const QString &text)
     {
-        out.write(QByteArray(2 * qMin(level, limits::indentation), ' ') + text.toUtf8() + '\n');
+        out.write(QByteArray(2 * qMin(level, bounds::indentation), ' ') + text.toUtf8() + '\n');
     }
 
     void text(int level, QLatin1String label, const QString &value)
@@ -113,7 +113,7 @@ static void showLayout(Outline &outline, const SmilLayout &layout)
 
 static QString header(const QString &text)
 {
-    return shortened(text, limits::header);
+    return shortened(text, bounds::header);
 }
 
 static void showMessage(Outline &outline, const MmsMessage &message)

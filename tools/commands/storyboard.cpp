@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "bounds.h"
 #include "captions.h"
 #include "commands.h"
 #include "escaping.h"
-#include "limits.h"
 #include "media.h"
 #include "outputfile.h"
 #include "svg.h"
@@ -96,8 +96,8 @@ bool storyboard(Message &message, QIODevice &out)
         draw(svg, media, pictures.at(i), screen, QStringLiteral("%1 \u00b7 %2").arg(i + 1).arg(frames.at(i).dur));
         svg.endGroup();
     }
-    if (frames.size() == limits::frames) {
-        svg.text(QPointF(margin, page.height() - 4), QStringLiteral("No more than %1 are drawn.").arg(limits::frames));
+    if (frames.size() == bounds::frames) {
+        svg.text(QPointF(margin, page.height() - 4), QStringLiteral("No more than %1 are drawn.").arg(bounds::frames));
     }
     return svg.end();
 }

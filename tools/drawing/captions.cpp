@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "captions.h"
+#include "bounds.h"
 #include "escaping.h"
-#include "limits.h"
 #include "typesetting.h"
 
 #include <algorithm>
@@ -25,7 +25,7 @@ static bool isDrawn(PartKind kind)
 Captions::Place Captions::find(const SmilRef &ref)
 {
     const int region = screen.indexes.value(ref.region, -1);
-    const QString id = quoted(elided(shortened(ref.region, limits::quotation), frameWidth / 3));
+    const QString id = quoted(elided(shortened(ref.region, bounds::quotation), frameWidth / 3));
     const int part = parts.find(ref.src);
     const QString missing = parts.areKnown() && part < 0 ? QStringLiteral(", missing") : QString();
     if (ref.type == SmilRef::Audio || ref.region.isEmpty()) {

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "frames.h"
+#include "bounds.h"
 #include "escaping.h"
-#include "limits.h"
 #include "mediakind.h"
 
 QString nameOf(const SmilRef &ref)
@@ -13,23 +13,23 @@ QString nameOf(const SmilRef &ref)
         return sign + QLatin1Char('?');
     }
     // The end of a long name has its extension.
-    const bool isLong = ref.src.size() > limits::name;
-    return sign + printable(isLong ? shortened(ref.src, limits::name - 10) + ref.src.right(10) : ref.src);
+    const bool isLong = ref.src.size() > bounds::name;
+    return sign + printable(isLong ? shortened(ref.src, bounds::name - 10) + ref.src.right(10) : ref.src);
 }
 
 static QList<Frame> split(const SmilNode &node);
 
 static void add(Frame &frame, const QString &order, bool sequence)
 {
-    if (frame.order.size() < limits::order) {
+    if (frame.order.size() < bounds::order) {
         const QString separator = sequence ? QStringLiteral(" \u2192 ") : QStringLiteral(" + ");
-        frame.order = shortened(frame.order + (frame.order.isEmpty() ? QString() : separator) + order, limits::order);
+        frame.order = shortened(frame.order + (frame.order.isEmpty() ? QString() : separator) + order, bounds::order);
     }
 }
 
 static void add(Frame &frame, const QList<const SmilRef *> &media)
 {
-    frame.media += media.mid(0, limits::media - frame.media.size());
+    frame.media += media.mid(0, bounds::media - frame.media.size());
 }
 
 /** Adds all that plays in the node, but for one of its children, to one frame. */
@@ -37,7 +37,7 @@ static void addAll(Frame &frame, const SmilNode &node, const SmilNode *except = 
 {
     const bool sequence = node.type == SmilNode::Seq;
     for (const SmilNode &child : node.children) {
-        if (&child == except || frame.media.size() >= limits::media) {
+        if (&child == except || frame.media.size() >= bounds::media) {
             continue;
         }
         Frame inner;
@@ -47,7 +47,7 @@ static void addAll(Frame &frame, const SmilNode &node, const SmilNode *except = 
         add(frame, QLatin1Char('(') + inner.order + QLatin1Char(')'), sequence);
     }
     for (const SmilRef &ref : node.refs) {
-        if (frame.media.size() >= limits::media) {
+        if (frame.media.size() >= bounds::media) {
             return;
         }
         frame.media.append(&ref);
@@ -59,16 +59,16 @@ static QList<Frame> splitSequence(const SmilNode &node)
 {
     QList<Frame> frames;
     for (const SmilNode &child : node.children) {
-        if (frames.size() < limits::frames) {
+        if (frames.size() < bounds::frames) {
             frames += split(child);
         }
     }
     for (const SmilRef &ref : node.refs) {
-        if (frames.size() < limits::frames) {
+        if (frames.size() < bounds::frames) {
             frames.append(Frame{QString(), {&ref}, nameOf(ref)});
         }
     }
-    return frames.isEmpty() ? QList<Frame>{Frame()} : frames.mid(0, limits::frames);
+    return frames.isEmpty() ? QList<Frame>{Frame()} : frames.mid(0, bounds::frames);
 }
 
 static QList<Frame> splitParallel(const SmilNode &node)

@@ -15,7 +15,7 @@ struct Frame {
 };
 
 /**
- * The frames of the timeline, one after another, limits::frames at most. A seq gives those of each thing in it. A par
+ * The frames of the timeline, one after another, bounds::frames at most. A seq gives those of each thing in it. A par
  * gives one, or those of the seq in it that has the most, with all else in the par added to each.
  */
 QList<Frame> framesOf(const SmilNode &body);

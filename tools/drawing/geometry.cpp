@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "geometry.h"
-#include "limits.h"
+#include "bounds.h"
 
 static const double pixelsPerInch = 96;
 static const QSizeF phone(240, 320);
@@ -43,7 +43,7 @@ static QPair<double, double> extent(const SmilUnit &first, const SmilUnit &size,
 static double rootLength(const SmilUnit &root, const SmilUnit &top, double otherwise)
 {
     const double length = pixels(root, otherwise, pixels(top, otherwise, otherwise));
-    return length >= 1 && length <= limits::screen ? length : otherwise;
+    return length >= 1 && length <= bounds::screen ? length : otherwise;
 }
 
 QSizeF rootSize(const SmilLayout &layout)

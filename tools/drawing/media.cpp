@@ -29,7 +29,7 @@ void Media::draw(const Parts::Part &part, int region, const QString &name, const
     svg.beginClip(screen.areas.at(region), id);
     svg.title(name + QLatin1String(" in ") + screen.ids.at(region));
     const bool isPicture = part.content.kind == PartKind::Picture;
-    if (drawn.size() > limits::drawn || (isPicture && part.data.size() > left)) {
+    if (drawn.size() > bounds::drawn || (isPicture && part.data.size() > left)) {
         svg.text(QPointF(4, 0.75 * lineHeight), name);
     } else if (isPicture) {
         drawPicture(part, region);

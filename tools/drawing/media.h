@@ -4,8 +4,8 @@
 #ifndef SMILTOOL_MEDIA_H
 #define SMILTOOL_MEDIA_H
 
+#include "bounds.h"
 #include "captions.h"
-#include "limits.h"
 #include "svg.h"
 
 #include <QtCore/QSet>
@@ -32,7 +32,7 @@ private:
     const Screen &screen;
     Parts &parts;
     QSet<QString> drawn;
-    qint64 left = limits::pictures;
+    qint64 left = bounds::pictures;
 };
 
 #endif

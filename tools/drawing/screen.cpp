@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "screen.h"
+#include "bounds.h"
 #include "escaping.h"
 #include "geometry.h"
-#include "limits.h"
 #include "typesetting.h"
 
 Screen::Screen(const SmilLayout &layout)
@@ -17,7 +17,7 @@ Screen::Screen(const SmilLayout &layout)
         if (!indexes.contains(region.id)) {
             indexes.insert(region.id, int(areas.size()));
         }
-        ids.append(elided(printable(shortened(region.id, limits::quotation)), frameWidth / 2));
+        ids.append(elided(printable(shortened(region.id, bounds::quotation)), frameWidth / 2));
         areas.append(QRectF(whole.topLeft() * scale, whole.size() * scale));
         fits.append(region.fit);
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "folder.h"
-#include "limits.h"
+#include "bounds.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
@@ -12,7 +12,7 @@
 
 Folder::Folder(const QString &path, QString &problem)
     : m_path(path)
-    , m_left(limits::folder)
+    , m_left(bounds::folder)
 {
     if (!QFileInfo(path).isDir() || !QFileInfo(path).isReadable()) {
         problem = QStringLiteral("is not a folder that can be read");
@@ -21,8 +21,8 @@ Folder::Folder(const QString &path, QString &problem)
     QStringList names;
     QDirIterator entries(path, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     for (int i = 0; entries.hasNext(); ++i) {
-        if (i == limits::files) {
-            problem = QStringLiteral("has more than %1 files").arg(limits::files);
+        if (i == bounds::files) {
+            problem = QStringLiteral("has more than %1 files").arg(bounds::files);
             return;
         }
         entries.next();
@@ -46,12 +46,12 @@ QString Folder::read(const QString &name, QByteArray &data)
         || ::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
         return QStringLiteral("cannot be read");
     }
-    if (status.st_size > limits::file) {
-        return QStringLiteral("is larger than %1 MiB").arg(limits::file / limits::mebibyte);
+    if (status.st_size > bounds::file) {
+        return QStringLiteral("is larger than %1 MiB").arg(bounds::file / bounds::mebibyte);
     }
     if (status.st_size > m_left) {
         return QStringLiteral("would be more than %1 MiB with the files before it")
-            .arg(limits::folder / limits::mebibyte);
+            .arg(bounds::folder / bounds::mebibyte);
     }
     data = file.read(status.st_size);
     m_left -= status.st_size;

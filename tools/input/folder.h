@@ -10,7 +10,7 @@
 class Folder
 {
 public:
-    /** Looks for its files. @p problem says why if it cannot be read or has more than limits::files; then it has none.
+    /** Looks for its files. @p problem says why if it cannot be read or has more than bounds::files; then it has none.
      */
     Folder(const QString &path, QString &problem);
     /** No folder, without files. */
@@ -22,7 +22,7 @@ public:
 
     /**
      * Reads a file, all of it or nothing. Returns why it cannot be read: it is something else by now, or larger than
-     * limits::file, or more than limits::folder with those that have been read before.
+     * bounds::file, or more than bounds::folder with those that have been read before.
      */
     QString read(const QString &name, QByteArray &data);
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mediakind.h"
-#include "limits.h"
+#include "bounds.h"
 
 #include <QtCore/QMimeDatabase>
 
@@ -44,7 +44,7 @@ static bool isPlain(const QByteArray &data)
 
 Content recognised(const QByteArray &bytes)
 {
-    const QByteArray beginning = bytes.left(limits::recognised);
+    const QByteArray beginning = bytes.left(bounds::recognised);
     const QMimeType type = QMimeDatabase().mimeTypeForData(beginning);
     const PartKind kind = kindOf(type);
     // A text may begin as something else does: "ID3 is what I need".

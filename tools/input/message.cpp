@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "message.h"
+#include "bounds.h"
 #include "escaping.h"
-#include "limits.h"
 
 #include <QtCore/QFile>
 
@@ -26,18 +26,18 @@ static QString readFile(const QString &name, QByteArray &bytes)
     QFile file(name);
     const bool opened =
         name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    qint64 largest = limits::presentation;
+    qint64 largest = bounds::presentation;
     if (opened) {
         readUpTo(file, largest + 1, bytes);
         if (isMms(bytes)) {
-            largest = limits::message;
+            largest = bounds::message;
             readUpTo(file, largest + 1, bytes);
         }
     }
     if (!opened || file.error() != QFileDevice::NoError) {
         return file.errorString();
     }
-    return bytes.size() <= largest ? QString() : QStringLiteral("larger than %1 MiB").arg(largest / limits::mebibyte);
+    return bytes.size() <= largest ? QString() : QStringLiteral("larger than %1 MiB").arg(largest / bounds::mebibyte);
 }
 
 static QString takeApart(const QByteArray &bytes, Message &message)
@@ -48,7 +48,7 @@ static QString takeApart(const QByteArray &bytes, Message &message)
     }
     message.parts = Parts(message.mms);
     message.bytes = message.mms.parts.at(message.mms.smil).data;
-    return message.bytes.size() <= limits::presentation ? QString()
+    return message.bytes.size() <= bounds::presentation ? QString()
                                                         : QStringLiteral("the SMIL part is larger than 1 MiB");
 }
 
@@ -65,7 +65,7 @@ static QString missingElement(SmilParser::Outcome outcome, const QDomDocument &d
     switch (outcome) {
     case SmilParser::NoSmil:
         return QStringLiteral("Fail to find SMIL document! The root element is %1, not \"smil\".")
-            .arg(quoted(dom.documentElement().tagName().left(limits::quotation)));
+            .arg(quoted(dom.documentElement().tagName().left(bounds::quotation)));
     case SmilParser::NoHead:
         return QStringLiteral("Fail to find SMIL head!");
     default:

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "mms.h"
+#include "bounds.h"
 #include "charset.h"
 #include "contentid.h"
-#include "limits.h"
 #include "mediatypes.h"
 #include "wsp.h"
 
@@ -69,8 +69,8 @@ static bool readPartHeaders(Bytes in, MmsPart &part)
 static QString readParts(Bytes in, const QString &start, MmsMessage &message)
 {
     const quint64 count = in.uintvar();
-    if (in.bad || count > limits::parts) {
-        return QStringLiteral("does not say how many parts it has, or has more than %1").arg(limits::parts);
+    if (in.bad || count > bounds::parts) {
+        return QStringLiteral("does not say how many parts it has, or has more than %1").arg(bounds::parts);
     }
     bool started = false;
     for (int i = 0; i < int(count); ++i) {
@@ -121,7 +121,7 @@ QString decodeMms(const QByteArray &bytes, MmsMessage &message)
             message.from = textOf(said.value()).remove(numberingPlan);
         } else if (key.is(0x16, "subject")) {
             message.subject = textOf(said);
-        } else if (key.is(0x17, "to") && message.to.size() < limits::receivers) {
+        } else if (key.is(0x17, "to") && message.to.size() < bounds::receivers) {
             message.to.append(textOf(said).remove(numberingPlan));
         }
     }

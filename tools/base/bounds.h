@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_LIMITS_H
-#define SMILTOOL_LIMITS_H
+#ifndef SMILTOOL_BOUNDS_H
+#define SMILTOOL_BOUNDS_H
 
 #include <QtCore/qglobal.h>
 
 /** What keeps input from strangers from taking all time and memory. No message comes near any of it in earnest. */
-namespace limits
+namespace bounds
 {
 const qint64 mebibyte = 1024 * 1024;
 
