@@ -17,9 +17,9 @@ int main()
     //! [compose]
     SmilComposer composer;
     QStringList names; // under which the parts are to be sent
-    names << composer.add(SmilRef::Img, QStringLiteral("/home/me/beach & boats.jpg"));
+    names << composer.add(SmilRef::Img, QStringLiteral("pictures/beach & boats.jpg"));
     names << composer.add(SmilRef::Text, QStringLiteral("hello.txt"));
-    names << composer.add(SmilRef::Img, QStringLiteral("/home/me/harbour.jpg"));
+    names << composer.add(SmilRef::Img, QStringLiteral("pictures/harbour.jpg"));
     names << composer.add(SmilRef::Audio, QStringLiteral("waves.amr"), 8);
     SmilDocument message = composer.message();
     message.header.title = QStringLiteral("Two days at the sea");
