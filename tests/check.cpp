@@ -182,6 +182,9 @@ void Check::partsAreChecked()
     const QString copied = QStringLiteral("cp holiday/* holiday.smil '%1'; rm $old; $tool check --ignore missing-part "
                                           "--ignore lost --ignore clock-duration - --parts '%1' <holiday.smil");
     QCOMPARE(runScript(folder.path(), copied.arg(folder.path())).out, QString());
+    const QString numbered = QStringLiteral("cd '%1'; echo '<smil><head/><body/></smil>' >'%'3; $tool check '%'3");
+    QCOMPARE(runScript(folder.path(), numbered.arg(folder.path())).out,
+             QStringLiteral("%3:1: nothing plays [empty-timeline]\n"));
     const Outcome large = runScript(folder.path(), script.arg(folder.path()));
     QVERIFY2(large.err.endsWith(QLatin1String("/old: is larger than 8 MiB\n")), qPrintable(large.err));
     QCOMPARE(large.status, 1);

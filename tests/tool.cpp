@@ -65,6 +65,8 @@ void Tool::problems_data()
     const QString input = QStringLiteral("-");
     QTest::newRow("absent") << QStringLiteral("absent.smil") << QByteArray()
                             << QStringLiteral("absent\\.smil: No such.*");
+    QTest::newRow("a name with places in it")
+        << QStringLiteral("%3%2.smil") << QByteArray() << QStringLiteral("%3%2\\.smil: No such.*");
     QTest::newRow("a folder") << QStringLiteral(".") << QByteArray() << QStringLiteral("\\.: .+");
     QTest::newRow("endless") << QStringLiteral("/dev/zero") << QByteArray()
                              << QStringLiteral("/dev/zero: larger than 1 MiB");
@@ -283,6 +285,9 @@ void Tool::messageAsItIsSent()
                                "      img \"cid:one\"\n"
                                "      text \"hello.txt\"\n"));
     QCOMPARE(smiltool({QStringLiteral("check"), QStringLiteral("-")}, message).out, QString());
+    const QByteArray numbered = QByteArray(message).replace("photo.png", "ph%1%3.pn");
+    QVERIFY(smiltool({QStringLiteral("show"), QStringLiteral("-")}, numbered)
+                .out.contains(QLatin1String("part \"ph%1%3.pn\", image/png, 16 bytes\n")));
     const QByteArray smil = QByteArray("<smil><head/><body/></smil>").leftJustified(1024 * 1024 + 1, ' ');
     const QByteArray headers = QByteArray("\x8C\x80\x84\xB3\x01\x11\xC0\x80\x01") + "application/smil";
     QCOMPARE(smiltool({QStringLiteral("show"), QStringLiteral("-")}, headers + '\0' + smil).err,

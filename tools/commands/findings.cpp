@@ -57,7 +57,7 @@ QStringList Findings::lines(const QString &file, const QStringList &ignored) con
         if (ignored.contains(nameOf(entry.finding)) || (isLost && ignored.contains(nameOf(Finding::Lost)))) {
             continue;
         }
-        QString text = QStringLiteral("%1:%2: %3").arg(printable(file)).arg(entry.line).arg(entry.subject);
+        QString text = QStringLiteral("%1:%2: %3").arg(printable(file), QString::number(entry.line), entry.subject);
         if (!entry.details.isEmpty()) {
             text += QLatin1Char(' ') + entry.details.mid(0, shownDetails).join(QLatin1String(", "))
                 + (entry.details.size() > shownDetails ? QStringLiteral(", ...") : QString());

@@ -116,7 +116,7 @@ static QString header(const QString &text)
     return shortened(text, bounds::header);
 }
 
-static void showMessage(Outline &outline, const MmsMessage &message)
+static void showMessage(Outline &outline, const MmsMessage &message, const Parts &parts)
 {
     outline.text(1, QLatin1String("from"), header(message.from));
     for (const QString &receiver : message.to) {
@@ -126,12 +126,12 @@ static void showMessage(Outline &outline, const MmsMessage &message)
     if (message.date.isValid()) {
         outline.line(1, QLatin1String("date ") + message.date.toString(Qt::ISODate));
     }
-    for (const MmsPart &part : message.parts) {
-        const QString name = part.name.isEmpty() ? part.location.isEmpty() ? part.id : part.location : part.name;
+    for (int i = 0; i < int(message.parts.size()); ++i) {
+        const MmsPart &part = message.parts.at(i);
         outline.line(1,
                      QStringLiteral("part %1, %2, %3 bytes")
-                         .arg(quoted(header(name)), printable(header(part.type)))
-                         .arg(part.data.size()));
+                         .arg(quoted(header(parts.at(i).name)), printable(header(part.type)),
+                              QString::number(part.data.size())));
     }
 }
 
@@ -139,7 +139,7 @@ void show(const Message &message, QIODevice &out)
 {
     Outline outline(out);
     outline.line(0, printable(message.file));
-    showMessage(outline, message.mms);
+    showMessage(outline, message.mms, message.parts);
     showHeader(outline, message.document.header);
     showLayout(outline, message.document.header.layout);
     const SmilNode &body = message.document.body.root;
