@@ -77,7 +77,7 @@ static void runCommands(Message &message, qint64 size)
     requireOutput(written([&](QIODevice &out) { show(message, out); }), most);
     requireOutput(written([&](QIODevice &out) { render(message, out); }), most);
     bool found = false;
-    const QByteArray findings = written([&](QIODevice &out) { found = check(message, {}, out); });
+    const QByteArray findings = written([&](QIODevice &out) { found = check(message, true, {}, out); });
     requireOutput(findings, most);
     require(found == !findings.isEmpty() && (!found || findings.endsWith("]\n")), "a finding is a line");
     bool drawn = false;

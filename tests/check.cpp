@@ -23,10 +23,10 @@ void Check::findings_data()
     QTest::addColumn<QByteArray>("body");
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("lines");
-    const auto row = [](const char *name, const char *body, const QString &lines, const QStringList &arguments = {}) {
-        const QByteArray head = *body == '<' && body[1] == 's'
-            ? ""
-            : "<smil><head><layout><root-layout/><region id='A'/></layout></head>\n";
+    const auto row = [](const char *name, const QByteArray &body, const QString &lines,
+                        const QStringList &arguments = {}) {
+        const QByteArray head =
+            body.startsWith("<s") ? "" : "<smil><head><layout><root-layout/><region id='A'/></layout></head>\n";
         QTest::newRow(name) << head + body << arguments << lines;
     };
     const QString repeated =
@@ -46,12 +46,16 @@ void Check::findings_data()
         "dur='5s'/></body></smil>",
         QStringLiteral("-:2: not understood without ClockDurations: dur of par \"1ms\", \"1:30\" (2 times) "
                        "[clock-duration]\n"
-                       "-:3: pixels without ClockDurations: dur of par \"5\" [clock-duration]\n"));
+                       "-:3: pixels without ClockDurations: dur of par \"5\" [clock-duration]\n"),
+        {QStringLiteral("--plain")});
     row("durations of phones ignored", "<body><par dur='1ms'><img src='a' region='A'/></par></body></smil>", QString(),
-        {QStringLiteral("--ignore"), QStringLiteral("clock-duration")});
+        {QStringLiteral("--plain"), QStringLiteral("--ignore"), QStringLiteral("clock-duration")});
+    row("durations and the size of phones",
+        "<smil><head><layout><root-layout width='9'/><region id='Image'/>\n<region id='Text'/><region id='text'/>"
+        "</layout></head><body><par dur='1ms'><img src='a'/></par><par dur='5'/></body></smil>",
+        QStringLiteral("-:2: nothing plays in region: \"text\" [unused-region]\n"));
     row("duration of the body", "<body dur='1ms'><par><img src='a' region='A'/></par></body></smil>",
-        QStringLiteral("-:2: not understood without ClockDurations: dur of body \"1ms\" [clock-duration]\n"
-                       "-:2: lost when written back: dur of body \"1ms\" [lost-in-body]\n"));
+        QStringLiteral("-:2: lost when written back: dur of body \"1ms\" [lost-in-body]\n"));
     row("measures of the wrong kind",
         "<smil><head><layout><region id='A' width='5s' height='-1px' left='-1px'/></layout></head><body>\n"
         "<par dur='50%'><img src='a' region='A'/></par><par dur='-5s'/></body></smil>",
@@ -70,14 +74,40 @@ void Check::findings_data()
     row("a size half of which a topLayout states",
         "<smil><head><layout><root-layout height='9'/><topLayout width='7'/></layout></head><body><par/></body></smil>",
         QStringLiteral("-:1: written back as the root-layout's size: topLayout [moved-top-size]\n"
-                       "-:1: lost when written back without KeepRootSize: height of root-layout [lost-root-size]\n"));
+                       "-:1: lost when written back without KeepRootSize: height of root-layout [lost-root-size]\n"),
+        {QStringLiteral("--plain")});
     row("a size that a topLayout states",
         "<smil><head><layout><root-layout width='9'/><topLayout width='7'/></layout></head><body><par/></body></smil>",
         QStringLiteral("-:1: written back as the root-layout's size: topLayout [moved-top-size]\n"));
     row("what is lost ignored",
         "<smil><head><layout><root-layout width='9' x=''/><topLayout height='7'/></layout></head>"
-        "<body dur='1s'><q/><par><img src='a'/><par/></par></body></smil>",
+        "<body dur='1s'><q/><par><img src='a'/></par><img src='b'/></body></smil>",
+        QString(), {QStringLiteral("--plain"), QStringLiteral("--ignore"), QStringLiteral("lost")});
+    row("one of each on a slide, and one after another",
+        "<body><par><img src='a' region='A'/><text src='b' region='A'/><audio src='c' region='A'/></par>"
+        "<par><video src='d'/><img src='e' region='A' end='1s'/><ref src='f' region='A' begin='1s'/></par>"
+        "<img src='g'/><img src='h'/></body></smil>",
         QString(), {QStringLiteral("--ignore"), QStringLiteral("lost")});
+    row("two at a time, the later one first",
+        "<body><par>\n<img src='a' region='A' begin='1s'/>\n<video src='b' region='A'/><ref src='c' region='A'/>\n"
+        "<audio src='d'/><AUDIO src='e'/><text src='f' region='B'/><text src='g' region='C'/></par></body></smil>",
+        QStringLiteral(
+            "-:3: two pictures or films at the same time in region \"A\": \"a\", \"c\" (2 times) [crowded-slide]\n"
+            "-:5: two sounds at the same time without a region: \"e\" [crowded-slide]\n"
+            "-:5: two texts at the same time without a region: \"g\" [crowded-slide]\n"),
+        {QStringLiteral("--ignore"), QStringLiteral("lost"), QStringLiteral("--ignore"),
+         QStringLiteral("unknown-region")});
+    row("many at a time",
+        "<body><par>" + QByteArray("<img src='a' region='A'/>").repeated(30000) + "</par></body></smil>",
+        QStringLiteral("-:2: two pictures or films at the same time in region \"A\": \"a\" (29999 times) "
+                       "[crowded-slide]\n"));
+    row("nested", "<body><seq>\n<PAR><img src='a' region='A'/></PAR><q><par/></q></seq></body></smil>",
+        QStringLiteral("-:3: nested: par in seq [nested-timeline]\n"),
+        {QStringLiteral("--ignore"), QStringLiteral("lost")});
+    row("crowded and nested, ignored",
+        "<body><par><img src='a' region='A'/><par><img src='b' region='A'/></par></par></body></smil>", QString(),
+        {QStringLiteral("--ignore"), QStringLiteral("crowded-slide"), QStringLiteral("--ignore"),
+         QStringLiteral("nested-timeline"), QStringLiteral("--ignore"), QStringLiteral("lost")});
     row("regions without id, and with one id",
         "<smil><head><layout><region/><region/>\n<region id='A'/><region id='A'/></layout></head>"
         "<body><par><img src='a' region='A'/></par></body></smil>",
@@ -168,7 +198,7 @@ void Check::partsAreChecked()
     const Outcome outcome =
         smiltool({QStringLiteral("check"), QStringLiteral("--parts"), QStringLiteral("holiday"), QStringLiteral("-")},
                  "<smil><head/><body>\n<par><img src='beach.txt'/>\n<text src='cid:HARBOUR.jpg'/></par>\n"
-                 "<par><ref src='beach.jpg'/><img src='../holiday.smil'/></par></body></smil>");
+                 "<par><ref src='beach.jpg'/></par><par><img src='../holiday.smil'/></par></body></smil>");
     QCOMPARE(outcome.out,
              QStringLiteral("-:1: nothing refers to the part \"harbour.txt\" [unused-part]\n"
                             "-:2: the part of img is text/plain: \"beach.txt\" [wrong-kind]\n"
@@ -180,7 +210,7 @@ void Check::partsAreChecked()
         "<smil><head><layout><region id='A'/></layout></head><body><img src='old' region='A'/></body></smil>\n"
         "EOF\n");
     const QString copied = QStringLiteral("cp holiday/* holiday.smil '%1'; rm $old; $tool check --ignore missing-part "
-                                          "--ignore lost --ignore clock-duration - --parts '%1' <holiday.smil");
+                                          "--ignore lost - --parts '%1' <holiday.smil");
     QCOMPARE(runScript(folder.path(), copied.arg(folder.path())).out, QString());
     const QString numbered = QStringLiteral("cd '%1'; echo '<smil><head/><body/></smil>' >'%'3; $tool check '%'3");
     QCOMPARE(runScript(folder.path(), numbered.arg(folder.path())).out,

@@ -38,6 +38,7 @@ void Tool::samples_data()
             }
         }
     }
+    QTest::newRow("check --plain holiday") << QStringLiteral("check --plain") << QStringLiteral("holiday");
     QTest::newRow("show --plain holiday") << QStringLiteral("show --plain") << QStringLiteral("holiday");
     QTest::newRow("storyboard --parts=holiday holiday")
         << QStringLiteral("storyboard --parts=holiday") << QStringLiteral("holiday");
@@ -54,7 +55,7 @@ void Tool::samples()
     QCOMPARE(outcome.out,
              command.contains(QStringLiteral("--parts")) ? inDocs("figures/storyboard.svg")
                                                          : golden(sample + QLatin1Char('.') + words.join(QString())));
-    QCOMPARE(outcome.status, command == QStringLiteral("check") ? 1 : 0);
+    QCOMPARE(outcome.status, words.first() == QStringLiteral("check") && !outcome.out.isEmpty() ? 1 : 0);
 }
 
 void Tool::problems_data()

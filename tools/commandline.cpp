@@ -25,7 +25,8 @@ struct OptionRow {
 };
 
 const OptionRow options[] = {
-    {Plain,        "plain",     "",        "Show durations as a host reads them without options.",                         &Arguments::plain  },
+    {Plain,        "plain",     "",        "Read as a host that gives the library no options: \"5000ms\" is no duration.",
+     &Arguments::plain                                                                                                                        },
     {Keep,         "keep",      "",        "Keep the size of the root-layout, and all durations, in seconds.",             &Arguments::keep   },
     {Output,       "o output",  "OUT.svg", "Write to OUT.svg, not to standard output.",                                    &Arguments::output },
     {PartsFolder,  "parts",     "DIR",     "The folder with the other parts of a SMIL part; a whole message has its own.",

@@ -3,6 +3,7 @@
 
 #include "bounds.h"
 #include "commands.h"
+#include "crowding.h"
 #include "elements.h"
 #include "escaping.h"
 #include "findings.h"
@@ -20,12 +21,6 @@ struct Region {
 };
 }
 
-/** The text in quotation marks, and not much of it. */
-static QString shown(const QString &text)
-{
-    return quoted(shortened(text, bounds::quotation));
-}
-
 /** The measures that cannot be negative. */
 static const QStringList sizes{QStringLiteral("dur"), QStringLiteral("width"), QStringLiteral("height")};
 
@@ -40,8 +35,9 @@ namespace
 class Checker
 {
 public:
-    explicit Checker(Message &from)
+    Checker(Message &from, bool withoutOptions)
         : message(from)
+        , plain(withoutOptions)
     {
     }
 
@@ -52,6 +48,7 @@ public:
         checkLayout(smil, message.document.header.layout);
         checkRegions();
         checkParts(smil.lineNumber());
+        findCrowding(smil, message.document.header.layout, found);
         const SmilNode &root = message.document.body.root;
         if (root.children.isEmpty() && root.refs.isEmpty()) {
             add(Finding::EmptyTimeline, smil.firstChildElement(QStringLiteral("body")),
@@ -93,9 +90,12 @@ private:
                 continue;
             }
             seen.insert(childName);
+            if (isNode(name) && isNode(childName)) {
+                add(Finding::NestedTimeline, child, QStringLiteral("nested: %1 in %2").arg(childName, name));
+            }
             if (name == QLatin1String("body") && !isNode(childName)) {
                 add(Finding::LostInBody, child, QStringLiteral("lost when written back: media directly in body"),
-                    shown(child.attribute(QStringLiteral("src"))));
+                    excerpt(child.attribute(QStringLiteral("src"))));
             } else if (anyCase) {
                 outOfOrder = outOfOrder || (mediaSeen && isNode(childName));
                 mediaSeen = mediaSeen || !isNode(childName);
@@ -133,28 +133,30 @@ private:
         if (!isMeasure(attribute)) {
             return;
         }
-        const SmilUnit plain(value);
+        const SmilUnit measure(value);
         const bool clock = attribute == QLatin1String("dur") && SmilUnit().convertClock(value);
         const QString what = QStringLiteral("%1 of %2").arg(attribute, name);
-        if (clock && plain.unit != SmilUnit::Sec) {
-            add(Finding::ClockDuration, element,
-                (plain.valid ? QStringLiteral("pixels without ClockDurations: ")
-                             : QStringLiteral("not understood without ClockDurations: "))
-                    + what,
-                shown(value));
-        } else if (!plain.valid) {
-            add(Finding::UnreadMeasure, element, QStringLiteral("not understood: ") + what, shown(value));
-        } else if ((plain.unit == SmilUnit::Sec) != (attribute == QLatin1String("dur"))) {
+        if (clock && measure.unit != SmilUnit::Sec) {
+            if (plain) {
+                add(Finding::ClockDuration, element,
+                    (measure.valid ? QStringLiteral("pixels without ClockDurations: ")
+                                   : QStringLiteral("not understood without ClockDurations: "))
+                        + what,
+                    excerpt(value));
+            }
+        } else if (!measure.valid) {
+            add(Finding::UnreadMeasure, element, QStringLiteral("not understood: ") + what, excerpt(value));
+        } else if ((measure.unit == SmilUnit::Sec) != (attribute == QLatin1String("dur"))) {
             add(Finding::WrongMeasure, element,
-                (plain.unit == SmilUnit::Sec ? QStringLiteral("a duration, not a length: ")
-                                             : QStringLiteral("a length, not a duration: "))
+                (measure.unit == SmilUnit::Sec ? QStringLiteral("a duration, not a length: ")
+                                               : QStringLiteral("a length, not a duration: "))
                     + what,
-                shown(value));
-        } else if (plain.value < 0 && sizes.contains(attribute)) {
-            add(Finding::WrongMeasure, element, QStringLiteral("negative: ") + what, shown(value));
+                excerpt(value));
+        } else if (measure.value < 0 && sizes.contains(attribute)) {
+            add(Finding::WrongMeasure, element, QStringLiteral("negative: ") + what, excerpt(value));
         }
-        if (name == QLatin1String("body") && (clock || plain.valid)) {
-            add(Finding::LostInBody, element, QStringLiteral("lost when written back: ") + what, shown(value));
+        if (name == QLatin1String("body") && (clock || measure.valid)) {
+            add(Finding::LostInBody, element, QStringLiteral("lost when written back: ") + what, excerpt(value));
         }
     }
 
@@ -183,7 +185,7 @@ private:
         }
         const bool width = layout.rootLayoutWidth.valid && !layout.topLayoutWidth.valid;
         const bool height = layout.rootLayoutHeight.valid && !layout.topLayoutHeight.valid;
-        if (width || height) {
+        if (plain && (width || height)) {
             const QString what = !top ? QStringLiteral("size")
                 : width               ? QStringLiteral("width")
                                       : QStringLiteral("height");
@@ -201,7 +203,7 @@ private:
                 found.add(Finding::MissingId, region.line, QStringLiteral("region without id"));
             } else if (byId.contains(region.id)) {
                 found.add(Finding::DuplicateRegion, region.line,
-                          QStringLiteral("more than one region: %1").arg(shown(region.id)));
+                          QStringLiteral("more than one region: %1").arg(excerpt(region.id)));
             } else {
                 byId.insert(region.id, i);
             }
@@ -210,16 +212,18 @@ private:
             const int i = byId.value(reference.id, -1);
             if (i < 0) {
                 found.add(Finding::UnknownRegion, reference.line,
-                          QStringLiteral("no such region: %1").arg(shown(reference.id)));
+                          QStringLiteral("no such region: %1").arg(excerpt(reference.id)));
             } else {
                 regions[i].used = true;
             }
         }
+        // Phones write both, whether they use them or not.
+        const QStringList written{QStringLiteral("Image"), QStringLiteral("Text")};
         for (int i = 0; i < regions.size(); ++i) {
             const Region &region = regions.at(i);
-            if (!region.used && byId.value(region.id, -1) == i) {
+            if (!region.used && !written.contains(region.id) && byId.value(region.id, -1) == i) {
                 found.add(Finding::UnusedRegion, region.line,
-                          QStringLiteral("nothing plays in region: %1").arg(shown(region.id)));
+                          QStringLiteral("nothing plays in region: %1").arg(excerpt(region.id)));
             }
         }
     }
@@ -228,14 +232,14 @@ private:
     {
         const int part = message.parts.find(src);
         if (part < 0) {
-            add(Finding::MissingPart, element, QStringLiteral("no such part: src of %1").arg(name), shown(src));
+            add(Finding::MissingPart, element, QStringLiteral("no such part: src of %1").arg(name), excerpt(src));
             return;
         }
         usedParts.insert(part);
         const Parts::Part &read = message.parts.read(part);
         if (const MediaKind *const media = mediaKind(name); media && !media->mayPlay(read.content.kind)) {
             add(Finding::WrongKind, element, QStringLiteral("the part of %1 is %2:").arg(name, read.content.type),
-                shown(src));
+                excerpt(src));
         }
     }
 
@@ -244,7 +248,7 @@ private:
         for (int i = 0; i < message.parts.size(); ++i) {
             if (!usedParts.contains(i) && !isPresentation(i)) {
                 found.add(Finding::UnusedPart, line, QStringLiteral("nothing refers to the part"),
-                          shown(message.parts.at(i).name));
+                          excerpt(message.parts.at(i).name));
             }
         }
     }
@@ -257,6 +261,7 @@ private:
     }
 
     Message &message;
+    const bool plain; ///< whether it matters what is read without options
     QSet<int> usedParts;
     Findings found;
     QList<Region> regions;
@@ -264,9 +269,9 @@ private:
 };
 }
 
-bool check(Message &message, const QStringList &ignored, QIODevice &out)
+bool check(Message &message, bool plain, const QStringList &ignored, QIODevice &out)
 {
-    const QStringList lines = Checker(message).findings().lines(message.file, ignored);
+    const QStringList lines = Checker(message, plain).findings().lines(message.file, ignored);
     for (const QString &line : lines) {
         out.write(line.toUtf8() + '\n');
     }
@@ -276,13 +281,13 @@ bool check(Message &message, const QStringList &ignored, QIODevice &out)
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
-        return Result{!check(message, arguments.ignored, out), {}};
+        return Result{!check(message, arguments.plain, arguments.ignored, out), {}};
     });
 }
 
 const Command checkCommand = {"check",
                               "FILE...",
-                              PartsFolder | Ignore,
+                              Plain | PartsFolder | Ignore,
                               "Tells what is odd in each message, or lost on writing.",
                               "smiltool check --ignore lost message.smil",
                               run};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "findings.h"
+#include "bounds.h"
 #include "escaping.h"
 
 #include <algorithm>
@@ -9,10 +10,10 @@
 
 // In the order of Finding.
 static const char *const names[] = {
-    "unread-measure",   "wrong-measure", "clock-duration", "unknown-region", "unused-region",
-    "duplicate-region", "missing-id",    "missing-src",    "empty-timeline", "missing-part",
-    "unused-part",      "wrong-kind",    "lost",           "lost-root-size", "moved-top-size",
-    "lost-in-body",     "lost-element",  "lost-attribute", "changed-order",
+    "unread-measure", "wrong-measure",  "clock-duration", "unknown-region", "unused-region",   "duplicate-region",
+    "missing-id",     "missing-src",    "empty-timeline", "crowded-slide",  "nested-timeline", "missing-part",
+    "unused-part",    "wrong-kind",     "lost",           "lost-root-size", "moved-top-size",  "lost-in-body",
+    "lost-element",   "lost-attribute", "changed-order",
 };
 static_assert(std::size(names) == std::size_t(Finding::ChangedOrder) + 1, "every finding has a name");
 
@@ -30,6 +31,11 @@ QStringList findingNames()
         all.append(QLatin1String(name));
     }
     return all;
+}
+
+QString excerpt(const QString &text)
+{
+    return quoted(shortened(text, bounds::quotation));
 }
 
 void Findings::add(Finding finding, int line, const QString &subject, const QString &detail)

@@ -18,6 +18,8 @@ enum class Finding {
     MissingId,
     MissingSrc,
     EmptyTimeline,
+    CrowdedSlide,
+    NestedTimeline,
     MissingPart,
     UnusedPart,
     WrongKind,
@@ -32,6 +34,9 @@ enum class Finding {
 
 /** The names of all, in the order above: they are printed behind what is found, and can be ignored. */
 QStringList findingNames();
+
+/** A text from a message as findings quote it: in quotation marks, and not much of it. */
+QString excerpt(const QString &text);
 
 /** What was found in a message. */
 class Findings
