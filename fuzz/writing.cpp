@@ -1,13 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// Makes a model and a list of media out of bytes. What is written of either can be read, and is the same then.
+// Makes a model and a list of media out of bytes. What is written of either can be read, and is the same then; of what
+// is composed, each part is found, and there is nothing to be told.
 
+#include "commands.h"
 #include "require.h"
 
 #include "tests/messages.h"
 
 #include <smilparser/smilcomposer.h>
+#include <smilparser/smilplayback.h>
+
+#include <QtCore/QBuffer>
 
 #include <limits>
 
@@ -117,7 +122,7 @@ static SmilDocument read(const QByteArray &text)
     return model;
 }
 
-static SmilDocument composedOf(Bytes &bytes)
+static SmilDocument composedOf(Bytes &bytes, QStringList &sent)
 {
     QSet<QString> names;
     const double width = bytes.number();
@@ -132,15 +137,37 @@ static SmilDocument composedOf(Bytes &bytes)
         const QString src = composer.add(SmilRef::Type(what), name, bytes.number());
         require(!src.isEmpty() && src.size() <= 32 && !names.contains(src.toLower()), "a src is short and new");
         names.insert(src.toLower());
+        sent << src;
     }
     return composer.message();
+}
+
+static void requireGood(const QByteArray &text, const QStringList &sent)
+{
+    SmilParts parts;
+    for (int i = 0; i < sent.size(); ++i) {
+        parts.add(i, sent.at(i));
+    }
+    for (int i = 0; i < sent.size(); ++i) {
+        require(parts.find(sent.at(i)) == i, "a src means its part");
+    }
+    Message message;
+    const Problem problem = readBytes(text, QStringLiteral("-"), QString(), SmilParser::AsWritten, message);
+    QBuffer findings;
+    findings.open(QIODevice::WriteOnly);
+    require(problem.isNone() && !check(message, false, {}, findings), "there is nothing to be told of it");
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     Bytes media(data, size);
-    const SmilDocument message = composedOf(media);
-    require(read(SmilParser(message).toXml()) == message, "what is composed is the same when read");
+    QStringList sent;
+    const SmilDocument message = composedOf(media, sent);
+    const QByteArray text = SmilParser(message).toXml();
+    require(read(text) == message, "what is composed is the same when read");
+    if (!sent.isEmpty()) {
+        requireGood(text, sent);
+    }
 
     Bytes bytes(data, size);
     SmilParser parser(modelOf(bytes));

@@ -169,6 +169,14 @@ void Tool::badUsage_data()
     row("storyboard holiday.smil -o ''", "the name of a file is empty.");
     row("show --loud -", "Unknown option 'loud'.");
     row("show --keep -", "Unknown option 'keep'.");
+    for (const char *const size : {"0x480", "320", "1.5x480", "320x480x", "1000000x480"}) {
+        QTest::newRow(size) << QStringLiteral("compose beach.jpg --size=") + QLatin1String(size)
+                            << QStringLiteral("a size is in whole pixels, such as 320x480.");
+    }
+    for (const char *const seconds : {"0", "-1", "nan", "inf", "1e999", "5s", "''"}) {
+        QTest::newRow(seconds) << QStringLiteral("compose beach.jpg --seconds ") + QLatin1String(seconds)
+                               << QStringLiteral("a slide lasts a number of seconds above 0.");
+    }
     row("storyboard holiday.smil nested.smil", "a storyboard is of one file.");
     row("--ignore lost-names check holiday.smil", "no finding is called 'lost-names'.");
 }
@@ -309,7 +317,7 @@ void Tool::messageAsItIsSent()
 
 void Tool::completionKnowsEveryOption()
 {
-    for (const char *const command : {"show", "render", "storyboard", "check"}) {
+    for (const char *const command : {"show", "render", "storyboard", "check", "compose"}) {
         const QString help = smiltool({QLatin1String(command), QStringLiteral("--help")}).out;
         static const QRegularExpression option(QStringLiteral("^  .*(--[a-z]+)"), QRegularExpression::MultilineOption);
         QStringList options;

@@ -6,6 +6,8 @@
 #include "findings.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/qnumeric.h>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 #include <iterator>
@@ -21,21 +23,26 @@ struct OptionRow {
     const char *names; ///< between blanks
     const char *value;
     const char *summary;
-    std::variant<bool Arguments::*, QString Arguments::*, QStringList Arguments::*> argument;
+    std::variant<bool Arguments::*, QString Arguments::*, QStringList Arguments::*, QSize Arguments::*,
+                 double Arguments::*>
+        argument;
 };
 
 const OptionRow options[] = {
-    {Plain,        "plain",     "",        "Read as a host that gives the library no options: \"5000ms\" is no duration.",
-     &Arguments::plain                                                                                                                        },
-    {Keep,         "keep",      "",        "Keep the size of the root-layout, and all durations, in seconds.",             &Arguments::keep   },
-    {Output,       "o output",  "OUT.svg", "Write to OUT.svg, not to standard output.",                                    &Arguments::output },
-    {PartsFolder,  "parts",     "DIR",     "The folder with the other parts of a SMIL part; a whole message has its own.",
-     &Arguments::parts                                                                                                                        },
+    {Plain,        "plain",     "",     "Read as a host that gives the library no options: \"5000ms\" is no duration.",
+     &Arguments::plain                                                                                                                     },
+    {Keep,         "keep",      "",     "Keep the size of the root-layout, and all durations, in seconds.",             &Arguments::keep   },
+    {Output,       "o output",  "OUT",  "Write to the file OUT, not to standard output.",                               &Arguments::output },
+    {PartsFolder,  "parts",     "DIR",  "The folder with the other parts of a SMIL part; a whole message has its own.",
+     &Arguments::parts                                                                                                                     },
     {Ignore,       "ignore",    "NAME",
-     "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: ",                   &Arguments::ignored},
-    {everyCommand, "debug",     "",        "Print the library's debug messages.",                                          &Arguments::debug  },
-    {everyCommand, "h help",    "",        "Print this help.",                                                             &Arguments::help   },
-    {everyCommand, "v version", "",        "Print the version.",                                                           &Arguments::version},
+     "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: ",                &Arguments::ignored},
+    {Size,         "size",      "WxH",  "The size of the screen in pixels, instead of 320x480.",                        &Arguments::size   },
+    {Seconds,      "seconds",   "N",    "How long a slide lasts, instead of 5 seconds.",                                &Arguments::seconds},
+    {Title,        "title",     "TEXT", "The title of the message.",                                                    &Arguments::title  },
+    {everyCommand, "debug",     "",     "Print the library's debug messages.",                                          &Arguments::debug  },
+    {everyCommand, "h help",    "",     "Print this help.",                                                             &Arguments::help   },
+    {everyCommand, "v version", "",     "Print the version.",                                                           &Arguments::version},
 };
 }
 
@@ -69,8 +76,8 @@ static QString helpText(const Command *command)
         return QString::fromLatin1("%1\n\nExample: %2")
             .arg(QLatin1String(command->summary), QLatin1String(command->example));
     }
-    QString text =
-        QStringLiteral("Reads the slide show of a multimedia message.\n\nCommands, each with a --help of its own:");
+    QString text = QStringLiteral(
+        "Reads or makes the slide show of a multimedia message.\n\nCommands, each with a --help of its own:");
     const auto add = [&text](const char *name, const char *summary) {
         text += QStringLiteral("\n  %1 %2").arg(QLatin1String(name), -11).arg(QLatin1String(summary));
     };
@@ -93,7 +100,9 @@ static void setUp(QCommandLineParser &parser, const Command *command)
         parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."));
     }
     parser.addPositionalArgument(
-        QStringLiteral("FILE"), QStringLiteral("A SMIL part, or a message as it is sent; - is standard input."),
+        QStringLiteral("FILE"),
+        command && command->together ? QStringLiteral("A picture, a text, a sound or a film.")
+                                     : QStringLiteral("A SMIL part, or a message as it is sent; - is standard input."),
         command ? QStringLiteral("%1 %2").arg(QLatin1String(command->name), QLatin1String(command->files))
                 : QStringLiteral("FILE..."));
 }
@@ -124,6 +133,19 @@ static void assign(const QCommandLineParser &parser, const QString &name, QStrin
     argument = parser.values(name);
 }
 
+/** Up to six digits each, which is what the library writes of a number. */
+static void assign(const QCommandLineParser &parser, const QString &name, QSize &argument)
+{
+    static const QRegularExpression pixels(QStringLiteral("\\A([1-9][0-9]{0,5})x([1-9][0-9]{0,5})\\z"));
+    const QRegularExpressionMatch match = pixels.match(parser.value(name));
+    argument = QSize(match.captured(1).toInt(), match.captured(2).toInt());
+}
+
+static void assign(const QCommandLineParser &parser, const QString &name, double &argument)
+{
+    argument = parser.value(name).toDouble();
+}
+
 static Arguments argumentsOf(const QCommandLineParser &parser, const Command *command)
 {
     Arguments arguments;
@@ -149,6 +171,12 @@ static QString problemWith(const Command &command, const Arguments &arguments)
     }
     if (arguments.files.size() > 1 && qstrcmp(command.files, "FILE") == 0) {
         return QStringLiteral("a %1 is of one file.").arg(QLatin1String(command.name));
+    }
+    if (arguments.size.isEmpty()) {
+        return QStringLiteral("a size is in whole pixels, such as 320x480.");
+    }
+    if (!qIsFinite(arguments.seconds) || !(arguments.seconds > 0)) {
+        return QStringLiteral("a slide lasts a number of seconds above 0.");
     }
     for (const QString &name : arguments.ignored) {
         if (!findingNames().contains(name)) {

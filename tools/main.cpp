@@ -32,7 +32,8 @@ static int run(const Command &command, const Arguments &arguments)
     int status = Success;
     QFile out;
     bool written = out.open(stdout, QIODevice::WriteOnly);
-    for (const QString &file : arguments.files) {
+    const QStringList turns = command.together ? QStringList(QString()) : arguments.files;
+    for (const QString &file : turns) {
         const Result result = command.run(file, arguments, out);
         for (const QString &problem : result.problems) {
             complain(problem);

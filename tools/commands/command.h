@@ -6,6 +6,8 @@
 
 #include "message.h"
 
+#include <QtCore/QSize>
+
 #include <functional>
 
 class QIODevice;
@@ -16,6 +18,9 @@ struct Arguments {
     QString parts; ///< a folder; null if none is given, as all names here
     QString output; ///< a file to write
     QStringList ignored; ///< names of findings
+    QSize size = {320, 480}; ///< of a screen in pixels; empty if what is given is none
+    double seconds = 5; ///< that a slide lasts; not above 0 if what is given is none
+    QString title;
     bool plain = false;
     bool keep = false;
     bool debug = false;
@@ -24,7 +29,7 @@ struct Arguments {
 };
 
 /** The options that a command may have of its own. Their names are in the table of the command line. */
-enum Option { Plain = 1, Keep = 2, Output = 4, PartsFolder = 8, Ignore = 16 };
+enum Option { Plain = 1, Keep = 2, Output = 4, PartsFolder = 8, Ignore = 16, Size = 32, Seconds = 64, Title = 128 };
 
 /** How a command went with a file. */
 struct Result {
@@ -40,6 +45,7 @@ struct Command {
     const char *summary;
     const char *example;
     Result (*run)(const QString &file, const Arguments &arguments, QIODevice &out);
+    bool together = false; ///< whether it is run once for all files, those of the arguments; without one of its own
 };
 
 /**

@@ -12,9 +12,10 @@ extern const Command showCommand;
 extern const Command renderCommand;
 extern const Command storyboardCommand;
 extern const Command checkCommand;
+extern const Command composeCommand;
 
 /** In the order in which the help lists them. */
-const Command *const allCommands[] = {&showCommand, &renderCommand, &storyboardCommand, &checkCommand};
+const Command *const allCommands[] = {&showCommand, &renderCommand, &storyboardCommand, &checkCommand, &composeCommand};
 
 /** Writes the model of the message to @p out, as an indented outline. */
 void show(const Message &message, QIODevice &out);

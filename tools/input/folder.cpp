@@ -3,12 +3,10 @@
 
 #include "folder.h"
 #include "bounds.h"
+#include "plainfile.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>
-
-#include <fcntl.h>
-#include <sys/stat.h>
 
 Folder::Folder(const QString &path, QString &problem)
     : m_path(path)
@@ -38,23 +36,20 @@ Folder::Folder(const QString &path, QString &problem)
 QString Folder::read(const QString &name, QByteArray &data)
 {
     // Since the folder was listed, the file may have become a link, or something that waits for a writer.
-    const QByteArray path = QFile::encodeName(m_path + QLatin1Char('/') + name);
-    const int descriptor = ::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     QFile file;
-    struct stat status;
-    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)
-        || ::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+    if (!openPlainFile(m_path + QLatin1Char('/') + name, Links::Refused, file).isEmpty()) {
         return QStringLiteral("cannot be read");
     }
-    if (status.st_size > bounds::file) {
+    const qint64 size = file.size();
+    if (size > bounds::file) {
         return QStringLiteral("is larger than %1 MiB").arg(bounds::file / bounds::mebibyte);
     }
-    if (status.st_size > m_left) {
+    if (size > m_left) {
         return QStringLiteral("would be more than %1 MiB with the files before it")
             .arg(bounds::folder / bounds::mebibyte);
     }
-    data = file.read(status.st_size);
-    m_left -= status.st_size;
+    data = file.read(size);
+    m_left -= size;
     return file.error() == QFileDevice::NoError ? QString() : file.errorString();
 }
 

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "smiltool.h"
+
+class Sending : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void writesAMessage();
+    void allOrNothing_data();
+    void allOrNothing();
+};
+
+void Sending::writesAMessage()
+{
+    const QTemporaryDir folder;
+    const QString files =
+        QStringLiteral("cp holiday/*.jpg '%1'; cp holiday/*.txt '%1'; cd '%1'; mkdir sub; "
+                       "cp beach.jpg sub; cp beach.jpg 'a&b.jpg'; printf '#!AMR\\n\\221' >c; rm $old; ");
+    const Outcome composed =
+        runScript(folder.path(),
+                  files.arg(folder.path())
+                      + QStringLiteral(
+                          "$tool compose beach.txt -o $board && $tool compose beach.txt | cmp - $board && "
+                          "$tool compose 'a&b.jpg' beach.txt c beach.jpg ./harbour.txt sub/beach.jpg --title 'A & B' "
+                          "--size 176x220 --seconds 2.5 -o $board && cat $board && mv 'a&b.jpg' a_b.jpg && "
+                          "mv sub/beach.jpg beach-2.jpg && rm harbour.jpg && $tool check $board --parts . && "
+                          "$tool storyboard $board --parts . | grep -c '<image'"));
+    QCOMPARE(composed.err,
+             QStringLiteral("a&b.jpg: to be sent as a_b.jpg\nsub/beach.jpg: to be sent as beach-2.jpg\n"));
+    QCOMPARE(composed.out, golden(QStringLiteral("composed.smil")) + QStringLiteral("3\n"));
+    QCOMPARE(composed.status, 0);
+}
+
+/** Of all files, each that cannot be in a message is named. */
+void Sending::allOrNothing_data()
+{
+    QTest::addColumn<QString>("arguments"); // "good" is a text
+    QTest::addColumn<QString>("problems");
+    const auto row = [](const char *arguments, const char *problems) {
+        QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(problems);
+    };
+    row("good xml absent -o out",
+        "xml: is no picture, text, sound or film, but application/xml\n"
+        "absent: No such file or directory\n");
+    row("pipe . /dev/zero - good",
+        "pipe: is no plain file\n.: is no plain file\n/dev/zero: is no plain file\n"
+        "-: standard input has no name under which it could be sent\n");
+    row("xml good -o good",
+        "xml: is no picture, text, sound or film, but application/xml\n"
+        "good: is the output itself\n");
+    row("good -o hard", "good: is the output itself\n");
+    row("soft -o good", "soft: is the output itself\n");
+    row("hard -o soft", "hard: is the output itself\n");
+    row("good -o /dev/stdout >>soft", "good: is the output itself\n");
+    row("good >>hard", "good: is the output itself\n");
+}
+
+void Sending::allOrNothing()
+{
+    QFETCH(QString, arguments);
+    QFETCH(QString, problems);
+    const QTemporaryDir folder;
+    const QString script =
+        QStringLiteral("cd '%1'; echo good >good; echo '<?xml version=\"1.0\"?>' >xml; ln good hard; ln -s good soft; "
+                       "mkfifo pipe; $tool compose ");
+    const Outcome outcome = runScript(folder.path(), script.arg(folder.path()) + arguments);
+    QCOMPARE(outcome.err, problems);
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 1);
+    QCOMPARE(readFile(folder.filePath(QStringLiteral("good"))), QStringLiteral("good\n"));
+    QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("out"))));
+}
+
+QTEST_GUILESS_MAIN(Sending)
+#include "sending.moc"

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "bounds.h"
+#include "commands.h"
+#include "outputfile.h"
+#include "plainfile.h"
+
+#include <smilparser/smilcomposer.h>
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+#include <optional>
+
+/** What plays a part of that kind, if phones show such a thing. */
+static std::optional<SmilRef::Type> typeOf(PartKind kind)
+{
+    switch (kind) {
+    case PartKind::Picture:
+    case PartKind::OtherPicture:
+        return SmilRef::Img;
+    case PartKind::Text:
+        return SmilRef::Text;
+    case PartKind::Audio:
+        return SmilRef::Audio;
+    case PartKind::Video:
+        return SmilRef::Video;
+    default:
+        return std::nullopt;
+    }
+}
+
+/** Finds out what plays the file. Returns why it cannot be in a message, or else nothing. */
+static QString recognise(const QString &name, SmilRef::Type &type)
+{
+    if (name == QLatin1String("-")) {
+        return QStringLiteral("standard input has no name under which it could be sent");
+    }
+    QFile file;
+    const QString problem = openPlainFile(name, Links::Followed, file);
+    if (!problem.isEmpty()) {
+        return problem;
+    }
+    const Content content = recognised(file.read(bounds::recognised));
+    if (file.error() != QFileDevice::NoError) {
+        return file.errorString();
+    }
+    const std::optional<SmilRef::Type> found = typeOf(content.kind);
+    type = found.value_or(SmilRef::Ref);
+    return found ? QString() : QStringLiteral("is no picture, text, sound or film, but %1").arg(content.type);
+}
+
+/** Adds the files in their order, and a line for each that is to be sent under another name, or else all problems. */
+static Result add(const QStringList &files, const QString &output, SmilComposer &composer)
+{
+    Result result;
+    QStringList renamed;
+    for (const QString &file : files) {
+        SmilRef::Type type = SmilRef::Ref;
+        const QString problem =
+            isSameFile(file, output) ? QStringLiteral("is the output itself") : recognise(file, type);
+        if (!problem.isEmpty()) {
+            result.well = false;
+            result.problems += failure(file, problem).problems;
+            continue;
+        }
+        const QString src = composer.add(type, file);
+        if (src != QFileInfo(file).fileName()) {
+            renamed.append(QStringLiteral("%1: to be sent as %2").arg(file, src));
+        }
+    }
+    if (result.well) {
+        result.problems = renamed;
+    }
+    return result;
+}
+
+static Result run(const QString &, const Arguments &arguments, QIODevice &out)
+{
+    const bool toFile = !arguments.output.isNull() && arguments.output != QLatin1String("-");
+    SmilComposer composer(arguments.size, arguments.seconds);
+    const Result added = add(arguments.files, toFile ? arguments.output : QStringLiteral("/dev/stdout"), composer);
+    if (!added.well) {
+        return added;
+    }
+    SmilDocument message = composer.message();
+    message.header.title = arguments.title;
+    const QByteArray text = SmilParser(message).toXml() + '\n';
+    const auto write = [&text](QIODevice &device) { return device.write(text) == text.size(); };
+    if (!toFile) {
+        write(out); // the caller looks whether all was written
+        return added;
+    }
+    const QString problem = writeFile(arguments.output, write);
+    return problem.isEmpty() ? added : failure(arguments.output, problem);
+}
+
+const Command composeCommand = {"compose",
+                                "FILE...",
+                                Output | Size | Seconds | Title,
+                                "Makes a message of pictures, texts, sounds and films.",
+                                "smiltool compose beach.jpg hello.txt -o message.smil",
+                                run,
+                                true};
