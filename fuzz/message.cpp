@@ -19,7 +19,7 @@ static void takeApart(const QByteArray &bytes)
     MmsMessage message;
     const QString problem = decodeMms(bytes, message);
     require(!problem.contains(QLatin1Char('\n')), "a problem is one line");
-    require(!problem.isEmpty() || (message.smil >= 0 && message.smil < message.parts.size()), "there is a SMIL part");
+    require(message.smil >= -1 && message.smil < message.parts.size(), "the SMIL part is one of the parts");
 
     const QDateTime &date = message.date;
     require(date.isNull() || (date.isValid() && date.date().year() < 2107), "the date can be written");

@@ -47,6 +47,9 @@ static QString takeApart(const QByteArray &bytes, Message &message)
         return problem;
     }
     message.parts = Parts(message.mms);
+    if (message.mms.smil < 0) {
+        return QStringLiteral("has no SMIL part");
+    }
     message.bytes = message.mms.parts.at(message.mms.smil).data;
     return message.bytes.size() <= bounds::presentation ? QString()
                                                         : QStringLiteral("the SMIL part is larger than 1 MiB");

@@ -34,6 +34,7 @@ struct Problem {
  * Reads @p file ("-" is standard input), a SMIL part or a message as it is sent, into @p message, with the library's @p
  * options. The other parts are those of the message, or else the files in @p folder unless that is empty. It is a
  * problem if the SMIL cannot be read, is not well formed or lacks smil, head or body, or if the folder cannot be read.
+ * Of a whole message, the parts are there even if its SMIL is missing or cannot be read.
  */
 Problem readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message);
 

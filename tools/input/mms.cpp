@@ -92,7 +92,7 @@ static QString readParts(Bytes in, const QString &start, MmsMessage &message)
         }
         started = started || starts;
     }
-    return message.smil < 0 ? QStringLiteral("has no SMIL part") : QString();
+    return QString();
 }
 
 QString decodeMms(const QByteArray &bytes, MmsMessage &message)

@@ -24,7 +24,7 @@ struct MmsMessage {
     QString subject;
     QDateTime date; ///< in UTC; invalid if the message has none
     QVector<MmsPart> parts;
-    int smil = -1; ///< which of the parts is the presentation
+    int smil = -1; ///< which of the parts is the presentation; -1 if none is
 };
 
 /** Whether the bytes are a message as it is sent, not SMIL. */
@@ -34,9 +34,8 @@ inline bool isMms(const QByteArray &bytes)
 }
 
 /**
- * Takes a message apart; a multipart in it stays one part. Returns empty if it is whole and has a SMIL part, or else
- * what is wrong, to be written after its name. See OMA MMS Encapsulation for the headers, WAP-230-WSP section 8 for the
- * rest.
+ * Takes a message apart; a multipart in it stays one part. Returns empty if it is whole, or else what is wrong, to
+ * be written after its name. See OMA MMS Encapsulation for the headers, WAP-230-WSP section 8 for the rest.
  */
 QString decodeMms(const QByteArray &bytes, MmsMessage &message);
 

@@ -14,25 +14,15 @@ void Parts::add(const QString &name, const QByteArray &data)
     m_parts.append(part);
 }
 
-/** The first part of a name keeps it. */
-void Parts::call(int part, const QString &name)
-{
-    if (!name.isEmpty()) {
-        m_names.insert(name, m_names.value(name, part));
-        const QString folded = name.toCaseFolded();
-        m_foldedNames.insert(folded, m_foldedNames.value(folded, part));
-    }
-}
-
 Parts::Parts(const Folder &folder, const QString &smil)
     : m_folder(folder)
     , m_areKnown(true)
 {
     for (const QString &name : folder.files()) {
-        call(size(), name);
+        m_names.add(size(), name);
         add(name);
     }
-    m_smil = m_names.value(nameIn(folder.path(), smil), -1);
+    m_smil = int(folder.files().indexOf(nameIn(folder.path(), smil)));
 }
 
 Parts::Parts(const MmsMessage &message)
@@ -46,23 +36,9 @@ Parts::Parts(const MmsMessage &message)
     // What identifies one part goes before what another is merely called.
     for (QString MmsPart::*const name : {&MmsPart::id, &MmsPart::location, &MmsPart::name}) {
         for (int i = 0; i < size(); ++i) {
-            call(i, message.parts.at(i).*name);
+            m_names.add(i, message.parts.at(i).*name);
         }
     }
-}
-
-int Parts::find(const QString &src) const
-{
-    const QString bare = bareId(src);
-    const QByteArray bytes = QByteArray::fromPercentEncoding(bare.toUtf8());
-    const QString decodedName = QString::fromUtf8(bytes.constData(), bytes.size());
-    for (const QString &name : {src, bare, decodedName}) {
-        const auto found = m_names.constFind(name);
-        if (found != m_names.constEnd()) {
-            return *found;
-        }
-    }
-    return m_foldedNames.value(decodedName.toCaseFolded(), -1);
 }
 
 const Parts::Part &Parts::read(int index)

@@ -8,7 +8,7 @@
 #include "mediakind.h"
 #include "mms.h"
 
-#include <QtCore/QHash>
+#include <smilparser/smilplayback.h>
 
 /** The parts of a message beside its presentation, and which of them a src means. */
 class Parts
@@ -37,11 +37,9 @@ public:
     /** Which of the parts is the presentation, or -1. */
     int smil() const { return m_smil; }
 
-    /**
-     * The part that a src means, or -1: the one of exactly this name; if none is, of its bareId(); of that with %XX
-     * decoded; of that in whatever letter case. A part of a message goes by its identifier, its location and its name.
+    /** The part that a src means, as SmilParts::find(). A part of a message goes by its identifier, location and name.
      */
-    int find(const QString &src) const;
+    int find(const QString &src) const { return m_names.find(src); }
 
     /** The part with its data and kind, which are looked at when they are first asked for. */
     const Part &read(int part);
@@ -51,14 +49,12 @@ public:
 
 private:
     void add(const QString &name, const QByteArray &data = QByteArray());
-    void call(int part, const QString &name);
 
     Folder m_folder; ///< that has the data, or none: then the parts have it
     bool m_areKnown = false;
     int m_smil = -1;
     QVector<Part> m_parts;
-    QHash<QString, int> m_names;
-    QHash<QString, int> m_foldedNames;
+    SmilParts m_names;
 };
 
 #endif
