@@ -29,20 +29,22 @@ struct OptionRow {
 };
 
 const OptionRow options[] = {
-    {Plain,        "plain",     "",     "Read as a host that gives the library no options: \"5000ms\" is no duration.",
-     &Arguments::plain                                                                                                                     },
-    {Keep,         "keep",      "",     "Keep the size of the root-layout, and all durations, in seconds.",             &Arguments::keep   },
-    {Output,       "o output",  "OUT",  "Write to the file OUT, not to standard output.",                               &Arguments::output },
-    {PartsFolder,  "parts",     "DIR",  "The folder with the other parts of a SMIL part; a whole message has its own.",
-     &Arguments::parts                                                                                                                     },
-    {Ignore,       "ignore",    "NAME",
-     "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: ",                &Arguments::ignored},
-    {Size,         "size",      "WxH",  "The size of the screen in pixels, instead of 320x480.",                        &Arguments::size   },
-    {Seconds,      "seconds",   "N",    "How long a slide lasts, instead of 5 seconds.",                                &Arguments::seconds},
-    {Title,        "title",     "TEXT", "The title of the message.",                                                    &Arguments::title  },
-    {everyCommand, "debug",     "",     "Print the library's debug messages.",                                          &Arguments::debug  },
-    {everyCommand, "h help",    "",     "Print this help.",                                                             &Arguments::help   },
-    {everyCommand, "v version", "",     "Print the version.",                                                           &Arguments::version},
+    {Plain,        "plain",       "",     "Read as a host that gives the library no options: \"5000ms\" is no duration.",
+     &Arguments::plain                                                                                                                       },
+    {Json,         "json",        "",     "Print a line of JSON for each message.",                                       &Arguments::json   },
+    {Keep,         "keep",        "",     "Keep the size of the root-layout, and all durations, in seconds.",             &Arguments::keep   },
+    {Output,       "o output",    "OUT",  "Write to the file OUT, not to standard output.",                               &Arguments::output },
+    {IntoFolder,   "d directory", "DIR",  "The folder to write into; it is made when missing.",                           &Arguments::folder },
+    {PartsFolder,  "parts",       "DIR",  "The folder with the other parts of a SMIL part; a whole message has its own.",
+     &Arguments::parts                                                                                                                       },
+    {Ignore,       "ignore",      "NAME",
+     "Say nothing of findings called NAME; may be repeated. lost stands for all behind it. The names: ",                  &Arguments::ignored},
+    {Size,         "size",        "WxH",  "The size of the screen in pixels, instead of 320x480.",                        &Arguments::size   },
+    {Seconds,      "seconds",     "N",    "How long a slide lasts, instead of 5 seconds.",                                &Arguments::seconds},
+    {Title,        "title",       "TEXT", "The title of the message.",                                                    &Arguments::title  },
+    {everyCommand, "debug",       "",     "Print the library's debug messages.",                                          &Arguments::debug  },
+    {everyCommand, "h help",      "",     "Print this help.",                                                             &Arguments::help   },
+    {everyCommand, "v version",   "",     "Print the version.",                                                           &Arguments::version},
 };
 }
 
@@ -164,10 +166,13 @@ static QString problemWith(const Command &command, const Arguments &arguments)
     if (arguments.files.isEmpty()) {
         return QStringLiteral("no file given.");
     }
-    const QStringList names = arguments.files + QStringList{arguments.output, arguments.parts};
+    const QStringList names = arguments.files + QStringList{arguments.output, arguments.parts, arguments.folder};
     const auto isEmpty = [](const QString &name) { return name.isEmpty() && !name.isNull(); };
     if (std::any_of(names.cbegin(), names.cend(), isEmpty)) {
         return QStringLiteral("the name of a file is empty.");
+    }
+    if ((command.options & IntoFolder) && arguments.folder.isNull()) {
+        return QStringLiteral("no folder given; -d DIR says which.");
     }
     if (arguments.files.size() > 1 && qstrcmp(command.files, "FILE") == 0) {
         return QStringLiteral("a %1 is of one file.").arg(QLatin1String(command.name));

@@ -24,6 +24,9 @@ const qint64 file = 8 * mebibyte;
 const qint64 folder = 64 * mebibyte;
 const int files = 10000;
 
+/** Of the name of a file that is written, in bytes; file systems have 255. */
+const int fileName = 200;
+
 // What tells the types of parts apart is at their beginning.
 const int recognised = 16 * 1024;
 

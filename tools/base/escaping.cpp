@@ -5,7 +5,7 @@
 
 #include <string>
 
-static bool isObeyedOrHidden(char32_t c)
+bool isObeyedOrHidden(char32_t c)
 {
     switch (QChar::category(c)) {
     case QChar::Other_Control:
@@ -62,6 +62,19 @@ QString printableXml(const QString &text)
             : allowed    ? QStringLiteral("&#x%1;").arg(c, 0, 16)
                          : QString(QChar(QChar::ReplacementCharacter));
     });
+}
+
+QByteArray printableJson(const QByteArray &json)
+{
+    const auto unit = [](ushort c) {
+        return QLatin1String("\\u") + QString::number(c, 16).rightJustified(4, QLatin1Char('0'));
+    };
+    return escape(QString::fromUtf8(json),
+                  [&unit](uint c) {
+                      return QChar::requiresSurrogates(c) ? unit(QChar::highSurrogate(c)) + unit(QChar::lowSurrogate(c))
+                                                          : unit(ushort(c));
+                  })
+        .toUtf8();
 }
 
 QString quoted(const QString &text)

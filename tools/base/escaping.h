@@ -6,6 +6,9 @@
 
 #include <QtCore/QString>
 
+/** Whether a terminal would obey or hide the character: it is a control or format character, or none. */
+bool isObeyedOrHidden(char32_t c);
+
 /**
  * The text with what a terminal would obey or hide (control and format characters, but no joiner inside a word) written
  * as \u{XXXX}.
@@ -14,6 +17,9 @@ QString printable(const QString &text);
 
 /** The same for XML: as &#xXXXX;, and U+FFFD for what XML does not allow at all. Line feeds stay. */
 QString printableXml(const QString &text);
+
+/** The same for JSON of one line: as \uXXXX. */
+QByteArray printableJson(const QByteArray &json);
 
 /** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
 QString quoted(const QString &text);

@@ -17,11 +17,13 @@ struct Arguments {
     QStringList files;
     QString parts; ///< a folder; null if none is given, as all names here
     QString output; ///< a file to write
+    QString folder; ///< to write files into
     QStringList ignored; ///< names of findings
     QSize size = {320, 480}; ///< of a screen in pixels; empty if what is given is none
     double seconds = 5; ///< that a slide lasts; not above 0 if what is given is none
     QString title;
     bool plain = false;
+    bool json = false;
     bool keep = false;
     bool debug = false;
     bool help = false;
@@ -29,7 +31,18 @@ struct Arguments {
 };
 
 /** The options that a command may have of its own. Their names are in the table of the command line. */
-enum Option { Plain = 1, Keep = 2, Output = 4, PartsFolder = 8, Ignore = 16, Size = 32, Seconds = 64, Title = 128 };
+enum Option {
+    Plain = 1,
+    Keep = 2,
+    Output = 4,
+    PartsFolder = 8,
+    Ignore = 16,
+    Size = 32,
+    Seconds = 64,
+    Title = 128,
+    Json = 256,
+    IntoFolder = 512
+};
 
 /** How a command went with a file. */
 struct Result {

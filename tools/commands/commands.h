@@ -13,9 +13,11 @@ extern const Command renderCommand;
 extern const Command storyboardCommand;
 extern const Command checkCommand;
 extern const Command composeCommand;
+extern const Command extractCommand;
 
 /** In the order in which the help lists them. */
-const Command *const allCommands[] = {&showCommand, &renderCommand, &storyboardCommand, &checkCommand, &composeCommand};
+const Command *const allCommands[] = {&showCommand,  &renderCommand,  &storyboardCommand,
+                                      &checkCommand, &composeCommand, &extractCommand};
 
 /** Writes the model of the message to @p out, as an indented outline. */
 void show(const Message &message, QIODevice &out);

@@ -4,6 +4,7 @@
 #include "bounds.h"
 #include "commands.h"
 #include "escaping.h"
+#include "json.h"
 
 #include <QtCore/QIODevice>
 
@@ -149,12 +150,18 @@ void show(const Message &message, QIODevice &out)
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    return withMessage(file, arguments, arguments.plain ? SmilParser::AsWritten : SmilParser::ClockDurations,
-                       [&out](const Message &message) {
-                           show(message, out);
-                           return Result();
-                       });
+    Message message;
+    const Problem problem =
+        readMessage(file, QString(), arguments.plain ? SmilParser::AsWritten : SmilParser::ClockDurations, message);
+    if (problem.isNone()) {
+        arguments.json ? showJson(message, out) : show(message, out);
+        return Result();
+    }
+    if (arguments.json) {
+        showJson(file, problem, out);
+    }
+    return {false, {problem.toString()}};
 }
 
 const Command showCommand = {
-    "show", "FILE...", Plain, "Prints an outline of each message.", "smiltool show message.smil", run};
+    "show", "FILE...", Plain | Json, "Prints an outline of each message.", "smiltool show message.smil", run};
