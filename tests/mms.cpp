@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "mms.h"
+#include "mmsbytes.h"
 
 #include <QtTest/QtTest>
 
@@ -10,36 +11,6 @@
 
 static const QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452");
 static const QByteArray slides("<smil><head/><body/></smil>");
-
-static QByteArray uintvar(int number)
-{
-    QByteArray bytes(1, char(number & 0x7F));
-    while (number >>= 7) {
-        bytes.prepend(char(number | 0x80));
-    }
-    return bytes;
-}
-
-static QByteArray text(const QByteArray &bytes)
-{
-    return bytes + '\0';
-}
-
-/** The bytes after their length, as a value. */
-static QByteArray sized(const QByteArray &bytes)
-{
-    return (bytes.size() < 31 ? QByteArray(1, char(bytes.size())) : '\x1F' + uintvar(int(bytes.size()))) + bytes;
-}
-
-static QByteArray part(const QByteArray &headers, const QByteArray &data)
-{
-    return uintvar(int(headers.size())) + uintvar(int(data.size())) + headers + data;
-}
-
-static QByteArray message(const QByteArray &contentType, int count, const QByteArray &parts)
-{
-    return QByteArray("\x8C\x80\x8D\x92") + '\x84' + contentType + uintvar(count) + parts;
-}
 
 /** A message that uses every way to write something. */
 static QByteArray greeting()
