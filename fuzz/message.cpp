@@ -2,11 +2,19 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
+#include "escaping.h"
+#include "filenames.h"
+#include "json.h"
 #include "require.h"
+#include "safename.h"
 
 #include <smilparser/mmslogger.h>
 
+#include <smilparser/smilplayback.h>
+
 #include <QtCore/QBuffer>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 
 #include <algorithm>
 #include <functional>
@@ -42,6 +50,55 @@ static void takeApart(const QByteArray &bytes)
     require(total <= bytes.size(), "there is no more data than there was");
 }
 
+/** That files can have these names, and are found by them as the parts are. */
+static void nameFiles(const Message &message, const QStringList &srcs)
+{
+    const FileNames files = fileNames(message, srcs);
+    require(files.names.size() == message.parts.size(), "each part has a name");
+    QMap<QString, int> sorted;
+    for (int i = 0; i < int(files.names.size()); ++i) {
+        const QString &name = files.names.at(i);
+        require(!name.isEmpty() && safeName(name) == name, "a name is safe");
+        require(name.toUtf8().size() <= 200 && QString::fromUtf8(name.toUtf8()) == name, "a name can be written");
+        require(!name.contains(QLatin1Char('/')) && name.front() != QLatin1Char('.') && name.front() != QLatin1Char('-')
+                    && !name.front().isSpace() && printable(name) == name,
+                "a name is that of a file in the folder, and shows");
+        require(!sorted.contains(name), "no two have the same name");
+        sorted.insert(name, i);
+        const QString numbered = numberedName(name, i + 2);
+        require(safeName(numbered) == numbered && numbered.toUtf8().size() <= 200, "a name with a number is safe");
+    }
+    SmilParts finder;
+    for (auto name = sorted.cbegin(); name != sorted.cend(); ++name) {
+        finder.add(name.value(), name.key());
+    }
+    QMap<QString, QString> lost;
+    for (const auto &[src, name] : files.lost) {
+        lost.insert(src, name);
+    }
+    for (const QString &src : srcs) {
+        const int part = message.parts.find(src);
+        require(finder.find(src) == (lost.contains(src) ? -1 : part), "a src means the file of its part");
+        require(!lost.contains(src) || lost.value(src) == files.names.at(part), "what is said is the name of the part");
+    }
+}
+
+/** The srcs of the message, and what its parts are called, in more than one way. */
+static void nameFiles(const Message &message)
+{
+    QStringList srcs;
+    const SmilTimeline timeline(message.dom.documentElement());
+    for (const SmilCue &cue : timeline.cues) {
+        srcs.append(cue.ref.src);
+    }
+    nameFiles(message, srcs);
+    for (const MmsPart &part : message.mms.parts) {
+        srcs += {part.name, QLatin1String("cid:") + part.id, part.location.toUpper(),
+                 QString::fromLatin1(part.name.toUtf8().toPercentEncoding())};
+    }
+    nameFiles(message, srcs);
+}
+
 /** That a terminal obeys nothing in what was written, and that there is not too much of it. */
 static void requireOutput(const QByteArray &out, qint64 most)
 {
@@ -75,6 +132,10 @@ static void runCommands(Message message, qint64 size)
 {
     const qint64 most = 4096 + 64 * size;
     requireOutput(written([&](QIODevice &out) { show(message, out); }), most);
+    const QByteArray json = written([&](QIODevice &out) { showJson(message, out); });
+    requireOutput(json, 4096 + 256 * size);
+    require(!QJsonDocument::fromJson(json).object().isEmpty() && json.indexOf('\n') == json.size() - 1,
+            "JSON is one line that can be read");
     bool found = false;
     const QByteArray findings = written([&](QIODevice &out) { found = check(message, true, {}, out); });
     requireOutput(findings, most);
@@ -99,10 +160,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const Problem problem = readBytes(bytes, QStringLiteral("-"), QString(), SmilParser::ClockDurations, message);
     require(!problem.toString().contains(QLatin1Char('\n')) && problem.isNone() == problem.text.isEmpty(),
             "a problem is one line");
+    if (message.parts.areKnown()) {
+        nameFiles(message);
+    }
     if (problem.isNone()) {
         runCommands(message, qint64(size));
         if (!message.parts.areKnown()) {
-            message.parts = Parts(companions());
+            message.mms = companions();
+            message.parts = Parts(message.mms);
             runCommands(message, qint64(size));
         }
     }
