@@ -167,6 +167,8 @@ void Tool::badUsage_data()
     row("show", "no file given.");
     row("show ''", "the name of a file is empty.");
     row("storyboard holiday.smil -o ''", "the name of a file is empty.");
+    row("extract -", "no folder given; -d DIR says which.");
+    row("extract - -d ''", "the name of a file is empty.");
     row("show --loud -", "Unknown option 'loud'.");
     row("show --keep -", "Unknown option 'keep'.");
     for (const char *const size : {"0x480", "320", "1.5x480", "320x480x", "1000000x480"}) {
@@ -317,7 +319,7 @@ void Tool::messageAsItIsSent()
 
 void Tool::completionKnowsEveryOption()
 {
-    for (const char *const command : {"show", "render", "storyboard", "check", "compose"}) {
+    for (const char *const command : {"show", "render", "storyboard", "check", "compose", "extract"}) {
         const QString help = smiltool({QLatin1String(command), QStringLiteral("--help")}).out;
         static const QRegularExpression option(QStringLiteral("^  .*(--[a-z]+)"), QRegularExpression::MultilineOption);
         QStringList options;
