@@ -48,12 +48,12 @@ public:
         checkLayout(smil, message.document.header.layout);
         checkRegions();
         checkParts(smil.lineNumber());
-        findCrowding(smil, message.document.header.layout, found);
         const SmilNode &root = message.document.body.root;
         if (root.children.isEmpty() && root.refs.isEmpty()) {
             add(Finding::EmptyTimeline, smil.firstChildElement(QStringLiteral("body")),
                 QStringLiteral("nothing plays"));
         }
+        findCrowding(smil, message.document.header.layout, found); // changes the tree
         return found;
     }
 

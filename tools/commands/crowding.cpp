@@ -2,32 +2,27 @@
 // SPDX-License-Identifier: MIT
 
 #include "crowding.h"
+#include "elements.h"
 
 #include <smilparser/smilplayback.h>
 
 #include <algorithm>
-
-static const QString lineName = QStringLiteral("alt");
-
-static void markLines(const QDomElement &element, QDomElement copy)
-{
-    copy.setAttribute(lineName, element.lineNumber());
-    QDomElement childCopy = copy.firstChildElement();
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        markLines(child, childCopy);
-        childCopy = childCopy.nextSiblingElement();
-    }
-}
+#include <utility>
 
 /**
- * A copy in which each element has its line in place of words, so that a cue has it. To walk the media beside the
- * timeline instead would be to decide a second time which of them it knows.
+ * Puts the line of each medium in place of its words, so that a cue has it. To walk the media beside the timeline
+ * instead would be to decide a second time which of them it knows. One without any attribute, which names nothing that
+ * could play, has none: to Qt 6, the first attribute of an element is larger than the element.
  */
-static QDomElement withLines(const QDomElement &element)
+static void markLines(QDomElement element)
 {
-    const QDomElement copy = element.cloneNode().toElement();
-    markLines(element, copy);
-    return copy;
+    if (element.hasAttributes()
+        && elementNamed(element.tagName().toLower()).attributes.contains(QStringLiteral("src"))) {
+        element.setAttribute(QStringLiteral("alt"), element.lineNumber());
+    }
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        markLines(child);
+    }
 }
 
 /** What many phones show one of on a slide. */
@@ -48,29 +43,27 @@ static QString subjectOf(const SmilRef &ref, bool hasRegion)
 
 void findCrowding(const QDomElement &smil, const SmilLayout &layout, Findings &found)
 {
+    markLines(smil);
     const SmilScreen screen(layout);
-    const SmilTimeline timeline(withLines(smil));
-    struct Addition {
-        int line;
-        QString subject;
-        QString src;
-    };
-    QList<Addition> additions;
+    const SmilTimeline timeline(smil);
+    QList<const SmilCue *> additions;
     // The cues are in the order in which they begin: one comes in addition if any of those before it still plays.
     QHash<QPair<int, int>, double> ends;
     for (const SmilCue &cue : timeline.cues) {
         if (cue.begin < cue.end) {
-            const int region = screen.indexOf(cue.ref.region);
-            double &end = ends[{roomOf(cue.ref), region}];
+            double &end = ends[{roomOf(cue.ref), screen.indexOf(cue.ref.region)}];
             if (cue.begin < end) {
-                additions.append({cue.alt.toInt(), subjectOf(cue.ref, region >= 0), excerpt(cue.ref.src)});
+                additions.append(&cue);
             }
             end = std::max(end, cue.end);
         }
     }
+    const int bodyLine = smil.firstChildElement(QStringLiteral("body")).lineNumber();
+    const auto lineOf = [=](const SmilCue *cue) { return cue->alt.isEmpty() ? bodyLine : cue->alt.toInt(); };
     std::stable_sort(additions.begin(), additions.end(),
-                     [](const Addition &a, const Addition &b) { return a.line < b.line; });
-    for (const Addition &addition : std::as_const(additions)) {
-        found.add(Finding::CrowdedSlide, addition.line, addition.subject, addition.src);
+                     [&](const SmilCue *a, const SmilCue *b) { return lineOf(a) < lineOf(b); });
+    for (const SmilCue *const cue : std::as_const(additions)) {
+        found.add(Finding::CrowdedSlide, lineOf(cue), subjectOf(cue->ref, screen.indexOf(cue->ref.region) >= 0),
+                  excerpt(cue->ref.src));
     }
 }
