@@ -33,10 +33,13 @@ Parts::Parts(const MmsMessage &message)
         const QString &place = part.location.isEmpty() ? part.id : part.location;
         add(part.name.isEmpty() ? place : part.name, part.data);
     }
-    // What identifies one part goes before what another is merely called.
-    for (QString MmsPart::*const name : {&MmsPart::id, &MmsPart::location, &MmsPart::name}) {
-        for (int i = 0; i < size(); ++i) {
-            m_names.add(i, message.parts.at(i).*name);
+    // Names are bare here. What is still around one of them belongs to it, and "<" and ">" are taken off instead.
+    for (const auto &format : {QStringLiteral("%1"), QStringLiteral("<%1>")}) {
+        // What identifies one part goes before what another is merely called.
+        for (QString MmsPart::*const name : {&MmsPart::id, &MmsPart::location, &MmsPart::name}) {
+            for (int i = 0; i < size(); ++i) {
+                m_names.add(i, format.arg(message.parts.at(i).*name));
+            }
         }
     }
 }
