@@ -294,7 +294,8 @@ void Tool::messageAsItIsSent()
                                "  body\n"
                                "    par, no duration\n"
                                "      img \"cid:one\"\n"
-                               "      text \"hello.txt\"\n"));
+                               "      text \"hello.txt\"\n"
+                               "  plays 5s\n"));
     QCOMPARE(smiltool({QStringLiteral("check"), QStringLiteral("-")}, message).out, QString());
     const QByteArray numbered = QByteArray(message).replace("photo.png", "ph%1%3.pn");
     QVERIFY(smiltool({QStringLiteral("show"), QStringLiteral("-")}, numbered)

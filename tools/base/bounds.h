@@ -41,7 +41,7 @@ const int indentation = 40;
 // Of a storyboard. What is played at once beyond these is not told apart any more.
 const int frames = 400;
 const int media = 100; ///< in a frame
-const int order = 300; ///< characters that say what follows what
+const int description = 300; ///< characters that say what is in a frame
 const double screen = 100000; ///< pixels from edge to edge
 const qint64 pictures = 32 * mebibyte; ///< all together
 const int drawn = 1000; ///< parts of which it shows more than the name

@@ -8,6 +8,7 @@
 #include "media.h"
 #include "outputfile.h"
 #include "svg.h"
+#include "times.h"
 
 #include <algorithm>
 
@@ -20,7 +21,7 @@ svg { color: #1c2330; font: 11px sans-serif; }
 text { fill: currentColor; }
 .page { fill: #fff; }
 .screen { fill: #eef1f5; stroke: #8a94a3; }
-.region { stroke: #345; stroke-width: 0.75; }
+.region { stroke: #345; stroke-width: 0.75; fill: none; }
 .r0 { fill: #9ecae9; } .r1 { fill: #ffd08a; } .r2 { fill: #a8dba0; } .r3 { fill: #e2b3dd; } .r4 { fill: #f3b0a6; }
 .region { fill-opacity: 0.8; }
 .number { font-weight: bold; font-size: 13px; }
@@ -39,11 +40,12 @@ text { fill: currentColor; }
 static void draw(Svg &svg, Media &media, const Picture &picture, const Screen &screen, const QString &heading)
 {
     svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
-    for (auto region = picture.inRegions.cbegin(); region != picture.inRegions.cend(); ++region) {
-        svg.rectangle(screen.areas.at(region.key()), QStringLiteral("region r%1").arg(region.key() % 5));
-        media.draw(region.value(), region.key());
+    for (const Shown &shown : picture.shown) {
+        const QString colour = shown.region < 0 ? QString() : QStringLiteral(" r%1").arg(shown.region % 5);
+        svg.rectangle(shown.area, QLatin1String("region") + colour);
+        media.draw(shown);
     }
-    // After all regions, so that none hides a name in another.
+    // After all of these, so that none hides a name in another.
     for (const Label &label : picture.labels) {
         svg.beginClip(QRectF(label.area.topLeft(), QSizeF(label.room, lineHeight)));
         svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.isId ? "id" : nullptr);
@@ -58,19 +60,30 @@ static void draw(Svg &svg, Media &media, const Picture &picture, const Screen &s
     svg.endGroup();
 }
 
-static QString summary(const QList<Frame> &frames)
+static QString summary(const QList<Frame> &frames, const QString &duration)
 {
     QStringList all;
     for (const Frame &frame : frames) {
-        all.append(QStringLiteral("%1 (%2): %3").arg(all.size() + 1).arg(frame.dur, frame.order));
+        QStringList words;
+        for (const SmilCue &cue : frame.cues) {
+            words.append(wordsFor(cue));
+        }
+        all.append(frame.heading + QLatin1String(": ")
+                   + shortened(words.join(QLatin1String(" + ")), bounds::description));
     }
-    return all.isEmpty() ? QStringLiteral("Nothing plays.") : all.join(QLatin1String("; "));
+    return duration + QLatin1Char(' ') + all.join(QLatin1String("; "));
+}
+
+static SmilTimeline timelineOf(const Message &message)
+{
+    return SmilTimeline(message.dom.documentElement());
 }
 
 bool storyboard(Message &message, QIODevice &out)
 {
     const Screen screen(message.document.header.layout);
-    const QList<Frame> frames = framesOf(message.document.body.root);
+    const SmilTimeline timeline = timelineOf(message);
+    const QList<Frame> frames = framesOf(timeline);
     Captions captions(screen, message.parts);
     QList<Picture> pictures;
     double lines = 0;
@@ -83,39 +96,41 @@ bool storyboard(Message &message, QIODevice &out)
     const auto count = qMax<qsizetype>(1, frames.size());
     const auto rows = (count + columns - 1) / columns;
     const QSizeF page(margin + qMin<double>(columns, count) * cellWidth, margin + rows * cellHeight);
+    const QString duration = QStringLiteral("Plays %1.").arg(lengthText(timeline.duration));
+    const QString nothing = QStringLiteral("Nothing plays.");
 
     Svg svg(out);
-    svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)), summary(frames), styleSheet);
+    svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
+              frames.isEmpty() ? nothing : summary(frames, duration), styleSheet);
     svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
-    if (frames.isEmpty()) {
-        svg.text(QPointF(margin, 2 * lineHeight), QStringLiteral("Nothing plays."));
-    }
     Media media(svg, screen, message.parts);
     for (int i = 0; i < frames.size(); ++i) {
         svg.beginGroup(QPointF(margin + i % columns * cellWidth, margin + i / columns * cellHeight));
-        draw(svg, media, pictures.at(i), screen, QStringLiteral("%1 \u00b7 %2").arg(i + 1).arg(frames.at(i).dur));
+        draw(svg, media, pictures.at(i), screen, frames.at(i).heading);
         svg.endGroup();
     }
-    if (frames.size() == bounds::frames) {
-        svg.text(QPointF(margin, page.height() - 4), QStringLiteral("No more than %1 are drawn.").arg(bounds::frames));
+    const QString more = timeline.slides.size() > frames.size()
+        ? QStringLiteral(" No more than %1 slides are drawn.").arg(bounds::frames)
+        : QString();
+    if (frames.isEmpty()) {
+        svg.text(QPointF(margin, 2 * lineHeight), nothing);
+    } else {
+        svg.text(QPointF(margin, page.height() - 4), duration + more);
     }
     return svg.end();
-}
-
-static bool refersTo(const SmilNode &node, const Parts &parts, int part)
-{
-    return std::any_of(node.refs.cbegin(), node.refs.cend(),
-                       [&](const SmilRef &ref) { return parts.find(ref.src) == part; })
-        || std::any_of(node.children.cbegin(), node.children.cend(),
-                       [&](const SmilNode &child) { return refersTo(child, parts, part); });
 }
 
 /** Whether a file in the folder of the parts is one that the message refers to. */
 static bool isPart(const QString &name, const QString &folder, const Message &message)
 {
     const QString file = folder.isEmpty() ? QString() : nameIn(folder, name);
-    const int part = file.isEmpty() ? -1 : message.parts.find(file);
-    return part >= 0 && refersTo(message.document.body.root, message.parts, part);
+    const int part = message.parts.find(file);
+    if (part < 0) {
+        return false;
+    }
+    const QList<SmilCue> cues = timelineOf(message).cues;
+    return std::any_of(cues.cbegin(), cues.cend(),
+                       [&](const SmilCue &cue) { return message.parts.find(cue.ref.src) == part; });
 }
 
 /** Draws to a file, but never over the message. */
@@ -134,15 +149,14 @@ static Result drawTo(const QString &name, const QString &folder, Message &messag
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     const bool toFile = !arguments.output.isNull() && arguments.output != QLatin1String("-");
-    return withMessage(
-        file, arguments, arguments.plain ? SmilParser::AsWritten : SmilParser::ClockDurations, [&](Message &message) {
-            return toFile ? drawTo(arguments.output, arguments.parts, message) : Result{storyboard(message, out), {}};
-        });
+    return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
+        return toFile ? drawTo(arguments.output, arguments.parts, message) : Result{storyboard(message, out), {}};
+    });
 }
 
 const Command storyboardCommand = {"storyboard",
                                    "FILE",
-                                   Plain | Output | PartsFolder,
+                                   Output | PartsFolder,
                                    "Draws a message as a picture, in SVG.",
                                    "smiltool storyboard message.smil -o board.svg",
                                    run};

@@ -12,7 +12,7 @@ static const double narrowest = 80; // that enough of a long name still fits int
 static const int mostLines = 6; // below a frame
 
 /** The name, cut to leave room for what is said of it, on a line below the frame. */
-static QString lineBelow(const QString &name, const QString &remark = QString())
+static QString lineBelow(const QString &name, const QString &remark)
 {
     return elided(name, frameWidth - width(remark)) + remark;
 }
@@ -22,37 +22,18 @@ static bool isDrawn(PartKind kind)
     return kind == PartKind::Picture || kind == PartKind::Text || kind == PartKind::Xml;
 }
 
-Captions::Place Captions::find(const SmilRef &ref)
+int Captions::find(const QString &src)
 {
-    const int region = screen.indexes.value(ref.region, -1);
-    const QString id = quoted(elided(shortened(ref.region, bounds::quotation), frameWidth / 3));
-    const int part = parts.find(ref.src);
-    const QString missing = parts.areKnown() && part < 0 ? QStringLiteral(", missing") : QString();
-    if (ref.type == SmilRef::Audio || ref.region.isEmpty()) {
-        return {-1, lineBelow(nameOf(ref), missing)};
-    }
-    if (region < 0) {
-        return {-1, lineBelow(nameOf(ref), missing + QLatin1String(", no region ") + id)};
-    }
-    if (screen.areas.at(region).isEmpty()) {
-        return {-1, lineBelow(nameOf(ref), missing + QLatin1String(", off screen in ") + id)};
-    }
-    const bool drawn = part >= 0 && isDrawn(parts.read(part).content.kind);
-    return {region, nameOf(ref), drawn ? part : -1, !missing.isEmpty()};
+    const auto known = found.constFind(src);
+    return known != found.constEnd() ? *known : *found.insert(src, parts.find(src));
 }
 
-const Captions::Place &Captions::placeOf(const SmilRef *ref)
+/** The first line of the area, from @p from on, that no other label takes; -1 when there is none. */
+static int freeLine(const QRectF &area, const QList<Label> &labels, int from, double length)
 {
-    const auto found = places.constFind(ref);
-    return found != places.constEnd() ? *found : *places.insert(ref, find(*ref));
-}
-
-/** The first line of the region, from @p from on, that no other label takes; -1 when there is none. */
-static int freeLine(const QRectF &region, const QList<Label> &labels, int from, double length)
-{
-    for (int line = from; (line + 1) * lineHeight <= region.height(); ++line) {
-        const QRectF area(region.x(), region.y() + line * lineHeight, length, lineHeight);
-        const auto taken = [&area](const Label &label) { return label.area.intersects(area); };
+    for (int line = from; (line + 1) * lineHeight <= area.height(); ++line) {
+        const QRectF text(area.x(), area.y() + line * lineHeight, length, lineHeight);
+        const auto taken = [&text](const Label &label) { return label.area.intersects(text); };
         if (std::none_of(labels.cbegin(), labels.cend(), taken)) {
             return line;
         }
@@ -60,27 +41,46 @@ static int freeLine(const QRectF &region, const QList<Label> &labels, int from, 
     return -1;
 }
 
-/** Writes the id and the names into the region where they fit. What does not is listed below the frame. */
-static void label(const QRectF &region, const QString &id, const Shown &shown, Picture &picture)
+/** Writes the id of the region and the name into the area, if they fit. A name that does not is listed below. */
+static void label(const Shown &shown, const QString &id, Picture &picture)
 {
-    const QStringList &names = shown.names;
-    const bool isFree = shown.drawn.isEmpty();
-    const bool withId = isFree && !id.isEmpty() && (names.size() + 1) * lineHeight <= region.height();
-    const QStringList lines = withId ? QStringList(id) + names : names;
+    const QRectF &area = shown.area;
+    const bool withId = !id.isEmpty() && 2 * lineHeight <= area.height();
     int next = 0;
-    for (int i = 0; i < lines.size(); ++i) {
-        const bool isId = withId && i == 0;
-        const QString text = region.width() < narrowest ? lines.at(i) : elided(lines.at(i), region.width() - 8);
+    for (const QString &line : withId ? QStringList{id, shown.name} : QStringList{shown.name}) {
+        const bool isId = withId && next == 0;
+        const QString text = area.width() < narrowest ? line : elided(line, area.width() - 8);
         const double length = width(text) + 8;
-        const bool fits = isFree && length <= region.width() && next >= 0;
-        const int line = fits ? freeLine(region, picture.labels, next, length) : -1;
-        if (line >= 0) {
-            const QRectF area(region.x(), region.y() + line * lineHeight, length, lineHeight);
-            picture.labels.append({area, region.width(), text, isId});
-            next = line + 1;
+        const int free = length <= area.width() ? freeLine(area, picture.labels, next, length) : -1;
+        if (free >= 0) {
+            const QRectF taken(area.x(), area.y() + free * lineHeight, length, lineHeight);
+            picture.labels.append({taken, area.width(), text, isId});
         } else if (!isId) {
-            picture.below.append(lineBelow(lines.at(i), id.isEmpty() ? id : QLatin1String(" in ") + id));
-            next = -1; // names stay in order
+            picture.below.append(lineBelow(line, id.isEmpty() ? id : QLatin1String(" in ") + id));
+        }
+        next = qMax(0, free) + 1;
+    }
+}
+
+void Captions::add(const SmilCue &cue, const QRectF &place, Picture &picture)
+{
+    const int region = screen.pixels.indexOf(cue.ref.region);
+    const QString id = screen.idOf(region);
+    const QString name = nameOf(cue.ref);
+    const int part = find(cue.ref.src);
+    const bool isMissing = parts.areKnown() && part < 0;
+    const QString remark = isMissing ? QStringLiteral(", missing") : QString();
+    const QRectF area = screen.visible(place);
+    if (cue.ref.type == SmilRef::Audio) {
+        picture.below.append(lineBelow(name, remark));
+    } else if (area.isEmpty()) {
+        picture.below.append(lineBelow(name, remark + QLatin1String(", off screen in ") + quoted(id)));
+    } else {
+        const bool drawn = part >= 0 && isDrawn(parts.read(part).content.kind);
+        const QString words = wordsFor(cue) + (id.isEmpty() ? id : QLatin1String(" in ") + id);
+        picture.shown.append({place, area, region, name, words, drawn ? part : -1, isMissing});
+        if (!drawn) {
+            label(picture.shown.last(), id, picture);
         }
     }
 }
@@ -88,24 +88,9 @@ static void label(const QRectF &region, const QString &id, const Shown &shown, P
 Picture Captions::of(const Frame &frame)
 {
     Picture picture;
-    for (const SmilRef *const ref : frame.media) {
-        const Place &place = placeOf(ref);
-        if (place.region < 0) {
-            picture.below.append(place.name);
-        } else if (place.part >= 0) {
-            picture.inRegions[place.region].drawn.append({place.part, place.name});
-        } else {
-            picture.inRegions[place.region].names.append(place.name);
-            picture.inRegions[place.region].missing |= place.missing;
-        }
-    }
-    for (auto region = picture.inRegions.cbegin(); region != picture.inRegions.cend(); ++region) {
-        label(screen.areas.at(region.key()), screen.ids.at(region.key()), region.value(), picture);
-    }
-    if (frame.nested) {
-        picture.below += wrapped(frame.order, frameWidth, mostLines);
-    } else if (frame.media.isEmpty()) {
-        picture.below.append(QStringLiteral("nothing plays"));
+    const QList<QRectF> places = screen.pixels.places(frame.cues);
+    for (int i = 0; i < frame.cues.size(); ++i) {
+        add(frame.cues.at(i), places.at(i), picture);
     }
     if (picture.below.size() > mostLines) {
         const auto more = picture.below.size() - mostLines + 1;

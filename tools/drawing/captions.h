@@ -8,33 +8,30 @@
 #include "parts.h"
 #include "screen.h"
 
-#include <QtCore/QMap>
-
-/** A text in a region. */
+/** A text on the screen. */
 struct Label {
     QRectF area; ///< that it takes, about
-    double room; ///< to the edge of its region
+    double room; ///< to the edge of the place that it is in
     QString text;
     bool isId;
 };
 
-struct Drawn {
-    int part;
-    QString name;
-};
-
-/** What plays in one region. */
+/** A medium that can be seen. */
 struct Shown {
-    QList<Drawn> drawn; ///< whose parts are drawn
-    QStringList names; ///< of all others
-    bool missing = false; ///< whether one of these has no part
+    QRectF place; ///< on the message's screen
+    QRectF area; ///< what of it can be seen, in units of the picture
+    int region; ///< -1: none
+    QString name;
+    QString words; ///< in place of what is drawn
+    int part; ///< that is drawn in place of its name; -1: none
+    bool missing;
 };
 
 /** What is drawn for one frame. */
 struct Picture {
-    QMap<int, Shown> inRegions; ///< by the region's index
+    QList<Shown> shown;
     QList<Label> labels;
-    QStringList below; ///< what has no place on the screen, and what follows what
+    QStringList below; ///< what has no place on the screen, or no room there
 };
 
 /** Says what plays in frames, and where there is room to say it. */
@@ -50,21 +47,13 @@ public:
     Picture of(const Frame &frame);
 
 private:
-    /** Where what plays is shown, and how. */
-    struct Place {
-        int region; ///< -1: below the frame
-        QString name;
-        int part = -1; ///< that is drawn
-        bool missing = false;
-    };
-
-    const Place &placeOf(const SmilRef *ref);
-    Place find(const SmilRef &ref);
+    int find(const QString &src);
+    void add(const SmilCue &cue, const QRectF &place, Picture &picture);
 
     const Screen &screen;
     Parts &parts;
     // Each is looked for once, however many frames show it: both its name and the names of parts may be long.
-    QHash<const SmilRef *, Place> places;
+    QHash<QString, int> found;
 };
 
 #endif

@@ -5,116 +5,37 @@
 #include "bounds.h"
 #include "escaping.h"
 #include "mediakind.h"
+#include "times.h"
+
+#include <QtCore/qnumeric.h>
+
+static QString withSign(const SmilRef &ref, const QString &text)
+{
+    // The end of a long name has its extension.
+    const bool isLong = text.size() > bounds::name;
+    return QChar(mediaKind(ref).sign) + QLatin1Char(' ')
+        + printable(isLong ? shortened(text, bounds::name - 10) + text.right(10) : text);
+}
 
 QString nameOf(const SmilRef &ref)
 {
-    const QString sign = QString(QChar(mediaKind(ref).sign)) + QLatin1Char(' ');
-    if (ref.src.isEmpty()) {
-        return sign + QLatin1Char('?');
-    }
-    // The end of a long name has its extension.
-    const bool isLong = ref.src.size() > bounds::name;
-    return sign + printable(isLong ? shortened(ref.src, bounds::name - 10) + ref.src.right(10) : ref.src);
+    return withSign(ref, ref.src.isEmpty() ? QStringLiteral("?") : ref.src);
 }
 
-static QList<Frame> split(const SmilNode &node);
-
-static void add(Frame &frame, const QString &order, bool sequence)
+QString wordsFor(const SmilCue &cue)
 {
-    if (frame.order.size() < bounds::order) {
-        const QString separator = sequence ? QStringLiteral(" \u2192 ") : QStringLiteral(" + ");
-        frame.order = shortened(frame.order + (frame.order.isEmpty() ? QString() : separator) + order, bounds::order);
-    }
+    return cue.alt.isEmpty() ? nameOf(cue.ref) : withSign(cue.ref, cue.alt);
 }
 
-static void add(Frame &frame, const QList<const SmilRef *> &media)
-{
-    frame.media += media.mid(0, bounds::media - frame.media.size());
-}
-
-/** Adds all that plays in the node, but for one of its children, to one frame. */
-static void addAll(Frame &frame, const SmilNode &node, const SmilNode *except = nullptr)
-{
-    const bool sequence = node.type == SmilNode::Seq;
-    for (const SmilNode &child : node.children) {
-        if (&child == except || frame.media.size() >= bounds::media) {
-            continue;
-        }
-        Frame inner;
-        addAll(inner, child);
-        add(frame, inner.media);
-        frame.nested = true;
-        add(frame, QLatin1Char('(') + inner.order + QLatin1Char(')'), sequence);
-    }
-    for (const SmilRef &ref : node.refs) {
-        if (frame.media.size() >= bounds::media) {
-            return;
-        }
-        frame.media.append(&ref);
-        add(frame, nameOf(ref), sequence);
-    }
-}
-
-static QList<Frame> splitSequence(const SmilNode &node)
+QList<Frame> framesOf(const SmilTimeline &timeline)
 {
     QList<Frame> frames;
-    for (const SmilNode &child : node.children) {
-        if (frames.size() < bounds::frames) {
-            frames += split(child);
-        }
-    }
-    for (const SmilRef &ref : node.refs) {
-        if (frames.size() < bounds::frames) {
-            frames.append(Frame{QString(), {&ref}, nameOf(ref)});
-        }
-    }
-    return frames.isEmpty() ? QList<Frame>{Frame()} : frames.mid(0, bounds::frames);
-}
-
-static QList<Frame> splitParallel(const SmilNode &node)
-{
-    QList<Frame> frames{Frame()};
-    const SmilNode *longest = nullptr;
-    for (const SmilNode &child : node.children) {
-        const QList<Frame> inner = split(child);
-        if (inner.size() > frames.size()) {
-            frames = inner;
-            longest = &child;
-        }
-    }
-    Frame others;
-    addAll(others, node, longest);
-    for (Frame &frame : frames) {
-        add(frame, others.media);
-        frame.nested = frame.nested || others.nested;
-        if (!others.order.isEmpty()) {
-            add(frame, others.order, false);
-        }
-    }
-    return frames;
-}
-
-static QList<Frame> split(const SmilNode &node)
-{
-    QList<Frame> frames = node.type == SmilNode::Seq ? splitSequence(node) : splitParallel(node);
-    for (Frame &frame : frames) {
-        if (frame.dur.isEmpty() && node.dur.valid) {
-            frame.dur = (frames.size() > 1 ? QStringLiteral("within ") : QString()) + node.dur.toString();
-        }
-    }
-    return frames;
-}
-
-QList<Frame> framesOf(const SmilNode &body)
-{
-    if (body.children.isEmpty() && body.refs.isEmpty()) {
-        return {};
-    }
-    QList<Frame> frames = splitSequence(body);
-    for (Frame &frame : frames) {
-        if (frame.dur.isEmpty()) {
-            frame.dur = body.dur.valid ? QLatin1String("within ") + body.dur.toString() : QStringLiteral("not stated");
-        }
+    const QList<double> slides = timeline.slides.mid(0, bounds::frames + 1);
+    for (int i = 0; i < qMin(int(slides.size()), bounds::frames); ++i) {
+        const double begin = slides.at(i);
+        const double length = slides.value(i + 1, timeline.duration) - begin;
+        frames.append({QStringLiteral("%1 \u00b7 %2 \u00b7 %3").arg(i + 1).arg(clockText(begin), lengthText(length)),
+                       timeline.during(begin, slides.value(i + 1, qInf())).mid(0, bounds::media)});
     }
     return frames;
 }

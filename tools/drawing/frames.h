@@ -4,23 +4,21 @@
 #ifndef SMILTOOL_FRAMES_H
 #define SMILTOOL_FRAMES_H
 
-#include <smilparser/smilparser.h>
+#include <smilparser/smilplayback.h>
 
-/** What plays at one time of the message. It points into the message. */
+/** A slide of the message. */
 struct Frame {
-    QString dur; ///< how long, in words
-    QList<const SmilRef *> media;
-    QString order; ///< "a + b" at once, "a → b" one after another
-    bool nested = false; ///< whether the order says more than the media do
+    QString heading; ///< its number, when it begins, and how long it takes: "2 · 0:06.825 · 3s"
+    QList<SmilCue> cues; ///< bounds::media at most
 };
 
-/**
- * The frames of the timeline, one after another, bounds::frames at most. A seq gives those of each thing in it. A par
- * gives one, or those of the seq in it that has the most, with all else in the par added to each.
- */
-QList<Frame> framesOf(const SmilNode &body);
+/** The slides, one after another, bounds::frames at most. */
+QList<Frame> framesOf(const SmilTimeline &timeline);
 
 /** The name of what plays, not longer than a line, with a sign for its kind. */
 QString nameOf(const SmilRef &ref);
+
+/** The same for who cannot see it: the words that the message has for it, if any, in place of its name. */
+QString wordsFor(const SmilCue &cue);
 
 #endif

@@ -4,49 +4,60 @@
 #include "media.h"
 #include "charset.h"
 #include "escaping.h"
+#include "picturesize.h"
 #include "typesetting.h"
 
 #include <QtCore/QRegularExpression>
 
-void Media::draw(const Shown &shown, int region)
+void Media::draw(const Shown &shown)
 {
-    for (const Drawn &each : shown.drawn) {
-        const QString id = QStringLiteral("p%1-%2").arg(each.part).arg(region);
-        if (drawn.contains(id)) {
-            svg.reuse(id);
-        } else {
-            drawn.insert(id);
-            draw(parts.read(each.part), region, each.name, id);
+    const QRectF &area = shown.area;
+    const QString what = QStringLiteral("%1 %2 %3 %4 %5 %6 ")
+                             .arg(shown.part)
+                             .arg(shown.region)
+                             .arg(area.x())
+                             .arg(area.y())
+                             .arg(area.width())
+                             .arg(area.height())
+        + shown.words;
+    const auto before = drawn.constFind(what);
+    if (shown.part < 0) {
+        if (shown.missing) {
+            svg.cross(area);
         }
-    }
-    if (shown.missing && shown.drawn.isEmpty()) {
-        svg.cross(screen.areas.at(region));
+    } else if (before != drawn.constEnd()) {
+        svg.reuse(*before);
+    } else {
+        const QString id = QStringLiteral("p%1").arg(drawn.size() + 1);
+        drawn.insert(what, id);
+        draw(parts.read(shown.part), shown, id);
     }
 }
 
-void Media::draw(const Parts::Part &part, int region, const QString &name, const QString &id)
+void Media::draw(const Parts::Part &part, const Shown &shown, const QString &id)
 {
-    svg.beginClip(screen.areas.at(region), id);
-    svg.title(name + QLatin1String(" in ") + screen.ids.at(region));
+    svg.beginClip(shown.area, id);
+    svg.title(shown.words);
     const bool isPicture = part.content.kind == PartKind::Picture;
     if (drawn.size() > bounds::drawn || (isPicture && part.data.size() > left)) {
-        svg.text(QPointF(4, 0.75 * lineHeight), name);
+        svg.text(QPointF(4, 0.75 * lineHeight), shown.name);
     } else if (isPicture) {
-        drawPicture(part, region);
+        drawPicture(part, shown);
     } else {
-        drawText(part, screen.areas.at(region).size());
+        drawText(part, shown.area.size());
     }
     svg.endGroup();
 }
 
-void Media::drawPicture(const Parts::Part &part, int region)
+void Media::drawPicture(const Parts::Part &part, const Shown &shown)
 {
-    const QString &fit = screen.fits.at(region);
-    const char *const aspectRatio = fit == QLatin1String("meet") ? "xMinYMin meet"
-        : fit == QLatin1String("slice")                          ? "xMinYMin slice"
-        : fit == QLatin1String("fill")                           ? "none"
-                                                                 : nullptr;
-    svg.image(part.content.type, part.data, screen.areas.at(region).size(), aspectRatio, screen.scale);
+    // A place may reach as far as numbers do, where a viewer finds nothing.
+    const QRectF near(-bounds::screen, -bounds::screen, 3 * bounds::screen, 3 * bounds::screen);
+    const QRectF place = shown.place.intersected(near);
+    const QString fit = screen.fitOf(shown.region);
+    const QSizeF size = pictureSize(part.data);
+    const QRectF fitted = scaled(size.isEmpty() ? place : SmilScreen::fitted(size, place, fit), screen.scale);
+    svg.image(part.content.type, part.data, fitted.translated(-shown.area.topLeft()), fit == QLatin1String("fill"));
     left -= part.data.size();
 }
 

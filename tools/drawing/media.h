@@ -8,9 +8,7 @@
 #include "captions.h"
 #include "svg.h"
 
-#include <QtCore/QSet>
-
-/** Draws the parts, each only once in a region: where other frames show it again, they refer to the first. */
+/** Draws the parts, each only once in a place: where other frames show it again, they refer to the first. */
 class Media
 {
 public:
@@ -21,17 +19,17 @@ public:
     {
     }
 
-    void draw(const Shown &shown, int region);
+    void draw(const Shown &shown);
 
 private:
-    void draw(const Parts::Part &part, int region, const QString &name, const QString &id);
-    void drawPicture(const Parts::Part &part, int region);
+    void draw(const Parts::Part &part, const Shown &shown, const QString &id);
+    void drawPicture(const Parts::Part &part, const Shown &shown);
     void drawText(const Parts::Part &part, const QSizeF &size);
 
     Svg &svg;
     const Screen &screen;
     Parts &parts;
-    QSet<QString> drawn;
+    QHash<QString, QString> drawn; ///< the id of each, by all that it depends on
     qint64 left = bounds::pictures;
 };
 

@@ -4,21 +4,44 @@
 #include "screen.h"
 #include "bounds.h"
 #include "escaping.h"
-#include "geometry.h"
 #include "typesetting.h"
 
-Screen::Screen(const SmilLayout &layout)
+static bool canBeDrawn(double side)
 {
-    const QSizeF root = rootSize(layout);
-    scale = qMin(frameWidth / root.width(), frameHeight / root.height());
-    size = root * scale;
-    for (const SmilRegion &region : layout.regions) {
-        const QRectF whole = areaOf(region, root);
-        if (!indexes.contains(region.id)) {
-            indexes.insert(region.id, int(areas.size()));
-        }
-        ids.append(elided(printable(shortened(region.id, bounds::quotation)), frameWidth / 2));
-        areas.append(QRectF(whole.topLeft() * scale, whole.size() * scale));
-        fits.append(region.fit);
+    return side >= 1 && side <= bounds::screen;
+}
+
+static SmilScreen screenOf(SmilLayout layout)
+{
+    const SmilScreen screen(layout);
+    if (canBeDrawn(screen.size.width()) && canBeDrawn(screen.size.height())) {
+        return screen;
     }
+    const QSizeF phone = SmilScreen(SmilLayout()).size;
+    layout.rootLayoutWidth = SmilUnit(phone.width(), SmilUnit::Px);
+    layout.rootLayoutHeight = SmilUnit(phone.height(), SmilUnit::Px);
+    return SmilScreen(layout);
+}
+
+QRectF scaled(const QRectF &rectangle, double scale)
+{
+    return QRectF(rectangle.topLeft() * scale, rectangle.size() * scale);
+}
+
+Screen::Screen(const SmilLayout &layout)
+    : regions(layout.regions)
+    , pixels(screenOf(layout))
+    , scale(qMin(frameWidth / pixels.size.width(), frameHeight / pixels.size.height()))
+    , size(pixels.size * scale)
+{
+}
+
+QRectF Screen::visible(const QRectF &place) const
+{
+    return scaled(place.intersected(QRectF(QPointF(), pixels.size)), scale);
+}
+
+QString Screen::idOf(int region) const
+{
+    return elided(printable(shortened(regions.value(region).id, bounds::quotation)), frameWidth / 2);
 }

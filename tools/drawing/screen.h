@@ -4,26 +4,30 @@
 #ifndef SMILTOOL_SCREEN_H
 #define SMILTOOL_SCREEN_H
 
-#include <smilparser/smilparser.h>
-
-#include <QtCore/QHash>
-#include <QtCore/QRectF>
+#include <smilparser/smilplayback.h>
 
 // In units of the picture; a page is some 800 of them wide.
 const double frameWidth = 184;
 const double frameHeight = 220;
 const double lineHeight = 15;
 
-/** Where things are drawn: the regions of a layout, in units of the picture. */
+/** The screen of the message, and how large it is drawn. */
 struct Screen {
     explicit Screen(const SmilLayout &layout);
 
-    double scale;
-    QSizeF size;
-    QHash<QString, int> indexes; ///< of the first region with each id
-    QStringList ids;
-    QList<QRectF> areas;
-    QStringList fits;
+    /** What of a place on the message's screen can be seen, in units of the picture; empty when nothing can. */
+    QRectF visible(const QRectF &place) const;
+    /** The region's name, so that it can be printed; empty for -1, as all of it. */
+    QString idOf(int region) const;
+    QString fitOf(int region) const { return regions.value(region).fit; }
+
+    QList<SmilRegion> regions;
+    SmilScreen pixels;
+    double scale; ///< units of the picture for each pixel
+    QSizeF size; ///< in these units
 };
+
+/** The rectangle, on paper of which each unit is @p scale. */
+QRectF scaled(const QRectF &rectangle, double scale);
 
 #endif

@@ -89,15 +89,12 @@ void Svg::cross(const QRectF &edges)
     writer.writeAttribute(QStringLiteral("class"), QStringLiteral("cross"));
 }
 
-void Svg::image(const QString &type, const QByteArray &data, const QSizeF &size, const char *aspectRatio, double scale)
+void Svg::image(const QString &type, const QByteArray &data, const QRectF &edges, bool distorted)
 {
     writer.writeEmptyElement(QStringLiteral("image"));
-    if (aspectRatio) {
-        attribute("width", size.width());
-        attribute("height", size.height());
-        writer.writeAttribute(QStringLiteral("preserveAspectRatio"), QLatin1String(aspectRatio));
-    } else {
-        writer.writeAttribute(QStringLiteral("transform"), QStringLiteral("scale(%1)").arg(scale));
+    area(edges);
+    if (distorted) {
+        writer.writeAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
     }
     writer.writeAttribute(QStringLiteral("href"),
                           QLatin1String("data:") + type + QLatin1String(";base64,") + QLatin1String(data.toBase64()));

@@ -30,11 +30,8 @@ public:
     void cross(const QRectF &area);
     void text(const QPointF &at, const QString &line, const char *kind = nullptr);
 
-    /**
-     * A picture of the given type, "image/png" for example. It is fitted into @p size as the aspect ratio says ("none"
-     * is one), or drawn in its own size times @p scale when that is null.
-     */
-    void image(const QString &type, const QByteArray &data, const QSizeF &size, const char *aspectRatio, double scale);
+    /** A picture of the given type, "image/png" for example; one of another shape is fitted in, or else distorted. */
+    void image(const QString &type, const QByteArray &data, const QRectF &edges, bool distorted);
     /** Draws again, at the same place, what has this id. */
     void reuse(const QString &id);
 

@@ -37,8 +37,7 @@ public:
     /** Which of the parts is the presentation, or -1. */
     int smil() const { return m_smil; }
 
-    /** The part that a src means, as SmilParts::find(). A part of a message goes by its identifier, location and name.
-     */
+    /** The part that a src means, as SmilParts::find(). A message's goes by its identifier, location and name. */
     int find(const QString &src) const { return m_names.find(src); }
 
     /** The part with its data and kind, which are looked at when they are first asked for. */
