@@ -101,6 +101,10 @@ void Check::findings_data()
         "<body><par>" + QByteArray("<img src='a' region='A'/>").repeated(30000) + "</par></body></smil>",
         QStringLiteral("-:2: two pictures or films at the same time in region \"A\": \"a\" (29999 times) "
                        "[crowded-slide]\n"));
+    row("two that name nothing, told at the body", "<body><par>\n<img/><IMG/></par></body></smil>",
+        QStringLiteral("-:1: nothing plays in region: \"A\" [unused-region]\n"
+                       "-:2: two pictures or films at the same time without a region: \"\" [crowded-slide]\n"
+                       "-:3: no src: img (2 times) [missing-src]\n"));
     row("nested", "<body><seq>\n<PAR><img src='a' region='A'/></PAR><q><par/></q></seq></body></smil>",
         QStringLiteral("-:3: nested: par in seq [nested-timeline]\n"),
         {QStringLiteral("--ignore"), QStringLiteral("lost")});
