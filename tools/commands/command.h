@@ -28,6 +28,9 @@ struct Arguments {
     bool debug = false;
     bool help = false;
     bool version = false;
+
+    /** Whether the output is to be a file, not standard output. */
+    bool toFile() const { return !output.isNull() && output != QLatin1String("-"); }
 };
 
 /** The options that a command may have of its own. Their names are in the table of the command line. */

@@ -78,9 +78,9 @@ static Result add(const QStringList &files, const QString &output, SmilComposer 
 
 static Result run(const QString &, const Arguments &arguments, QIODevice &out)
 {
-    const bool toFile = !arguments.output.isNull() && arguments.output != QLatin1String("-");
     SmilComposer composer(arguments.size, arguments.seconds);
-    const Result added = add(arguments.files, toFile ? arguments.output : QStringLiteral("/dev/stdout"), composer);
+    const Result added =
+        add(arguments.files, arguments.toFile() ? arguments.output : QStringLiteral("/dev/stdout"), composer);
     if (!added.well) {
         return added;
     }
@@ -88,7 +88,7 @@ static Result run(const QString &, const Arguments &arguments, QIODevice &out)
     message.header.title = arguments.title;
     const QByteArray text = SmilParser(message).toXml() + '\n';
     const auto write = [&text](QIODevice &device) { return device.write(text) == text.size(); };
-    if (!toFile) {
+    if (!arguments.toFile()) {
         write(out); // the caller looks whether all was written
         return added;
     }

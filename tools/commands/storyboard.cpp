@@ -148,9 +148,9 @@ static Result drawTo(const QString &name, const QString &folder, Message &messag
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    const bool toFile = !arguments.output.isNull() && arguments.output != QLatin1String("-");
     return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
-        return toFile ? drawTo(arguments.output, arguments.parts, message) : Result{storyboard(message, out), {}};
+        return arguments.toFile() ? drawTo(arguments.output, arguments.parts, message)
+                                  : Result{storyboard(message, out), {}};
     });
 }
 

@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "parts.h"
-#include "contentid.h"
-
-#include <utility>
 
 void Parts::add(const QString &name, const QByteArray &data)
 {
