@@ -21,7 +21,7 @@
  * @endcode
  *
  * The class is visible to the library whatever the host is compiled with. A host that declares the class itself,
- * exported and with this member, does not include this header; nothing else of the library does.
+ * exported and with this member, does not include this header. No other header of the library includes it.
  */
 // Imported by the library, exported by the host: on ELF, Q_DECL_IMPORT does for both. Q_DECL_EXPORT is "protected" in
 // some builds of Qt, and by that the library would look for the flag in itself.

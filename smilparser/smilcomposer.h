@@ -47,7 +47,8 @@ public:
      * nextSlide(), or if it is the first. @p seconds is how long it lasts; a value that is not finite and above 0 says
      * that nothing is known of that.
      *
-     * @return the SmilRef::src of the medium: the name under which its part is to be sent. It is made of @p name, which
+     * @return the SmilRef::src of the medium: the name under which its part is to be sent, as its Content-Location and
+     * as the name of its Content-Type, which is where phones look. It is made of @p name, which
      * may be a path, so that any phone finds the part by it: what follows the last "/" or "\", with "_" for each UTF-16
      * code unit but ASCII letters, digits, ".", "-" and "_", without the "." and "-" in front. If nothing is left, as
      * of a null or empty name, it is "part". It has at most 32 characters, and differs from all that were returned

@@ -50,7 +50,7 @@ public:
     double begin; ///< seconds from the beginning of the message; may be infinite
     double end; ///< as #begin, and never before it; equal to it when the medium never plays
 
-    bool operator==(const SmilCue &other) const; ///< whether all fields are equal; a null text is equal to an empty one
+    bool operator==(const SmilCue &other) const; ///< whether all fields are equal, as those of records are
     bool operator!=(const SmilCue &other) const; ///< whether any is not
 };
 Q_DECLARE_TYPEINFO(SmilCue, Q_MOVABLE_TYPE);
@@ -82,8 +82,8 @@ public:
      *
      * **What is stated.** A "dur" is when SmilUnit::convertClock(), or else SmilUnit::convert() in SmilUnit::Sec,
      * gives a finite number above 0. A "begin" or "end" is when SmilUnit::convertClock() understands it, after a
-     * leading "+" is dropped. Anything else is as if it were absent: "indefinite", which a message of slides cannot
-     * wait for; an event such as "click"; a time before the beginning. A "begin" that is not stated is 0.
+     * "+" that it begins with is dropped. Anything else is as if it were absent: "indefinite", which a message of
+     * slides cannot wait for; an event such as "click"; a time before the beginning. A "begin" that is not stated is 0.
      *
      * **What nothing states.** @p length is how long a medium takes by itself, in seconds. It is asked about each
      * medium that states neither "dur" nor "end", once and in document order, and counts when it is finite and above
@@ -107,8 +107,9 @@ public:
      * Times are sums from 0 on, in document order, and compared as they are. Those beyond the range of a double are
      * infinite.
      *
-     * Cost: linear in the number of elements and in the length of the times, and n log n in that of the media, which
-     * are sorted. Texts are shared. One call level per level of nesting; it does with a stack of 512 KiB, as parse().
+     * Cost: linear in the number of elements and in the length of the times, and n log n in that of the media, and of
+     * the params of each. Texts are shared. One call level per level of nesting; it does with a stack of 512 KiB, as
+     * parse().
      */
     explicit SmilTimeline(const QDomElement &smil, double slideDuration = 5.0,
                           const std::function<double(const SmilRef &)> &length = nullptr);
@@ -128,8 +129,8 @@ public:
      */
     QList<double> slides;
 
-    double
-        duration; ///< the end of "body" in seconds, whether something plays then or not; 0 when empty; may be infinite
+    /** The end of "body" in seconds, whether something plays then or not; 0 when empty; may be infinite. */
+    double duration;
 
     /**
      * What plays @p seconds after the beginning of the message, in the order of #cues: begin <= @p seconds < end.
@@ -218,9 +219,10 @@ public:
     QList<QRectF> places(const QList<SmilCue> &cues) const;
 
     /**
-     * The rectangle that the whole of a picture of size @p picture takes when it is shown in @p area by @p fit, a
-     * SmilRegion::fit. It is in the middle of the area, while SMIL would have it in the upper left corner; it may be
-     * larger, and then the host cuts it off at the area's edges.
+     * The rectangle that the whole of a picture of size @p picture, in pixels of the message, takes when it is shown in
+     * @p area by @p fit. That is the SmilRegion::fit of the medium's region:
+     * `regions.value(indexOf(cue.ref.region)).fit` with the SmilLayout::regions. It is in the middle of the area, while
+     * SMIL would have it in the upper left corner; it may be larger, and then the host cuts it off at the area's edges.
      *
      * | fit                            | The rectangle                                                               |
      * |--------------------------------|-----------------------------------------------------------------------------|

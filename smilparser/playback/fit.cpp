@@ -38,6 +38,7 @@ QRectF SmilScreen::fitted(const QSizeF &picture, const QRectF &area, const QStri
     }
     const double largest = std::numeric_limits<double>::max();
     QRectF rectangle(QPointF(), size.expandedTo(QSizeF(0, 0)).boundedTo(QSizeF(largest, largest)));
-    rectangle.moveCenter(area.center());
+    const QPointF centre = area.center();
+    rectangle.moveCenter({qBound(-largest, centre.x(), largest), qBound(-largest, centre.y(), largest)});
     return rectangle;
 }

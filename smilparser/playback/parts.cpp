@@ -3,6 +3,8 @@
 
 #include <smilparser/smilplayback.h>
 
+#include <cctype>
+
 /** The name without what may be around it. Each mark may be there without the other: some encodings end at a null. */
 static QString bareName(const QString &name)
 {
@@ -20,13 +22,21 @@ static QString bareName(const QString &name)
     return bare;
 }
 
+/** A "%" that no two digits follow stands for itself; Qt's own decoding would take what follows it, too. */
 static QString decoded(const QString &name)
 {
-    if (!name.contains(QLatin1Char('%'))) {
-        return name;
+    const auto isDigit = [](char c) { return std::isxdigit(uchar(c)) != 0; };
+    const QByteArray bytes = name.toUtf8();
+    QByteArray plain;
+    for (auto at = bytes.begin(); at != bytes.end(); ++at) {
+        if (*at == '%' && bytes.end() - at > 2 && isDigit(at[1]) && isDigit(at[2])) {
+            plain += QByteArray::fromHex(QByteArray(at + 1, 2));
+            at += 2;
+        } else {
+            plain += *at;
+        }
     }
-    const QByteArray bytes = QByteArray::fromPercentEncoding(name.toUtf8());
-    return QString::fromUtf8(bytes.constData(), bytes.size());
+    return QString::fromUtf8(plain.constData(), plain.size());
 }
 
 /** Whoever has the name first keeps it. */

@@ -147,10 +147,10 @@ static QRectF share(const QRectF &area, int index, int number)
 {
     if (area.width() > area.height()) {
         const double width = area.width() / number;
-        return QRectF(area.x() + width * index, area.y(), width, area.height());
+        return QRectF(qMin(largest, area.x() + width * index), area.y(), width, area.height());
     }
     const double height = area.height() / number;
-    return QRectF(area.x(), area.y() + height * index, area.width(), height);
+    return QRectF(area.x(), qMin(largest, area.y() + height * index), area.width(), height);
 }
 
 QList<QRectF> SmilScreen::places(const QList<SmilCue> &cues) const
