@@ -103,7 +103,7 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
 {
     QByteArray encoding = detectEncoding(bytes);
     const bool utf8 = isUtf8(encoding);
-    // Behind a mark, too, Qt 5 would take an encoding from an instruction. Qt 6 would only refuse what is refused anyway.
+    // Behind a mark, too, Qt 5 would take an encoding from an instruction. Qt 6 would only refuse what is refused here.
     if (utf8 && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
         return std::nullopt;
     }
