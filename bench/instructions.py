@@ -19,7 +19,7 @@ import tempfile
 
 QTS = {"Qt 6": "build/bench-qt6/bench/bench", "Qt 5": "build/bench-qt5/bench/bench"}
 
-FLOORS = {"parse": "floor-parse", "write": "floor-write", "show": "parse"}
+FLOORS = {"parse": "floor-parse", "write": "floor-write", "show": "parse", "text": "floor-text"}
 
 # What the work may cost of its floor. docs/performance.md says what stands in the way of Qt 5.
 BARS = {
