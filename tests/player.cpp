@@ -122,8 +122,15 @@ void Player::strangers()
         const auto value = [&cue](const char *key) { return cue.toMap().value(QLatin1String(key)).toString(); };
         all +=
             QStringLiteral("%1 %2 [%3] %4 on %5")
-                .arg(value("kind"), value("name"), value("source").isEmpty() ? value("text") : QStringLiteral("shown"),
-                     value("ink"), value("paper"));
+                .arg(value("kind"), slideshow.breakable(value("name")),
+                     value("source").isEmpty() ? value("text") : QStringLiteral("shown"), value("ink"), value("paper"));
+    }
+    all +=
+        slideshow.property("more").toInt() ? QStringLiteral("+ ") + slideshow.property("more").toString() : QString();
+    const QRectF window(0, 0, 360, 480);
+    const QVariantList areas = slideshow.screen(window.size()).value(QStringLiteral("areas")).toList();
+    for (const QVariant &area : areas) {
+        all += window.united(area.toRectF()) == window ? QString() : QStringLiteral("out of the window");
     }
     all.removeAll(QString());
     COMPARE_SEEN(QStringLiteral("opens ") + message, all.join(QStringLiteral("; ")), seen);
@@ -148,6 +155,15 @@ void Player::turning()
     QCOMPARE(slideshow.slide(), 2);
     slideshow.setPosition(1000.0);
     QVERIFY2(slideshow.slide() == 2 && !slideshow.playing(), "the last slide is left standing");
+
+    QTemporaryFile message;
+    QVERIFY(message.open());
+    message.write("<smil><body><par><img end='2s'/><img dur='3s'/><audio dur='9s'/></par></body></smil>");
+    message.close();
+    slideshow.open(message.fileName(), QString());
+    slideshow.setPosition(9.0);
+    const QList<QQuickItem *> cues = player.rootObject()->childItems().mid(0, 3);
+    QVERIFY2(!cues[0]->isVisible() && cues[1]->isVisible(), "only what ends last is left standing");
 }
 
 QTEST_MAIN(Player)

@@ -13,8 +13,7 @@ static bool isPicture(const QString &path)
 {
     QImageReader reader(path);
     static const QByteArrayList formats{"bmp", "gif", "jpeg", "jpg", "png", "wbmp", "webp"};
-    const bool known = !path.isEmpty() && formats.contains(reader.format());
-    const QSize size = known ? reader.size() : QSize();
+    const QSize size = !path.isEmpty() && formats.contains(reader.format()) ? reader.size() : QSize();
     return !size.isEmpty() && size.width() <= 32 * 1024 * 1024 / size.height();
 }
 
@@ -34,30 +33,35 @@ Slideshow::Slideshow()
 void Slideshow::open(const QString &smil, const QString &folder)
 {
     QFile file(smil);
-    const bool opened = file.open(QIODevice::ReadOnly);
-    SmilParser parser(opened ? file.read(1024 * 1024) : QByteArray()); // no more: it comes from a stranger
+    const int limit = 1024 * 1024; // it comes from a stranger
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.read(limit + 1) : QByteArray();
+    SmilParser parser(bytes.size() > limit ? QByteArray() : bytes);
     SmilParser::Outcome outcome;
     QString error;
     int line = 0, column = 0;
     m_layout = parser.parse(SmilParser::AsWritten, &outcome, &error, &line, &column).header.layout;
     const QDomElement root = parser.dom().documentElement();
-    m_timeline = SmilTimeline(outcome == SmilParser::Complete ? root : QDomElement());
-    static const char *const missing[] = {"slide", "", "smil", "head", "body"};
-    m_problem = !opened                        ? file.errorString()
+    m_timeline = SmilTimeline(outcome == SmilParser::NotWellFormed ? QDomElement() : root);
+    static const char *const missing[] = {"slide", "", "smil", "slide", "body"};
+    m_problem = !file.isOpen()                 ? file.errorString()
+        : bytes.size() > limit                 ? tr("The message is larger than 1 MiB.")
         : outcome == SmilParser::NotWellFormed ? tr("Line %1, column %2: %3").arg(line).arg(column).arg(error)
         : slides() == 0                        ? tr("The message has no %1.").arg(QLatin1String(missing[outcome]))
                                                : QString();
-
     m_colours.clear();
     m_background = Qt::white;
+    static const QStringList screens{QStringLiteral("root-layout"), QStringLiteral("topLayout")};
     const QDomElement head = root.firstChildElement(QStringLiteral("head"));
     QDomElement e = head.firstChildElement(QStringLiteral("layout")).lastChildElement();
-    for (; !e.isNull(); e = e.previousSiblingElement()) { // the first region of an id counts
+    for (; !e.isNull(); e = e.previousSiblingElement()) { // the first region of an id decides
         const QColor stated = colour(e.attribute(QStringLiteral("background-color")));
-        const bool region = e.tagName() == QLatin1String("region");
-        QColor &behind = region ? m_colours[e.attribute(QStringLiteral("id"))] : m_background;
-        behind = stated.isValid() ? stated : behind;
+        if (e.tagName() == QLatin1String("region")) {
+            m_colours[e.attribute(QStringLiteral("id"))] = stated;
+        } else if (stated.isValid() && screens.contains(e.tagName())) {
+            m_background = stated;
+        }
     }
+    m_colours.remove(QString()); // nothing is shown in a region without an id
 
     // A "src" means one of these and nothing else: no other folder, nothing on the network.
     m_files = QDir(folder).entryInfoList(QDir::Files | QDir::NoSymLinks);
@@ -76,7 +80,9 @@ void Slideshow::setPosition(double seconds)
     const int slide = qMax(0, int(std::upper_bound(slides.begin(), slides.end(), m_position) - slides.begin()) - 1);
     if (slide != m_slide) {
         m_slide = slide;
-        m_cues = m_timeline.during(slides.value(slide, qInf()), slides.value(slide + 1, qInf())).mid(0, 32);
+        m_cues = m_timeline.during(slides.value(slide, qInf()), slides.value(slide + 1, qInf()));
+        m_more = qMax(0, int(m_cues.size()) - 32);
+        m_cues = m_cues.mid(0, 32);
         Q_EMIT turned();
     }
     const double wait = playing() ? m_timeline.next(m_position) - m_position : qInf();
@@ -89,6 +95,10 @@ QVariantList Slideshow::shown() const
     static const char *const kinds[] = {"Text", "Picture", "Sound", "Film", "Part"};
     const SmilScreen screen(m_layout);
     QVariantList all;
+    double last = m_slide == slides() - 1 ? 0.0 : qInf(); // what ends then is left standing
+    for (const SmilCue &cue : m_cues) {
+        last = cue.ref.type == SmilRef::Audio ? last : qMax(last, cue.end);
+    }
     for (const SmilCue &cue : m_cues) {
         const QFileInfo part = m_files.value(m_parts.find(cue.ref.src));
         const QString path = part.absoluteFilePath(); // empty when the part is missing
@@ -112,7 +122,7 @@ QVariantList Slideshow::shown() const
         map[QStringLiteral("paper")] = paper;
         map[QStringLiteral("ink")] = legible ? ink : QColor(light > 127 ? Qt::black : Qt::white);
         map[QStringLiteral("begin")] = cue.begin;
-        map[QStringLiteral("end")] = cue.end;
+        map[QStringLiteral("end")] = cue.end < last ? cue.end : qInf();
         all.append(map);
     }
     return all;
@@ -122,16 +132,14 @@ QVariantMap Slideshow::screen(const QSizeF &window) const
 {
     // A phone of the window's shape, as wide as those that messages are made for.
     const SmilScreen screen(m_layout, window * (240.0 / qMin(window.width(), window.height())));
-    const double zoom = qMin(window.width() / screen.size.width(), window.height() / screen.size.height());
-    QRectF whole(QPointF(), zoom * screen.size);
-    whole.moveCenter(QRectF(QPointF(), window).center());
-    const QList<QRectF> places = screen.places(m_cues);
+    const QRectF all(QPointF(), screen.size); // which may be so small that the zoom would be infinite
+    const double zoom = qBound(0.0, qMin(window.width() / all.width(), window.height() / all.height()), 1e6);
+    const QPointF corner = QRectF(QPointF(), window - zoom * all.size()).center();
     QVariantList areas;
-    for (const QRectF &place : places) {
-        areas.append(QRectF(whole.topLeft() + zoom * place.topLeft(), zoom * place.size()).intersected(whole));
+    for (const QRectF &place : screen.places(m_cues)) { // which may be too far out to be enlarged
+        const QRectF seen = place.intersected(all);
+        areas.append(QRectF(corner + zoom * seen.topLeft(), zoom * seen.size()));
     }
-    QVariantMap map;
-    map[QStringLiteral("areas")] = areas;
-    map[QStringLiteral("zoom")] = zoom;
-    return map;
+    return QVariantMap{std::make_pair(QStringLiteral("areas"), QVariant(areas)),
+                       std::make_pair(QStringLiteral("zoom"), QVariant(zoom))};
 }

@@ -7,6 +7,7 @@
 #include <smilparser/smilplayback.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
 #include <QtCore/QVariantMap>
 #include <QtGui/QColor>
@@ -19,7 +20,8 @@ class Slideshow : public QObject
     Q_PROPERTY(QColor background MEMBER m_background NOTIFY turned)
     Q_PROPERTY(int slides READ slides NOTIFY turned) ///< how many
     Q_PROPERTY(int slide READ slide NOTIFY turned) ///< from 0 on
-    Q_PROPERTY(QVariantList shown READ shown NOTIFY turned) ///< all that the slide shows, a map each
+    Q_PROPERTY(QVariantList shown READ shown NOTIFY turned) ///< what the slide shows, a map each: 32 at most
+    Q_PROPERTY(int more MEMBER m_more NOTIFY turned) ///< how many the slide has beyond those
     Q_PROPERTY(double position MEMBER m_position WRITE setPosition NOTIFY moved) ///< seconds from the beginning
     Q_PROPERTY(bool playing READ playing WRITE play NOTIFY moved)
 
@@ -32,6 +34,7 @@ public:
     void setPosition(double seconds);
     Q_INVOKABLE QVariantMap screen(const QSizeF &window) const; ///< the "areas" of what is shown there, and the "zoom"
     Q_INVOKABLE QRectF fit(QSizeF picture, QRectF area, QString how) { return SmilScreen::fitted(picture, area, how); }
+    Q_INVOKABLE QString breakable(QString text) { return text.replace(m_word, QStringLiteral("\\1\u200b")); }
 
     int slides() const { return int(m_timeline.slides.size()); }
     int slide() const { return m_slide; }
@@ -51,8 +54,9 @@ private:
     SmilParts m_parts;
     QString m_problem;
     double m_position = 0.0;
-    int m_slide = 0;
+    int m_slide = 0, m_more = 0;
     QList<SmilCue> m_cues; // of the slide, 32 at most
+    const QRegularExpression m_word{QStringLiteral("(\\S{40})")}; // so long a word would cost minutes
     QTimer m_timer; // to the next change
 };
 
