@@ -97,8 +97,8 @@ bool contendersAgree(int slides)
         Made made;
         contender.pass(contender.message(slides), made);
         if (contender.pass == show) {
-            const bool agrees = int(made.timeline.slides.size()) == slides
-                && int(made.timeline.cues.size()) == 2 * slides && made.screen.areas.size() == 2;
+            const bool agrees = int(made.timeline.slideBegins().size()) == slides
+                && int(made.timeline.cues().size()) == 2 * slides && made.screen.regionRects().size() == 2;
             if (!agrees) {
                 std::fprintf(stderr, "what shows %d slides has lost some\n", slides);
                 return false;

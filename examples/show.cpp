@@ -27,10 +27,10 @@ int main(int argc, char *argv[])
         parts.add(part, QString::fromLocal8Bit(argv[part]));
     }
     QSet<int> named;
-    for (int i = 0; i < int(timeline.slides.size()); ++i) {
-        const double end = timeline.slides.value(i + 1, qInf());
-        const QList<SmilCue> cues = timeline.during(timeline.slides.at(i), end);
-        const QList<QRectF> places = screen.places(cues);
+    for (int i = 0; i < int(timeline.slideBegins().size()); ++i) {
+        const double end = timeline.slideBegins().value(i + 1, qInf());
+        const QList<SmilCue> cues = timeline.cuesBetween(timeline.slideBegins().at(i), end);
+        const QList<QRectF> places = screen.rects(cues);
         for (int j = 0; j < int(cues.size()); ++j) {
             const int part = parts.find(cues.at(j).ref.src);
             named.insert(part);
@@ -39,9 +39,9 @@ int main(int argc, char *argv[])
     }
     for (int part = 1; part < argc; ++part) {
         if (!named.contains(part)) {
-            qInfo() << "after" << timeline.duration << argv[part];
+            qInfo() << "after" << timeline.duration() << argv[part];
         }
     }
     //! [show]
-    return timeline.slides.isEmpty() ? 1 : 0;
+    return timeline.slideBegins().isEmpty() ? 1 : 0;
 }

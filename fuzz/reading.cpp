@@ -42,27 +42,27 @@ static void requireTimes(const SmilTimeline &timeline)
 {
     double begin = 0;
     int playing = 0;
-    for (const SmilCue &cue : timeline.cues) {
-        require(cue.begin >= begin && cue.end >= cue.begin && timeline.duration >= cue.end, "the times are in order");
+    for (const SmilCue &cue : timeline.cues()) {
+        require(cue.begin >= begin && cue.end >= cue.begin && timeline.duration() >= cue.end, "the times are in order");
         begin = cue.begin;
         playing += cue.begin < cue.end ? 1 : 0;
     }
     double slide = -1;
-    for (const double next : timeline.slides) {
+    for (const double next : timeline.slideBegins()) {
         require(next > slide, "slides are in order, each once");
-        require(!timeline.at(next).isEmpty(), "something plays where a page begins");
+        require(!timeline.cuesAt(next).isEmpty(), "something plays where a page begins");
         slide = next;
     }
-    const double first = timeline.slides.isEmpty() ? qInf() : timeline.slides.first();
-    require(timeline.during(first, qInf()).size() == playing, "all that plays is on a page");
+    const double first = timeline.slideBegins().isEmpty() ? qInf() : timeline.slideBegins().first();
+    require(timeline.cuesBetween(first, qInf()).size() == playing, "all that plays is on a page");
 }
 
 static void requirePlaces(const SmilScreen &screen, const QList<SmilCue> &cues)
 {
-    require(qIsFinite(screen.size.width()) && qIsFinite(screen.size.height()) && !screen.size.isEmpty(), "a screen");
-    const QList<QRectF> places = screen.places(cues);
+    require(qIsFinite(screen.size().width()) && qIsFinite(screen.size().height()) && !screen.size().isEmpty(), "a screen");
+    const QList<QRectF> places = screen.rects(cues);
     require(places.size() == cues.size(), "a place for each");
-    for (const QRectF &area : screen.areas + places) {
+    for (const QRectF &area : screen.regionRects() + places) {
         require(qIsFinite(area.x()) && qIsFinite(area.y()), "an area is somewhere");
         require(qIsFinite(area.width()) && qIsFinite(area.height()), "an area has a size");
         require(area.width() >= 0 && area.height() >= 0, "no area is less than nothing");
@@ -74,12 +74,12 @@ static void requirePlayable(const SmilDocument &model, const QDomElement &smil, 
     const SmilTimeline timeline(smil);
     requireTimes(timeline);
     const SmilScreen screen(model.header.layout);
-    require(screen.areas.size() == model.header.layout.regions.size(), "an area for each region");
-    requirePlaces(screen, timeline.cues);
+    require(screen.regionRects().size() == model.header.layout.regions.size(), "an area for each region");
+    requirePlaces(screen, timeline.cues());
     QStringList inModel;
     QStringList playing;
     collectMedia(model.body.root, inModel);
-    for (const SmilCue &cue : timeline.cues) {
+    for (const SmilCue &cue : timeline.cues()) {
         playing << described(cue.ref);
     }
     inModel.sort();

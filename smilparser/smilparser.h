@@ -544,8 +544,9 @@ public:
     QDomDocument &getContent();
 
     /**
-     * The model as text: the elements and attributes that getContent() writes, with the same values, in UTF-8 and on
-     * one line, without XML declaration. The bytes are the same on every run, Qt and machine. Neither the model nor the
+     * The model as text: the elements and attributes that getContent() writes, with the same values, in UTF-8, without
+     * XML declaration. With a negative @p indent it is one line without a line end. From 0 on each element has a line,
+     * which begins with that many blanks for each element around it, as QDomDocument::toByteArray() writes. The bytes are the same on every run, Qt and machine. Neither the model nor the
      * parser is changed, and there is no DOM.
      *
      * Attributes stand in the order in which getContent() sets them. An element without others inside is written as
@@ -558,7 +559,7 @@ public:
      * Cost: linear in the number of records and in the length of the texts; one call level per level of nested nodes.
      * A model that parse() made takes no more stack than it took to read.
      */
-    QByteArray toXml() const;
+    QByteArray toXml(int indent = -1) const;
 
     /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends

@@ -210,9 +210,9 @@ void JsonOutput::hasAllThatTheLibraryHas()
         SmilTimeline timeline;
         read(json[QLatin1String("timeline")], timeline);
         const SmilTimeline expected(message.dom.documentElement());
-        QVERIFY(timeline.cues == expected.cues);
-        QCOMPARE(timeline.slides, expected.slides);
-        QCOMPARE(timeline.duration, expected.duration);
+        QVERIFY(timeline.cues() == expected.cues);
+        QCOMPARE(timeline.slideBegins(), expected.slides);
+        QCOMPARE(timeline.duration(), expected.duration);
     }
     QCOMPARE(isFound.keys(false).join(QLatin1Char(' ')), QString());
 }

@@ -107,9 +107,9 @@ void Playback::timelines()
     QFETCH(QString, slides);
     QFETCH(QString, takes);
     const SmilTimeline timeline = timelineOf(elements, 5, lengthOf);
-    COMPARE_SEEN(QStringLiteral("plays ") + elements, shown(timeline.cues), plays);
-    COMPARE_SEEN(QStringLiteral("pages ") + elements, shown(timeline.slides), slides);
-    COMPARE_SEEN(QStringLiteral("asks how long this takes: ") + elements, shown(timeline.duration), takes);
+    COMPARE_SEEN(QStringLiteral("plays ") + elements, shown(timeline.cues()), plays);
+    COMPARE_SEEN(QStringLiteral("pages ") + elements, shown(timeline.slideBegins()), slides);
+    COMPARE_SEEN(QStringLiteral("asks how long this takes: ") + elements, shown(timeline.duration()), takes);
 }
 
 void Playback::otherElements()
@@ -117,16 +117,16 @@ void Playback::otherElements()
     for (const char *text : {"<SMIL><body><img/></body></SMIL>", "<body><img/></body>", ""}) {
         QDomDocument dom;
         const SmilTimeline timeline(elementOf(dom, QLatin1String(text)));
-        QVERIFY2(timeline.cues.isEmpty() && timeline.slides.isEmpty() && timeline.duration == 0, text);
+        QVERIFY2(timeline.cues().isEmpty() && timeline.slideBegins().isEmpty() && timeline.duration() == 0, text);
     }
 }
 
 void Playback::slideDurations()
 {
     const QString slide = QStringLiteral("<body><par><img src='a'/></par></body>");
-    QCOMPARE(shown(timelineOf(slide, 2.5).cues), QStringLiteral("0-2.5 img a"));
+    QCOMPARE(shown(timelineOf(slide, 2.5).cues()), QStringLiteral("0-2.5 img a"));
     for (const double none : {0.0, -1.0, qInf(), qQNaN()}) {
-        QCOMPARE(shown(timelineOf(slide, none).cues), QStringLiteral("0-5 img a"));
+        QCOMPARE(shown(timelineOf(slide, none).cues()), QStringLiteral("0-5 img a"));
     }
 }
 
@@ -149,10 +149,10 @@ void Playback::words()
         "<body><img SRC='a' src='' ALT='b'><PARAM name='a' value='b'/></img>"
         "<text alt='words' region='T'><x><param name='x' value='y'/></x><param value='nameless'/><param name=''/>"
         "<param name='color' value='#fff'/><param name='color' value='#000'/><param name='size'/></text></body>"));
-    const SmilCue &picture = timeline.cues.at(0);
+    const SmilCue &picture = timeline.cues().at(0);
     QVERIFY(picture.params.isEmpty() && picture.alt.isNull() && picture.ref.region.isNull());
     QVERIFY(picture.ref.src.isEmpty() && !picture.ref.src.isNull());
-    const SmilCue &text = timeline.cues.at(1);
+    const SmilCue &text = timeline.cues().at(1);
     QCOMPARE(text.alt, QStringLiteral("words"));
     QCOMPARE(text.params.keys().join(QLatin1Char(' ')), QStringLiteral("color size"));
     QCOMPARE(text.params.first(), QStringLiteral("#fff"));
@@ -166,20 +166,20 @@ void Playback::moments()
     const QString a = QStringLiteral("0-5 img a");
     const QString b = QStringLiteral("6-9 img b");
     const QString none = QStringLiteral("nothing");
-    QCOMPARE(shown(timeline.at(-1)), none);
-    QCOMPARE(shown(timeline.at(0)), a);
-    QCOMPARE(shown(timeline.at(3)), a);
-    QCOMPARE(shown(timeline.at(5)), none);
-    QCOMPARE(shown(timeline.at(6)), b);
-    QCOMPARE(shown(timeline.at(qInf())), none);
-    QCOMPARE(shown(timeline.at(qQNaN())), none);
-    QCOMPARE(shown(timeline.during(0, 6)), a);
-    QCOMPARE(shown(timeline.during(4, 7)), a + QLatin1String("; ") + b);
-    QCOMPARE(shown(timeline.during(5, qInf())), b);
-    QCOMPARE(shown(timeline.during(5, 6)), none);
-    QCOMPARE(shown(timeline.during(qQNaN(), 6)), none);
-    const QList<double> changes = {timeline.next(-qInf()), timeline.next(0), timeline.next(5),
-                                   timeline.next(6),       timeline.next(9), timeline.next(qQNaN())};
+    QCOMPARE(shown(timeline.cuesAt(-1)), none);
+    QCOMPARE(shown(timeline.cuesAt(0)), a);
+    QCOMPARE(shown(timeline.cuesAt(3)), a);
+    QCOMPARE(shown(timeline.cuesAt(5)), none);
+    QCOMPARE(shown(timeline.cuesAt(6)), b);
+    QCOMPARE(shown(timeline.cuesAt(qInf())), none);
+    QCOMPARE(shown(timeline.cuesAt(qQNaN())), none);
+    QCOMPARE(shown(timeline.cuesBetween(0, 6)), a);
+    QCOMPARE(shown(timeline.cuesBetween(4, 7)), a + QLatin1String("; ") + b);
+    QCOMPARE(shown(timeline.cuesBetween(5, qInf())), b);
+    QCOMPARE(shown(timeline.cuesBetween(5, 6)), none);
+    QCOMPARE(shown(timeline.cuesBetween(qQNaN(), 6)), none);
+    const QList<double> changes = {timeline.nextChange(-qInf()), timeline.nextChange(0), timeline.nextChange(5),
+                                   timeline.nextChange(6),       timeline.nextChange(9), timeline.nextChange(qQNaN())};
     QCOMPARE(shown(changes), QStringLiteral("0 5 6 9 inf inf"));
 }
 
@@ -197,10 +197,10 @@ void Playback::depth()
     }
     SmilTimeline timeline;
     onSmallStack([&] { timeline = SmilTimeline(smil, 1, lengthOf); });
-    QCOMPARE(int(timeline.cues.size()), 513);
-    QVERIFY(std::any_of(timeline.cues.cbegin(), timeline.cues.cend(),
+    QCOMPARE(int(timeline.cues().size()), 513);
+    QVERIFY(std::any_of(timeline.cues().cbegin(), timeline.cues().cend(),
                         [](const SmilCue &cue) { return cue.ref.src == QLatin1String("512"); }));
-    QCOMPARE(timeline.duration, 258.0);
+    QCOMPARE(timeline.duration(), 258.0);
 }
 
 /** Those that begin together stay in order, also when there are more than are sorted one by one. */
@@ -208,10 +208,10 @@ void Playback::manyMedia()
 {
     const SmilTimeline timeline = timelineOf(
         expanded(QStringLiteral("<body><par>{500*<img src='#' begin='1s' dur='1s'/><img src='+#'/>}</par></body>")));
-    QCOMPARE(int(timeline.cues.size()), 1000);
+    QCOMPARE(int(timeline.cues().size()), 1000);
     for (int i = 0; i < 500; ++i) {
-        QCOMPARE(timeline.cues.at(i).ref.src, QLatin1Char('+') + QString::number(i));
-        QCOMPARE(timeline.cues.at(500 + i).ref.src, QString::number(i));
+        QCOMPARE(timeline.cues().at(i).ref.src, QLatin1Char('+') + QString::number(i));
+        QCOMPARE(timeline.cues().at(500 + i).ref.src, QString::number(i));
     }
 }
 
@@ -225,12 +225,12 @@ void Playback::screens()
         QStringLiteral("<smil><head><layout>%1</layout></head><body>%2</body></smil>").arg(layout, media);
     SmilParser parser(text.toUtf8());
     const SmilScreen screen(parser.parse().header.layout, sizeOf(device));
-    QString seen = shown(screen.size.width()) + QLatin1Char('x') + shown(screen.size.height());
-    for (const QRectF &area : screen.areas) {
+    QString seen = shown(screen.size().width()) + QLatin1Char('x') + shown(screen.size().height());
+    for (const QRectF &area : screen.regionRects()) {
         seen += QLatin1String("; area ") + shown(area);
     }
     QStringList places;
-    for (const QRectF &place : screen.places(SmilTimeline(parser.dom().documentElement()).cues)) {
+    for (const QRectF &place : screen.rects(SmilTimeline(parser.dom().documentElement()).cues())) {
         places << shown(place);
     }
     seen += places.isEmpty() ? QString() : QLatin1String("; places ") + places.join(QLatin1Char(' '));
@@ -247,7 +247,7 @@ void Playback::oddMeasures()
         layout.topLayoutWidth = odd;
         layout.regions.append(SmilRegion());
         layout.regions.first().left = layout.regions.first().width = odd;
-        return shown(SmilScreen(layout).areas.first());
+        return shown(SmilScreen(layout).regionRects().first());
     };
     QCOMPARE(areaOf(), QStringLiteral("50,0 50x100"));
     const QString whole = QStringLiteral("0,0 100x100");

@@ -10,3 +10,4 @@ const QString metaElement = QStringLiteral("meta");
 const QString regionElement = QStringLiteral("region");
 const QString rootLayoutElement = QStringLiteral("root-layout");
 const QString smilElement = QStringLiteral("smil");
+const QString topLayoutElement = QStringLiteral("topLayout");

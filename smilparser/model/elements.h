@@ -14,5 +14,6 @@ extern const QString metaElement;
 extern const QString regionElement;
 extern const QString rootLayoutElement;
 extern const QString smilElement;
+extern const QString topLayoutElement;
 
 #endif

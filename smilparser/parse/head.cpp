@@ -53,7 +53,7 @@ void readLayout(const QDomElement &layout, SmilLayout &record)
         record.rootLayoutWidth = measure(root, widthAttribute);
         record.rootLayoutHeight = measure(root, heightAttribute);
     }
-    const QDomElement top = layout.firstChildElement(QStringLiteral("topLayout"));
+    const QDomElement top = layout.firstChildElement(topLayoutElement);
     if (!top.isNull()) {
         record.topLayoutWidth = measure(top, widthAttribute);
         record.topLayoutHeight = measure(top, heightAttribute);

@@ -39,8 +39,28 @@ static QString decoded(const QString &name)
     return QString::fromUtf8(plain.constData(), plain.size());
 }
 
+class SmilPartsData : public QSharedData
+{
+public:
+    // Ordered, not hashed: a stranger can choose names whose hashes collide.
+    QMap<QString, int> names;
+    QMap<QString, int> bareNames;
+    QMap<QString, int> foldedNames;
+};
+
+SmilParts::SmilParts()
+    : d(new SmilPartsData)
+{
+}
+
+SmilParts::SmilParts(const SmilParts &other) = default;
+SmilParts::SmilParts(SmilParts &&other) noexcept = default;
+SmilParts &SmilParts::operator=(const SmilParts &other) = default;
+SmilParts &SmilParts::operator=(SmilParts &&other) noexcept = default;
+SmilParts::~SmilParts() = default;
+
 /** Whoever has the name first keeps it. */
-static void insertOnce(QHash<QString, int> &names, const QString &name, int part)
+static void insertOnce(QMap<QString, int> &names, const QString &name, int part)
 {
     if (!names.contains(name)) {
         names.insert(name, part);
@@ -53,17 +73,20 @@ void SmilParts::add(int part, const QString &name)
     if (part < 0 || bare.isEmpty()) {
         return;
     }
-    insertOnce(names, name, part);
-    insertOnce(bareNames, bare, part);
-    insertOnce(foldedNames, bare.toCaseFolded(), part);
+    insertOnce(d->names, name, part);
+    insertOnce(d->bareNames, bare, part);
+    insertOnce(d->foldedNames, bare.toCaseFolded(), part);
 }
 
 int SmilParts::find(const QString &src) const
 {
-    const QString bare = bareName(src);
-    const QString plain = decoded(bare);
-    int part = names.value(src, -1);
-    part = part < 0 ? bareNames.value(bare, -1) : part;
-    part = part < 0 ? bareNames.value(plain, -1) : part;
-    return part < 0 ? foldedNames.value(plain.toCaseFolded(), -1) : part;
+    int part = d->names.value(src, -1);
+    if (part < 0) {
+        const QString bare = bareName(src);
+        const QString plain = bareName(decoded(bare));
+        part = d->bareNames.value(bare, -1);
+        part = part < 0 ? d->bareNames.value(plain, -1) : part;
+        part = part < 0 ? d->foldedNames.value(plain.toCaseFolded(), -1) : part;
+    }
+    return part;
 }

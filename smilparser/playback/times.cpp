@@ -4,6 +4,7 @@
 #include "times.h"
 
 #include "smilparser/model/attributes.h"
+#include "smilparser/model/duration.h"
 
 #include <QtCore/qnumeric.h>
 
@@ -11,11 +12,6 @@
 static const QString absent;
 static const QString beginName = QStringLiteral("begin");
 static const QString endName = QStringLiteral("end");
-
-bool isDuration(double seconds)
-{
-    return qIsFinite(seconds) && seconds > 0;
-}
 
 static double readDur(const QDomElement &element)
 {

@@ -42,9 +42,11 @@ public:
     struct Element {
     };
 
-    explicit Text(QByteArray &text)
+    Text(QByteArray &text, int indent)
         : writer(&text)
     {
+        writer.setAutoFormatting(indent >= 0);
+        writer.setAutoFormattingIndent(indent);
     }
     Element begin(const QString &name)
     {
@@ -63,10 +65,10 @@ private:
 };
 }
 
-QByteArray SmilParser::toXml() const
+QByteArray SmilParser::toXml(int indent) const
 {
     QByteArray text;
-    Text out(text);
+    Text out(text, indent);
     writeDocument(out, document);
-    return text;
+    return indent < 0 ? text : text.trimmed() + '\n'; // Qt begins each line, the first one too, with its line end
 }

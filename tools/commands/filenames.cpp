@@ -199,7 +199,7 @@ FileNames fileNames(const Message &message)
 {
     QStringList srcs;
     const SmilTimeline timeline(message.dom.documentElement());
-    for (const SmilCue &cue : timeline.cues) {
+    for (const SmilCue &cue : timeline.cues()) {
         srcs.append(cue.ref.src);
     }
     return fileNames(message, srcs);

@@ -190,14 +190,14 @@ static QJsonObject paramsOf(const SmilCue &cue)
 /** Where a cue is shown when nothing shares the area with it. */
 static QRectF areaOf(const SmilCue &cue, const SmilScreen &screen)
 {
-    const int region = screen.indexOf(cue.ref.region);
-    return region < 0 ? QRectF(QPointF(), screen.size) : screen.areas.at(region);
+    const int region = screen.regionIndex(cue.ref.region);
+    return region < 0 ? QRectF(QPointF(), screen.size()) : screen.regionRects().at(region);
 }
 
 static void writeCues(const Message &message, const SmilTimeline &timeline, Elements &cues)
 {
     const SmilScreen screen(message.document.header.layout);
-    for (const SmilCue &cue : timeline.cues) {
+    for (const SmilCue &cue : timeline.cues()) {
         const int part = message.parts.find(cue.ref.src);
         cues.add({
             {QStringLiteral("begin"),  toJson(cue.begin)                                             },
@@ -226,8 +226,8 @@ void showJson(const Message &message, QIODevice &out)
     const SmilTimeline timeline(message.dom.documentElement());
     out.write("],\"timeline\":"
               + written({
-                            {QStringLiteral("duration"), toJson(timeline.duration)},
-                            {QStringLiteral("slides"),   toArray(timeline.slides) }
+                            {QStringLiteral("duration"), toJson(timeline.duration())},
+                            {QStringLiteral("slides"),   toArray(timeline.slideBegins()) }
     })
                     .chopped(1)
               + ",\"cues\":[");

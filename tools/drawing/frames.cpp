@@ -30,12 +30,12 @@ QString wordsFor(const SmilCue &cue)
 QList<Frame> framesOf(const SmilTimeline &timeline)
 {
     QList<Frame> frames;
-    const QList<double> slides = timeline.slides.mid(0, bounds::frames + 1);
+    const QList<double> slides = timeline.slideBegins().mid(0, bounds::frames + 1);
     for (int i = 0; i < qMin(int(slides.size()), bounds::frames); ++i) {
         const double begin = slides.at(i);
-        const double length = slides.value(i + 1, timeline.duration) - begin;
+        const double length = slides.value(i + 1, timeline.duration()) - begin;
         frames.append({QStringLiteral("%1 \u00b7 %2 \u00b7 %3").arg(i + 1).arg(clockText(begin), lengthText(length)),
-                       timeline.during(begin, slides.value(i + 1, qInf())).mid(0, bounds::media)});
+                       timeline.cuesBetween(begin, slides.value(i + 1, qInf())).mid(0, bounds::media)});
     }
     return frames;
 }

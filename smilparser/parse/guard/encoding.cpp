@@ -3,14 +3,10 @@
 
 #include "guard.h"
 
+#include "smilparser/model/charset.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-#include <QtCore/QStringDecoder>
-#else
-#include <QtCore/QTextCodec>
-#endif
 
 /** By a byte order mark or, without one, "<" in that encoding. */
 static QByteArray detectEncoding(const QByteArray &bytes)
@@ -37,26 +33,6 @@ static QByteArray detectEncoding(const QByteArray &bytes)
 static bool isUtf8(const QByteArray &encoding)
 {
     return qstricmp(encoding.constData(), "UTF-8") == 0;
-}
-
-/** Null when Qt does not know the encoding. */
-static QString decodeAs(const QByteArray &encoding, const QByteArray &bytes)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    QStringDecoder decoder(encoding.constData());
-    if (!decoder.isValid()) {
-        return QString();
-    }
-    QString text = decoder(bytes);
-    if (decoder.hasError()) {
-        // The reader of Qt 6 reports bytes that are not of the encoding as an error. A text that ends there is one too.
-        text.truncate(text.indexOf(QChar::ReplacementCharacter) + 1);
-    }
-    return text;
-#else
-    const QTextCodec *const codec = QTextCodec::codecForName(encoding);
-    return codec ? QTextDecoder(codec).toUnicode(bytes.constData(), bytes.size()) : QString();
-#endif
 }
 
 /** Not "<?xml-stylesheet" and its like, though Qt 5 would take an encoding from those too. */
@@ -107,7 +83,7 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
     if (utf8 && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
         return std::nullopt;
     }
-    const QString beginning = decodeAs(encoding, bytes.left(maxDeclaration));
+    const QString beginning = decodeText(encoding, bytes.left(maxDeclaration), Malformed::Stop);
     const bool declares = isDeclaration(beginning);
     if (declares) {
         encoding = declaredEncoding(beginning.left(beginning.indexOf(QLatin1Char('>')) + 1), encoding);
@@ -115,7 +91,7 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
     if (utf8 && declares && isUtf8(encoding)) {
         return std::nullopt;
     }
-    QString text = decodeAs(knownUtf8 ? QByteArrayLiteral("UTF-8") : encoding, bytes);
+    QString text = decodeText(knownUtf8 ? QByteArrayLiteral("UTF-8") : encoding, bytes, Malformed::Stop);
     replaceNoCharacters(text);
     return text.toUtf8();
 }
