@@ -19,6 +19,8 @@ private Q_SLOTS:
     void slideDurations();
     void askedForLengths();
     void words();
+    void styles();
+    void backgrounds();
     void moments();
     void depth();
     void manyMedia();
@@ -158,6 +160,46 @@ void Playback::words()
     QCOMPARE(text.params.first(), QStringLiteral("#fff"));
 }
 
+/** Colours and fits are those of the first region of that name, in what is a layout to parse(). */
+void Playback::styles()
+{
+    QDomDocument dom;
+    const SmilTimeline timeline(elementOf(dom, QStringLiteral(R"(<smil><head><layout><region background-color="none"/>
+<region id="A" background-color="red" backgroundColor="no" fit="fill"/><region id="A" background-color="no" fit="no"/>
+<region id="B" background-color="" backgroundColor="green"/></layout><layout><region id="C" fit="no"/></layout></head>
+<body><img region="A"/><img region="B"><param name="background-color" value="blue"/></img>
+<img region="B"><param name="background-color" value=""/></img><img region="C"/><img region=""/></body></smil>)")));
+    const auto seen = [](const SmilCue &cue) {
+        return QStringLiteral("%1 %2 %3").arg(cue.background, cue.fit).arg(cue.line);
+    };
+    QStringList all;
+    for (const SmilCue &cue : timeline.cues()) {
+        all << seen(cue);
+    }
+    QCOMPARE(all.join(u','), QStringLiteral("red fill 4,blue  4,green  5,  5,  5"));
+    QVERIFY(timeline.cues().last().background.isNull() && timeline.cues().last().fit.isNull());
+    SmilDocument model;
+    model.body.root.children.append(SmilNode());
+    model.body.root.children.first().refs.append(SmilRef(SmilRef::Img));
+    SmilParser writer(model);
+    QCOMPARE(SmilTimeline(writer.getContent().documentElement()).cues().first().line, -1);
+}
+
+void Playback::backgrounds()
+{
+    const auto background = [](const char *layout) {
+        QDomDocument dom;
+        const QString text = QStringLiteral("<smil><head><layout>%1</layout></head></smil>").arg(QLatin1String(layout));
+        return SmilTimeline(elementOf(dom, text)).background();
+    };
+    QCOMPARE(background("<topLayout background-color='no'/><root-layout backgroundColor='red'/>"),
+             QStringLiteral("red"));
+    QCOMPARE(background("<root-layout background-color=''/><topLayout backgroundColor='no' background-color='red'/>"
+                        "<topLayout background-color='no'/>"),
+             QStringLiteral("red"));
+    QVERIFY(background("<root-layout/><root-layout background-color='no'/>").isNull());
+}
+
 void Playback::moments()
 {
     const SmilTimeline timeline =
@@ -178,6 +220,10 @@ void Playback::moments()
     QCOMPARE(shown(timeline.cuesBetween(5, qInf())), b);
     QCOMPARE(shown(timeline.cuesBetween(5, 6)), none);
     QCOMPARE(shown(timeline.cuesBetween(qQNaN(), 6)), none);
+    QCOMPARE(shown(timeline.cuesOnSlide(0)), a);
+    QCOMPARE(shown(timeline.cuesOnSlide(1)), b);
+    QCOMPARE(shown(timeline.cuesOnSlide(-1)), none);
+    QCOMPARE(shown(timeline.cuesOnSlide(2)), none);
     const QList<double> changes = {timeline.nextChange(-qInf()), timeline.nextChange(0), timeline.nextChange(5),
                                    timeline.nextChange(6),       timeline.nextChange(9), timeline.nextChange(qQNaN())};
     QCOMPARE(shown(changes), QStringLiteral("0 5 6 9 inf inf"));

@@ -35,3 +35,16 @@ QString decodeText(const QByteArray &charset, const QByteArray &bytes, Malformed
                                         : codec->toUnicode(bytes);
 }
 #endif
+
+void replaceUnpairedSurrogates(QString &text)
+{
+    QChar *const begin = text.data();
+    QChar *const end = begin + text.size();
+    for (QChar *at = begin; at != end; ++at) {
+        if (at->isHighSurrogate() && at[1].isLowSurrogate()) {
+            ++at; // at the end of the text, what follows is its final U+0000
+        } else if (at->isSurrogate()) {
+            *at = QChar::ReplacementCharacter;
+        }
+    }
+}

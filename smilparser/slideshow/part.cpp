@@ -55,6 +55,13 @@ static QByteArray charsetToUse(const QByteArray &stated)
     return bigEndian ? QByteArrayLiteral("utf-16be") : stated;
 }
 
+static QString decoded(const QByteArray &charset, const QByteArray &data)
+{
+    QString text = decodeText(charset, data, Malformed::Replace);
+    replaceUnpairedSurrogates(text);
+    return text;
+}
+
 bool SmilPart::isSmil() const
 {
     const QString media = mediaType(type);
@@ -86,12 +93,12 @@ QString SmilPart::text(const QByteArray &data) const
     };
     for (const auto &mark : marks) {
         if (data.startsWith(mark[0])) {
-            return decodeText(mark[1], data.mid(mark[0].size()), Malformed::Replace);
+            return decoded(mark[1], data.mid(mark[0].size()));
         }
     }
     const QByteArray charset = charsetToUse(charsetOf(type));
-    QString text = charset.isEmpty() ? QString() : decodeText(charset, data, Malformed::Replace);
-    if (text.isNull()) {
+    QString text = charset.isEmpty() ? QString() : decoded(charset, data);
+    if (text.isEmpty()) {
         // With their size: without it, Qt 5 ends the text at the first U+0000.
         text = QString::fromUtf8(data.constData(), data.size());
         if (text.toUtf8() != data) {

@@ -57,21 +57,11 @@ static QByteArray declaredEncoding(const QString &declaration, const QByteArray 
     return quoted ? value.section(quote, 1, 1).toUtf8() : QByteArray();
 }
 
-/**
- * Puts U+FFFD in the place of what Qt would hand on as something else. An unpaired surrogate is no character: Qt makes
- * it "?", which may end an instruction, and the DOM of Qt 6.11 crashes on it. A second byte order mark is an error; Qt
- * 6 would drop it.
- */
-static void replaceNoCharacters(QString &text)
+/** Puts U+FFFD in the place of a second byte order mark, which is an error, but Qt 6 would drop it. */
+static void replaceSecondMark(QString &text)
 {
-    QChar *const begin = text.data();
-    QChar *const end = begin + text.size();
-    for (QChar *at = begin; at != end; ++at) {
-        if (at->isHighSurrogate() && at[1].isLowSurrogate()) {
-            ++at; // at the end of the text, what follows is its final U+0000
-        } else if (at->isSurrogate() || (at == begin && *at == QChar(QChar::ByteOrderMark))) {
-            *at = QChar::ReplacementCharacter;
-        }
+    if (text.startsWith(QChar(QChar::ByteOrderMark))) {
+        text[0] = QChar::ReplacementCharacter;
     }
 }
 
@@ -92,6 +82,7 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
         return std::nullopt;
     }
     QString text = decodeText(knownUtf8 ? QByteArrayLiteral("UTF-8") : encoding, bytes, Malformed::Stop);
-    replaceNoCharacters(text);
+    replaceUnpairedSurrogates(text);
+    replaceSecondMark(text);
     return text.toUtf8();
 }
