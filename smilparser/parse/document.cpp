@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "domreader.h"
 #include "reader.h"
-#include "walks.h"
 
-#include "smilparser/model/elements.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <smilparser/mmslogger.h>
 

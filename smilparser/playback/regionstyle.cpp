@@ -3,7 +3,7 @@
 
 #include "regionstyle.h"
 
-#include "smilparser/model/elements.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <QtXml/QDomElement>
 

@@ -4,7 +4,7 @@
 #include "regionstyle.h"
 #include "timelinebuilder.h"
 
-#include "smilparser/model/elements.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <QtCore/qnumeric.h>
 

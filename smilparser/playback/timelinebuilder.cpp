@@ -6,10 +6,8 @@
 #include "slides.h"
 #include "times.h"
 
-#include "smilparser/model/attributes.h"
 #include "smilparser/model/duration.h"
-#include "smilparser/model/elements.h"
-#include "smilparser/model/timeline.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <QtCore/qnumeric.h>
 
@@ -18,7 +16,6 @@
 #include <vector>
 
 // Made once, not at each look-up.
-static const QString absent;
 static const QString altName = QStringLiteral("alt");
 static const QString backgroundName = QStringLiteral("background-color");
 static const QString nameName = QStringLiteral("name");
@@ -78,9 +75,7 @@ static SmilCue readCue(const QDomElement &element, int type, const QMap<QString,
 {
     SmilCue cue;
     cue.ref.type = type;
-    for (const Attribute<SmilRef> &attribute : refAttributes) {
-        cue.ref.*attribute.text = element.attribute(attribute.name, absent);
-    }
+    readAttributes(element, refAttributes, cue.ref);
     cue.alt = element.attribute(altName, absent);
     cue.line = element.lineNumber();
     readParams(element, cue.params);

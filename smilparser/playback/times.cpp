@@ -3,13 +3,12 @@
 
 #include "times.h"
 
-#include "smilparser/model/attributes.h"
 #include "smilparser/model/duration.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <QtCore/qnumeric.h>
 
 // Made once, not at each look-up.
-static const QString absent;
 static const QString beginName = QStringLiteral("begin");
 static const QString endName = QStringLiteral("end");
 
