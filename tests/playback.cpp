@@ -19,6 +19,7 @@ private Q_SLOTS:
     void slideDurations();
     void askedForLengths();
     void words();
+    void otherCues();
     void moments();
     void depth();
     void manyMedia();
@@ -156,6 +157,17 @@ void Playback::words()
     QCOMPARE(text.alt, QStringLiteral("words"));
     QCOMPARE(text.params.keys().join(QLatin1Char(' ')), QStringLiteral("color size"));
     QCOMPARE(text.params.first(), QStringLiteral("#fff"));
+}
+
+void Playback::otherCues()
+{
+    const auto cueOf = [](const char *medium) {
+        return timelineOf(QStringLiteral("<body>%1</body>").arg(QLatin1String(medium))).cues.first();
+    };
+    for (const char *other : {"<text/>", "<img alt='a'/>", "<img><param name='a'/></img>", "<img end='1s'/>",
+                              "<img begin='1s' end='5s'/>"}) {
+        QVERIFY2(cueOf(other) != cueOf("<img/>") && cueOf(other) == cueOf(other), other);
+    }
 }
 
 void Playback::moments()

@@ -47,7 +47,7 @@ static double convert(const SmilUnit &measure, double whole)
     case SmilUnit::Px:
         return measure.value;
     case SmilUnit::Percent:
-        return measure.value * whole / 100;
+        return measure.value == 100 ? whole : measure.value * whole / 100; // areas are shared where they are equal
     case SmilUnit::In:
         return measure.value * 96;
     case SmilUnit::Cm:
@@ -100,7 +100,7 @@ static double sideOf(const SmilLayout &layout, const Axis &axis, double device)
 /** A side as long to the device's as the other one is; the device's when that cannot be told. */
 static double inProportion(double other, double otherDevice, double device)
 {
-    const double side = other / otherDevice * device;
+    const double side = other * (device / otherDevice);
     return isLength(side) ? side : device;
 }
 
