@@ -6,7 +6,6 @@
 
 #include <smilparser/smilparser.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QRectF>
 #include <QtCore/QSizeF>
@@ -174,7 +173,7 @@ public:
      * Pixels count as they are, percent of the length that they are measured against; an inch is 96 pixels, 2.54 cm or
      * 72 pt, as on the Web. A measure that is invalid, of another unit, not finite, or not so in pixels, is not stated.
      *
-     * Cost: linear in the number of regions. One call level.
+     * Cost: n log n in the number of regions, times the length of their names. One call level.
      */
     explicit SmilScreen(const SmilLayout &layout, const QSizeF &device = QSizeF(240, 320));
 
@@ -199,8 +198,8 @@ public:
 
     /**
      * The index, in #areas and in SmilLayout::regions, of the first region whose SmilRegion::id is @p region; -1 when
-     * there is none, and for a null or empty name. The letter case matters. Cost: that of a look-up in a hash, the
-     * length of the name.
+     * there is none, and for a null or empty name. The letter case matters. Cost: log n in the number of regions, times
+     * the length of the name.
      */
     int indexOf(const QString &region) const;
 
@@ -214,7 +213,7 @@ public:
      * screen shares it with those without a region. SMIL would show one on top of the other, and only the last one
      * could be seen.
      *
-     * Cost: n log n in the number of cues, and the length of the names of their regions.
+     * Cost: n log n in the number of cues and regions, times the length of the regions' names.
      */
     QList<QRectF> places(const QList<SmilCue> &cues) const;
 
@@ -241,7 +240,7 @@ public:
     static QRectF fitted(const QSizeF &picture, const QRectF &area, const QString &fit);
 
 private:
-    QHash<QString, int> indexes;
+    QMap<QString, int> indexes;
 };
 Q_DECLARE_TYPEINFO(SmilScreen, Q_MOVABLE_TYPE);
 
@@ -261,7 +260,7 @@ public:
      * what identifies a part, of all parts, before what it is merely called. Nothing changes for a name of which
      * nothing is left when it is bare, a null one too, and for a negative @p part.
      *
-     * Cost: that of three look-ups in a hash, linear in the length of the name.
+     * Cost: log n in the number of names, times the length of the name.
      */
     void add(int part, const QString &name);
 
@@ -270,14 +269,14 @@ public:
      * @p src; the bare name that is @p src bare; that with each %XX decoded, as UTF-8; and that in any letter case.
      * Folders are part of a name: "../b.txt" and "b.txt" are two. A null or empty @p src means no part.
      *
-     * Cost: that of four look-ups in a hash, linear in the length of @p src, however many parts there are.
+     * Cost: log n in the number of names, times the length of @p src.
      */
     int find(const QString &src) const;
 
 private:
-    QHash<QString, int> names;
-    QHash<QString, int> bareNames;
-    QHash<QString, int> foldedNames;
+    QMap<QString, int> names;
+    QMap<QString, int> bareNames;
+    QMap<QString, int> foldedNames;
 };
 Q_DECLARE_TYPEINFO(SmilParts, Q_MOVABLE_TYPE);
 

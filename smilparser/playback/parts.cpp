@@ -40,7 +40,7 @@ static QString decoded(const QString &name)
 }
 
 /** Whoever has the name first keeps it. */
-static void insertOnce(QHash<QString, int> &names, const QString &name, int part)
+static void insertOnce(QMap<QString, int> &names, const QString &name, int part)
 {
     if (!names.contains(name)) {
         names.insert(name, part);
