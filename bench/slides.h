@@ -22,6 +22,12 @@ Message slidesText(int slides);
  */
 Message slidesModel(int slides);
 
+/** So many regions whose names, as strangers can choose them, have one and the same hash in Qt 5. */
+Message collidingRegions(int regions);
+
+/** As many whose names differ as those do, in the same places, and have hashes of their own. */
+Message differingRegions(int regions);
+
 /**
  * Builds the tree of @p model in @p dom by hand, with nothing but what a host that knows its message has to call: each
  * attribute is known to be there, and each measure to be a whole number of a known unit.

@@ -6,8 +6,7 @@
 
 #include <smilparser/smilparser.h>
 
-#include <QtCore/QHash>
-#include <QtCore/QSet>
+#include <QtCore/QSharedDataPointer>
 #include <QtCore/QSizeF>
 
 /**
@@ -38,7 +37,9 @@ public:
     /**
      * A composer without media, for a screen of that many pixels. A side that is not finite, or below 1, is not stated
      * in the message; others are rounded to whole pixels, and to six digits. @p slideDuration is how many seconds a
-     * slide lasts where its media do not say; 5 where it is not finite and above 0. Cost: constant.
+     * slide lasts where its media do not say; 5 where it is not finite and above 0. Durations below 0.001 s and above
+     * 999999 s count as these, those of media too: others would be written with an exponent, which no phone reads.
+     * Cost: constant.
      */
     explicit SmilComposer(const QSizeF &screen = QSizeF(320, 480), double slideDuration = 5.0);
 
@@ -58,8 +59,8 @@ public:
      *
      * A @p type that is no SmilRef::Type, and that rendering would leave out, adds nothing and returns a null string.
      *
-     * Cost: linear in the length of the name, however many media there are, and how often under one name; and, the
-     * first time after the composer was copied, a copy of its lists.
+     * Cost: linear in the length of the name, and, on average, log n in the number of media, however many have one
+     * name. The first time after the composer was copied, it is also that of a copy of its lists.
      */
     QString add(SmilRef::Type type, const QString &name, double seconds = 0);
 
@@ -95,8 +96,7 @@ private:
     double slideSeconds;
     bool slideEnded;
     QList<SmilNode> slides; // of each, SmilNode::dur is not valid yet, and has the longest seconds known, or 0
-    QSet<QString> names; // the returned ones, in lower case
-    QHash<QString, int> numbers; // the next to try, for names that differ by their number only
+    QMap<QString, int> names; // the returned ones, in lower case; and the next number to try, where they differ by it
 };
 
 #endif

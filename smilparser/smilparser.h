@@ -433,7 +433,9 @@ public:
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *
      * Every call drops the tree that an earlier parse() or getContent() left: a copy of that document is the same
-     * document, and holds then what this call read of the input. Elements of the old tree may only be destroyed.
+     * document, and holds then what this call read of the input. Elements of the old tree that the host still holds
+     * keep what is inside them, but are no longer in the document. When the document ends, they may only be destroyed,
+     * in any order.
      *
      * The model is the parser's. Of a parser that is a temporary, take a copy: after
      * `const SmilDocument &model = SmilParser(bytes).parse();` the reference refers to nothing.
@@ -468,9 +470,9 @@ public:
      * was called, and after a parse() whose outcome is #NotWellFormed.
      *
      * This is Qt's handle, so that a change to the tree shows in every copy. A copy keeps the tree when the parser is
-     * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed. A further
-     * parse() replaces the tree in the copy too: by what it reads, if only the beginning of a broken document; and by
-     * nothing when the input was read before. The model is not looked at: what the host changes there after parse(),
+     * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed, in any
+     * order. A further parse() replaces the tree in the copy too: by what it reads, if only the beginning of a broken
+     * document; and by nothing when the input was read before. The model is not looked at: what the host changes there after parse(),
      * this tree does not show.
      *
      * Take the tree from here, not from QDomDocument::setContent() with the same bytes: that reads them without the

@@ -207,7 +207,7 @@ public:
      * Pixels count as they are, percent of the length that they are measured against; an inch is 96 pixels, 2.54 cm or
      * 72 pt, as on the Web. A measure that is invalid, of another unit, not finite, or not so in pixels, is not stated.
      *
-     * Cost: linear in the number of regions. One call level.
+     * Cost: n log n in the number of regions, times the length of their names. One call level.
      */
     explicit SmilScreen(const SmilLayout &layout, const QSizeF &device = QSizeF(240, 320));
 
@@ -253,7 +253,7 @@ public:
      * screen shares it with those without a region. SMIL would show one on top of the other, and only the last one
      * could be seen.
      *
-     * Cost: n log n in the number of cues, and the length of the names of their regions.
+     * Cost: n log n in the number of cues and regions, times the length of the regions' names.
      */
     QList<QRectF> rects(const QList<SmilCue> &cues) const;
 

@@ -21,6 +21,7 @@ private Q_SLOTS:
     void words();
     void styles();
     void backgrounds();
+    void otherCues();
     void moments();
     void depth();
     void manyMedia();
@@ -198,6 +199,22 @@ void Playback::backgrounds()
                         "<topLayout background-color='no'/>"),
              QStringLiteral("red"));
     QVERIFY(background("<root-layout/><root-layout background-color='no'/>").isNull());
+void Playback::otherCues()
+{
+    const auto cueOf = [](const char *medium) {
+        return timelineOf(QStringLiteral("<body>%1</body>").arg(QLatin1String(medium))).cues().first();
+    };
+    for (const char *other : {"<text/>", "<img alt='a'/>", "<img><param name='a'/></img>", "<img end='1s'/>",
+                              "<img begin='1s' end='5s'/>"}) {
+        QVERIFY2(cueOf(other) != cueOf("<img/>") && cueOf(other) == cueOf(other), other);
+    }
+    const SmilCue cue;
+    for (QString SmilCue::*const field : {&SmilCue::background, &SmilCue::fit}) {
+        SmilCue other = cue;
+        other.*field = QStringLiteral("a");
+        QVERIFY(other != cue);
+    }
+    QVERIFY(cueOf("<img/>") == cueOf("\n<img/>")); // on another line
 }
 
 void Playback::moments()

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void debugLines();
     void deepDurations();
     void trees();
+    void oldElements();
     void devices();
     void walks_data() { addCases("walks.txt"); }
     void walks();
@@ -222,6 +223,24 @@ void Reading::trees()
                                 "cut off: null, copy \"%3\"\n")
                      .arg(QStringLiteral("<smil><head/><body><img alt='A'/></body></smil>"), written,
                           QStringLiteral("<smil><head/><body/></smil>")));
+}
+
+/** They are on their own when the document is read into again, and may go in any order, also after the document. */
+void Reading::oldElements()
+{
+    for (const bool isKept : {false, true}) {
+        Messages messages(0);
+        SmilParser parser(QByteArray("<smil><head/><body/></smil>"));
+        parser.parse();
+        QDomDocument copy = isKept ? parser.dom() : QDomDocument();
+        QDomElement smil = parser.dom().documentElement();
+        QDomElement body = smil.lastChildElement();
+        parser.parse();
+        QVERIFY2(smil.parentNode().isNull(), "an element of the old tree is in the document that was read into again");
+        copy.clear();
+        smil.clear();
+        body.clear();
+    }
 }
 
 /** All from where the device is, at once; it stays the host's. */

@@ -51,9 +51,10 @@ static QString regionOf(int rooms)
     return rooms & Sight ? imageRegion : rooms & Words ? textRegion : QString();
 }
 
-static bool isDuration(double seconds)
+/** Phones read no exponent, with which a shorter or longer one would be written. */
+static double duration(double seconds, double otherwise)
 {
-    return qIsFinite(seconds) && seconds > 0;
+    return qIsFinite(seconds) && seconds > 0 ? qBound(0.001, seconds, 999999.0) : otherwise;
 }
 
 /** What is read again of the measure when it has been written. */
@@ -96,7 +97,7 @@ static QList<SmilRegion> regionsOf(int rooms)
 
 SmilComposer::SmilComposer(const QSizeF &screen, double slideDuration)
     : size(screen)
-    , slideSeconds(isDuration(slideDuration) ? slideDuration : 5)
+    , slideSeconds(duration(slideDuration, 5))
     , slideEnded(true)
 {
 }
@@ -112,12 +113,11 @@ QString SmilComposer::add(SmilRef::Type type, const QString &name, double second
         slideEnded = false;
     }
     SmilRef ref(type);
-    ref.src = newName(plainName(name), names, numbers);
+    ref.src = newName(plainName(name), names);
     ref.region = regionOf(rooms);
     SmilNode &slide = slides.last();
     slide.refs.append(ref);
-    const double known = isDuration(seconds) ? seconds : type == SmilRef::Audio ? 0 : slideSeconds;
-    slide.dur.value = std::max(slide.dur.value, known);
+    slide.dur.value = std::max(slide.dur.value, duration(seconds, type == SmilRef::Audio ? 0 : slideSeconds));
     return ref.src;
 }
 

@@ -57,6 +57,14 @@ SmilParser::Outcome readDocument(const QDomElement &smil, SmilDocument &document
     return SmilParser::Complete;
 }
 
+/** Qt's own clearing leaves elements that a host still holds with a document that may end before them. */
+static void removeChildren(QDomDocument &dom)
+{
+    while (dom.hasChildNodes()) {
+        dom.removeChild(dom.firstChild());
+    }
+}
+
 SmilParser::SmilParser(QIODevice *device)
 {
     if (device) {
@@ -96,6 +104,7 @@ SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *
     int *const line = errorLine ? errorLine : &ownLine;
     int *const column = errorColumn ? errorColumn : &ownColumn;
     result = NotWellFormed;
+    removeChildren(domDocument);
     if (!readXml(buffer, options.testFlag(DecodedText), domDocument, msg, line, column)) {
         // What was read up to the error is nobody's tree.
         domDocument.clear();

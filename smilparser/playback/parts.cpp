@@ -27,7 +27,7 @@ static QString decoded(const QString &name)
 {
     const auto isDigit = [](char c) { return std::isxdigit(uchar(c)) != 0; };
     const QByteArray bytes = name.toUtf8();
-    QByteArray plain;
+    QByteArray plain(1, '_'); // or else Qt would drop a byte order mark
     for (auto at = bytes.begin(); at != bytes.end(); ++at) {
         if (*at == '%' && bytes.end() - at > 2 && isDigit(at[1]) && isDigit(at[2])) {
             plain += QByteArray::fromHex(QByteArray(at + 1, 2));
@@ -36,7 +36,7 @@ static QString decoded(const QString &name)
             plain += *at;
         }
     }
-    return QString::fromUtf8(plain.constData(), plain.size());
+    return QString::fromUtf8(plain.constData(), plain.size()).mid(1);
 }
 
 class SmilPartsData : public QSharedData
