@@ -467,13 +467,14 @@ public:
     /**
      * The tree that the last parse() read, or the last getContent() rendered. It has what the model has no place for:
      * an "alt", a "param", the order of media and nested elements. Null before the first of the two, unless render()
-     * was called, and after a parse() whose outcome is #NotWellFormed.
+     * was called, and after a parse() whose outcome is #NotWellFormed. It has no XML declaration: the tree is written as
+     * UTF-8 by QDomDocument::toByteArray(), whatever the input was.
      *
      * This is Qt's handle, so that a change to the tree shows in every copy. A copy keeps the tree when the parser is
      * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed, in any
      * order. A further parse() replaces the tree in the copy too: by what it reads, if only the beginning of a broken
-     * document; and by nothing when the input was read before. The model is not looked at: what the host changes there after parse(),
-     * this tree does not show.
+     * document; and by nothing when the input was read before. The model is not looked at: what the host changes there
+     * after parse(), this tree does not show.
      *
      * Take the tree from here, not from QDomDocument::setContent() with the same bytes: that reads them without the
      * bounds of #Limit, and may take them for another text. Cost: constant.
@@ -548,8 +549,8 @@ public:
     /**
      * The model as text: the elements and attributes that getContent() writes, with the same values, in UTF-8, without
      * XML declaration. With a negative @p indent it is one line without a line end. From 0 on each element has a line,
-     * which begins with that many blanks for each element around it, as QDomDocument::toByteArray() writes. The bytes are the same on every run, Qt and machine. Neither the model nor the
-     * parser is changed, and there is no DOM.
+     * which begins with that many blanks for each element around it, as QDomDocument::toByteArray() writes. The bytes
+     * are the same on every run, Qt and machine. Neither the model nor the parser is changed, and there is no DOM.
      *
      * Attributes stand in the order in which getContent() sets them. An element without others inside is written as
      * `<img src="a"/>`. Tabs and line ends in a text stay, as references. A character that XML does not allow, such as

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-static const int longest = 32;
+static const int longest = 27;
 static const int longestExtension = 8;
 
 static bool isPlain(QChar c)

@@ -65,6 +65,15 @@ static void removeChildren(QDomDocument &dom)
     }
 }
 
+/** A declaration would be written by QDomDocument::toByteArray(), which always writes UTF-8, whatever it declares. */
+static void removeDeclaration(QDomDocument &dom)
+{
+    const QDomProcessingInstruction first = dom.firstChild().toProcessingInstruction();
+    if (first.target() == QLatin1String("xml")) {
+        dom.removeChild(first);
+    }
+}
+
 SmilParser::SmilParser(QIODevice *device)
 {
     if (device) {
@@ -112,6 +121,7 @@ SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *
         return document;
     }
 
+    removeDeclaration(domDocument);
     document = SmilDocument();
     const QDomElement smil = domDocument.firstChildElement(smilElement);
     if (smil.isNull()) {
