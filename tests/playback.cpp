@@ -199,6 +199,8 @@ void Playback::backgrounds()
                         "<topLayout background-color='no'/>"),
              QStringLiteral("red"));
     QVERIFY(background("<root-layout/><root-layout background-color='no'/>").isNull());
+}
+
 void Playback::otherCues()
 {
     const auto cueOf = [](const char *medium) {

@@ -15,6 +15,7 @@ private Q_SLOTS:
     void debugLines();
     void deepDurations();
     void trees();
+    void declarations();
     void oldElements();
     void devices();
     void walks_data() { addCases("walks.txt"); }
@@ -223,6 +224,21 @@ void Reading::trees()
                                 "cut off: null, copy \"%3\"\n")
                      .arg(QStringLiteral("<smil><head/><body><img alt='A'/></body></smil>"), written,
                           QStringLiteral("<smil><head/><body/></smil>")));
+}
+
+/** A tree that a host changes and writes is UTF-8, whatever the input was in. */
+void Reading::declarations()
+{
+    const QString text =
+        QStringLiteral("<?xml version='1.0' encoding='%1'?><!--a--><smil><head title='\u00e4'/><body/></smil>");
+    for (const QByteArray &input :
+         {text.arg(QStringLiteral("ISO-8859-1")).toLatin1(), wide(text.arg(QStringLiteral("UTF-16")), 2, true, true),
+          text.arg(QStringLiteral("utf-8")).toUtf8()}) {
+        SmilParser parser(input);
+        parser.parse();
+        QCOMPARE(QString::fromUtf8(parser.dom().toByteArray(-1)),
+                 QStringLiteral("<!--a--><smil><head title=\"\u00e4\"/><body/></smil>"));
+    }
 }
 
 /** They are on their own when the document is read into again, and may go in any order, also after the document. */
