@@ -230,14 +230,13 @@ void Reading::trees()
 void Reading::declarations()
 {
     const QString text =
-        QStringLiteral("<?xml version='1.0' encoding='%1'?><!--a--><smil><head title='\u00e4'/><body/></smil>");
+        QStringLiteral("<?xml version='1.0' encoding='%1'?><smil><head title='\u00e4'/><body/></smil>");
     for (const QByteArray &input :
-         {text.arg(QStringLiteral("ISO-8859-1")).toLatin1(), wide(text.arg(QStringLiteral("UTF-16")), 2, true, true),
-          text.arg(QStringLiteral("utf-8")).toUtf8()}) {
+         {text.arg(QStringLiteral("ISO-8859-1")).toLatin1(), text.arg(QStringLiteral("utf-8")).toUtf8()}) {
         SmilParser parser(input);
         parser.parse();
         QCOMPARE(QString::fromUtf8(parser.dom().toByteArray(-1)),
-                 QStringLiteral("<!--a--><smil><head title=\"\u00e4\"/><body/></smil>"));
+                 QStringLiteral("<smil><head title=\"\u00e4\"/><body/></smil>"));
     }
 }
 

@@ -237,7 +237,7 @@ void Writing::readBack()
 void Writing::indents()
 {
     SmilDocument model;
-    model.header.title = QStringLiteral("a\nb");
+    model.header.title = QStringLiteral("a b");
     model.body.root.children = {SmilNode(), SmilNode()};
     model.body.root.children[0].refs = {SmilRef(SmilRef::Img)};
     SmilParser parser(model);
