@@ -145,7 +145,7 @@ public:
     QList<SmilCue> during(double from, double to) const;
 
     /**
-     * When something begins to play or ends next, after @p seconds: what at() returns stays the same until then.
+     * When something begins to play or ends next, after @p seconds. What at() returns stays the same until then.
      * Infinite when nothing does, and for NaN. What never plays does neither. The #duration may still be to come. Cost:
      * linear in the number of #cues.
      */
