@@ -55,7 +55,7 @@ public:
      * nextSlide(), and if the room that it needs is taken. @p seconds is how long it lasts; a value that is not finite
      * and above 0 says that nothing is known of that.
      *
-     * @return the SmilRef::src of the medium, which is name() of @p name: its part is to be sent under it, as its
+     * @return the SmilRef::src of the medium, which is name() of @p name. Its part is to be sent under it, as its
      * Content-Location and as the name of its Content-Type, which is where phones look. A null string, and nothing is
      * added, if @p type is no SmilRef::Type: rendering would leave it out.
      *

@@ -445,9 +445,9 @@ public:
     SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);
 
     /**
-     * The same with @p options: the same warnings and debug lines, the same use of @p errorMsg, @p errorLine and
-     * @p errorColumn, and the same model but for what the options say. With #AsWritten it is what parse() without
-     * options gives; bits that are no #ReadOption are ignored. For messages from phones:
+     * The same with @p options. The warnings, the debug lines and the use of @p errorMsg, @p errorLine and
+     * @p errorColumn do not change, nor does the model except for what the options say. With #AsWritten it is what
+     * parse() without options gives; bits that are no #ReadOption are ignored. For messages from phones:
      * @code
      * SmilParser::Outcome outcome;
      * SmilDocument &message = parser.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize, &outcome);
@@ -467,8 +467,8 @@ public:
     /**
      * The tree that the last parse() read, or the last getContent() rendered. It has what the model has no place for:
      * an "alt", a "param", the order of media and nested elements. Null before the first of the two, unless render()
-     * was called, and after a parse() whose outcome is #NotWellFormed. It has no XML declaration: the tree is written as
-     * UTF-8 by QDomDocument::toByteArray(), whatever the input was.
+     * was called, and after a parse() whose outcome is #NotWellFormed. It has no XML declaration: the tree is written
+     * as UTF-8 by QDomDocument::toByteArray(), whatever the input was.
      *
      * This is Qt's handle, so that a change to the tree shows in every copy. A copy keeps the tree when the parser is
      * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed, in any
@@ -519,7 +519,7 @@ public:
     bool parseSmilBody(QDomElement &body);
 
     /**
-     * Reads the timeline inside @p element into @p node: replaces its SmilNode::dur and appends a node for each "par"
+     * Reads the timeline inside @p element into @p node. Replaces its SmilNode::dur and appends a node for each "par"
      * and "seq" child and a reference for each "text", "img", "audio", "video" and "ref" child, the names in any
      * letter case. Other children are skipped with all they hold. Neither the SmilNode::type of @p node nor the element
      * is changed, and no member of the parser is used; a null element counts as empty.

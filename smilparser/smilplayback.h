@@ -178,7 +178,7 @@ public:
     QList<SmilCue> cuesOnSlide(int index) const;
 
     /**
-     * When something begins to play or ends next, after @p seconds: what cuesAt() returns stays the same until then.
+     * When something begins to play or ends next, after @p seconds. What cuesAt() returns stays the same until then.
      * Infinite when nothing does, and for NaN. What never plays does neither. The duration() may still be to come.
      * Cost: linear in the number of cues().
      */
