@@ -57,6 +57,25 @@ Message slidesText(int slides)
     return {text + "</body>\n</smil>\n", SmilDocument(), QDomDocument()};
 }
 
+static SmilPart partOf(const QString &type, const QString &name)
+{
+    SmilPart part;
+    part.contentId = QLatin1Char('<') + name + QLatin1Char('>');
+    part.location = part.name = name;
+    part.type = type;
+    return part;
+}
+
+Message slidesParts(int slides)
+{
+    Message message = slidesText(slides);
+    for (int i = 0; i < slides; ++i) {
+        message.parts.append(partOf(QStringLiteral("image/jpeg"), QStringLiteral("picture%1.jpg").arg(i)));
+        message.parts.append(partOf(QStringLiteral("text/plain; charset=utf-8"), QStringLiteral("text%1.txt").arg(i)));
+    }
+    return message;
+}
+
 /** Those for two numbers differ by a multiple of @p factor, as polynomials of bits: by CRC-32 they may have one hash.
  */
 static QString regionName(int number, quint64 factor, QLatin1String zero)

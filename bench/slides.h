@@ -4,17 +4,24 @@
 #ifndef SMILPARSER_BENCH_SLIDES_H
 #define SMILPARSER_BENCH_SLIDES_H
 
-#include <smilparser/smilplayback.h>
+#include <smilparser/smilslideshow.h>
 
-/** What reading begins with, the text of a message; or writing, its model; or showing, its model and its tree. */
+/**
+ * What reading begins with, the text of a message; or writing, its model; or showing, its model and its tree, or its
+ * text and its parts.
+ */
 struct Message {
     QByteArray text;
     SmilDocument model;
     QDomDocument dom;
+    QList<SmilPart> parts = {};
 };
 
 /** An ordinary message of so many slides, each a picture and a text. */
 Message slidesText(int slides);
+
+/** The same with its parts, each with all names that it may have. */
+Message slidesParts(int slides);
 
 /**
  * What that text says, with the size of its layout also where rendering takes it from. Made without reading the text:
