@@ -243,10 +243,7 @@ void JsonOutput::placesAndParts()
         messageOf("<smil><head><layout><region id='A' left='10' width='20' height='50%'/></layout></head><body>"
                   "<img src='b' region='A'/><text src='B'/><audio src='c' region='A'/></body></smil>");
     MmsMessage mms;
-    mms.parts = {
-        {QStringLiteral("a"), {}, {}, {}, {}},
-        {QStringLiteral("b"), {}, {}, {}, {}}
-    };
+    mms.parts = {{QStringLiteral("a"), {}, {}, {}, {}}, {QStringLiteral("b"), {}, {}, {}, {}}};
     message.mms = mms;
     message.parts = Parts(mms);
     message.file = QString(QChar(0xd800)) + QChar(0);
