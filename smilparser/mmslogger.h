@@ -8,19 +8,19 @@
 
 /**
  * @file
- * The flag that the library asks of the program that it is loaded into.
+ * The flag that every program that uses the library defines.
  */
 
 /**
- * The host's class, which switches the library's debug messages. The library leaves the flag undefined, and finds the
- * host's when it is loaded. So the host program defines it, once, in one of its sources:
+ * Switches the library's debug messages. The library declares the flag and leaves it undefined; the program defines it
+ * once, in one of its sources:
  * @code
  * #include <smilparser/mmslogger.h>
  *
  * bool MMSLogger::qdebugEnabled = false;
  * @endcode
  *
- * The class is visible to the library whatever the host is compiled with. A host that declares the class itself,
+ * The class is visible to the library whatever the program is compiled with. A program that declares the class itself,
  * exported and with this member, does not include this header. No other header of the library includes it.
  */
 // Imported by the library, exported by the host: on ELF, Q_DECL_IMPORT does for both. Q_DECL_EXPORT is "protected" in
@@ -28,7 +28,7 @@
 class Q_DECL_IMPORT MMSLogger
 {
 public:
-    /** Whether debug messages are printed. The host may switch it between two calls of the library. */
+    /** Whether debug messages are printed. Change it only while no thread is in the library. */
     static bool qdebugEnabled;
 };
 
