@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// show NAME...: shows the message whose SMIL is on standard input, and whose other parts, from 0 on, have these names. Part -1 is missing.
+// show NAME...: lists what is to be shown of the message whose SMIL is on standard input, and whose other parts have
+// these names. They are numbered from 0 on; part -1 is missing.
 
 #include <smilparser/mmslogger.h>
 #include <smilparser/smilslideshow.h>

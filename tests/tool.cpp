@@ -25,6 +25,7 @@ private Q_SLOTS:
     void messageAsItIsSent();
     void completionKnowsEveryOption();
     void examples();
+    void codeOnPages();
 };
 
 void Tool::samples_data()
@@ -363,19 +364,43 @@ void Tool::examples()
     QCOMPARE(sent.err, QStringLiteral("beach___boats.jpg, hello.txt, harbour.jpg, waves.amr\n"));
     QCOMPARE(run(read, {}, sent.out.toUtf8()).err.count(QStringLiteral("slide, \"8s\"\n")), 1);
 
-    const QString readme = readFile(QStringLiteral(EXAMPLES_DIR "/../README.md"));
-    static const QRegularExpression snippet(QStringLiteral("//! \\[(\\w+)\\]\n(.*)\n *//! \\[\\1\\]\n"),
-                                            QRegularExpression::DotMatchesEverythingOption);
-    for (const char *const file : {"/compose.cpp", "/read.cpp", "/send.cpp", "/show.cpp"}) {
-        auto snippets = snippet.globalMatch(readFile(QStringLiteral(EXAMPLES_DIR) + QLatin1String(file)));
-        QVERIFY(snippets.hasNext());
-        while (snippets.hasNext()) {
-            QString code = snippets.next().captured(2);
-            static const QRegularExpression indentation(QStringLiteral("^    "), QRegularExpression::MultilineOption);
-            if (code.startsWith(QLatin1String("    "))) {
-                code.remove(indentation);
-            }
-            QVERIFY2(readme.contains(code), qPrintable(code));
+    const QString forward = QStringLiteral(EXAMPLES_BIN_DIR "/forward");
+    QVERIFY(run(forward, {}, sent.out.toUtf8()).out.contains(QLatin1String("title=\"Fwd: Two days at the sea\"")));
+    const Outcome forwarded =
+        run(forward, {QStringLiteral("a b.jpg"), QStringLiteral("card.vcf"), QStringLiteral("A_b.jpg")});
+    QCOMPARE(forwarded.err, QStringLiteral("a_b.jpg, card.vcf, A_b-2.jpg\n"));
+    QCOMPARE(forwarded.out.count(QLatin1String("<img ")), 2);
+    QCOMPARE(run(QStringLiteral(EXAMPLES_BIN_DIR "/first"), {QStringLiteral(EXAMPLES_DIR "/holiday.smil")}).err,
+             QStringLiteral("\"\" has 3 slides\n"));
+}
+
+/** Each piece of C++ on a page is a part of an example, which is compiled. */
+void Tool::codeOnPages()
+{
+    const auto captured = [](const QString &file, const char *pattern) {
+        QStringList texts;
+        auto match = QRegularExpression(QLatin1String(pattern), QRegularExpression::DotMatchesEverythingOption)
+                         .globalMatch(readFile(file));
+        while (match.hasNext()) {
+            texts << match.next().captured(1);
+        }
+        return texts;
+    };
+    QStringList compiled;
+    for (const QFileInfo &file : QDir(QStringLiteral(EXAMPLES_DIR)).entryInfoList({QStringLiteral("*.cpp")})) {
+        for (QString code : captured(file.filePath(), "//! \\[\\w+\\]\n(.*?\n) *//! ")) {
+            const bool indented = code.startsWith(QLatin1String("    "));
+            compiled << (indented ? code.remove(QRegularExpression(QStringLiteral("(?m)^    "))) : code);
+        }
+    }
+    QStringList pages(QStringLiteral(EXAMPLES_DIR "/../README.md"));
+    for (const QFileInfo &page :
+         QDir(QStringLiteral(EXAMPLES_DIR "/../docs")).entryInfoList({QStringLiteral("*.md")})) {
+        pages << page.filePath();
+    }
+    for (const QString &page : std::as_const(pages)) {
+        for (const QString &code : captured(page, "```cpp\n(.*?)```\n")) {
+            QVERIFY2(compiled.contains(code), qPrintable(page + QStringLiteral(":\n") + code));
         }
     }
 }

@@ -2,13 +2,12 @@
 # SPDX-License-Identifier: MIT
 #
 # The links to files that the rendered documentation has under another name, or not at all.
-s,(examples/\(compose\|send\|show\).cpp),(\1_8cpp-example.html),g
-s,(docs/figures/\(player\.png\|storyboard\.svg\)),(\1),g
-# By its own path, Doxygen finds a page only where that path has no blanks.
-s,(SECURITY\.md),(@ref security),g
-s,^# Security$,& {#security},
-s,\[\([^]]*\)\](\(LICENSE\|CONTRIBUTING\.md\|docs/[^)]*\)),\1,g
-# A page takes its title from the heading when that comes first. On the front page, the head has the project's name
-# already.
-/^<!--$/,/^-->$/d
+s,(\(../\)\{0\,1\}examples/\([a-z]*\)\.cpp),(\2_8cpp-example.html),g
+s,(\(docs/\)\{0\,1\}figures/,(,g
+s,\[\([^]]*\)\](\(LICENSE\|CONTRIBUTING\.md\|examples\)),\1,g
+# A page is called by its heading. By its own path, Doxygen finds one only where that path has no blanks.
 s,^# smilparser$,@mainpage notitle,
+s,^# \([A-Za-z]*\)$,& {#\L\1},
+s,(\(docs/\|\.\./\)\{0\,1\}\([A-Za-z]*\)\.md),(@ref \L\2),g
+# A page takes its title from the heading when that comes first.
+/^<!--$/,/^-->$/d
