@@ -5,6 +5,8 @@
 #include "commands.h"
 #include "findings.h"
 
+#include <smilparser/smilparser_version.h>
+
 #include <QtCore/QCommandLineParser>
 #include <QtCore/qnumeric.h>
 #include <QtCore/QRegularExpression>
@@ -206,11 +208,10 @@ QString parse(const QStringList &words, CommandLine &line)
         return parser.errorText();
     }
     line.arguments = argumentsOf(parser, line.command);
-    if (line.arguments.version) {
-        parser.showVersion();
-    }
-    if (help || line.arguments.help) {
-        parser.showHelp();
+    if (help || line.arguments.help || line.arguments.version) {
+        line.answer =
+            line.arguments.version ? QStringLiteral("smiltool " SMILPARSER_VERSION_STRING "\n") : parser.helpText();
+        return QString();
     }
     return line.command ? problemWith(*line.command, line.arguments) : QStringLiteral("no command given.");
 }

@@ -10,6 +10,8 @@
 #include "svg.h"
 #include "times.h"
 
+#include <QtCore/QBuffer>
+
 #include <algorithm>
 
 // In units of the picture.
@@ -79,7 +81,7 @@ static SmilTimeline timelineOf(const Message &message)
     return SmilTimeline(message.dom.documentElement());
 }
 
-bool storyboard(Message &message, QIODevice &out)
+void storyboard(Message &message, QIODevice &out)
 {
     const Screen screen(message.document.header.layout);
     const SmilTimeline timeline = timelineOf(message);
@@ -117,7 +119,7 @@ bool storyboard(Message &message, QIODevice &out)
     } else {
         svg.text(QPointF(margin, page.height() - 4), duration + more);
     }
-    return svg.end();
+    svg.end();
 }
 
 /** Whether a file in the folder of the parts is one that the message refers to. */
@@ -142,15 +144,21 @@ static Result drawTo(const QString &name, const QString &folder, Message &messag
     if (isPart(name, folder, message)) {
         return failure(name, QStringLiteral("is a part of the message"));
     }
-    const QString problem = writeFile(name, [&message](QIODevice &out) { return storyboard(message, out); });
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    storyboard(message, picture);
+    const QString problem = writeFile(name, picture.data());
     return problem.isEmpty() ? Result() : failure(name, problem);
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
-        return arguments.toFile() ? drawTo(arguments.output, arguments.parts, message)
-                                  : Result{storyboard(message, out), {}};
+        if (arguments.toFile()) {
+            return drawTo(arguments.output, arguments.parts, message);
+        }
+        storyboard(message, out);
+        return Result();
     });
 }
 

@@ -25,11 +25,10 @@ void Svg::begin(const QSizeF &size, const QString &title, const QString &descrip
     writer.writeTextElement(QStringLiteral("style"), QLatin1String(style));
 }
 
-bool Svg::end()
+void Svg::end()
 {
     writer.writeEndElement();
     writer.writeEndDocument();
-    return !writer.hasError();
 }
 
 void Svg::beginGroup(const QPointF &corner)

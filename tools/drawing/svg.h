@@ -15,8 +15,7 @@ public:
 
     /** @p description is for who cannot see the picture. */
     void begin(const QSizeF &size, const QString &title, const QString &description, const char *style);
-    /** Returns whether all could be written. */
-    bool end();
+    void end();
 
     /** Everything up to endGroup() has its origin at @p corner. */
     void beginGroup(const QPointF &corner);
