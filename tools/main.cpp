@@ -22,13 +22,6 @@ bool MMSLogger::qdebugEnabled = false;
 
 enum ExitStatus { Success = 0, Failure = 1, BadUsage = 2 };
 
-static int badUsage(const QString &problem)
-{
-    complain(QLatin1String("smiltool: ") + problem);
-    complain(QStringLiteral("Try 'smiltool --help'."));
-    return BadUsage;
-}
-
 namespace
 {
 /** Standard output, with what went wrong first for its error. */
@@ -117,7 +110,10 @@ int main(int argc, char *argv[])
     CommandLine line;
     const QString problem = parse(QCoreApplication::arguments(), line);
     if (!problem.isEmpty()) {
-        return badUsage(problem);
+        const QString command = line.command ? QLatin1Char(' ') + QLatin1String(line.command->name) : QString();
+        complain(QLatin1String("smiltool: ") + problem);
+        complain(QStringLiteral("Try 'smiltool%1 --help'.").arg(command));
+        return BadUsage;
     }
     qInstallMessageHandler(handleMessage);
     MMSLogger::qdebugEnabled = line.arguments.debug;
