@@ -29,7 +29,7 @@ text { fill: currentColor; }
 .number { font-weight: bold; font-size: 13px; }
 .id { font-style: italic; }
 .rtl { direction: rtl; }
-.cross { stroke: currentColor; stroke-width: 0.75; fill: none; }
+.missing { stroke-width: 1.5; stroke-dasharray: 6 4; }
 @media (prefers-color-scheme: dark) {
   svg { color: #e6eaf0; }
   .page { fill: #171b22; }
@@ -44,13 +44,15 @@ static void draw(Svg &svg, Media &media, const Picture &picture, const Screen &s
     svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
     for (const Shown &shown : picture.shown) {
         const QString colour = shown.region < 0 ? QString() : QStringLiteral(" r%1").arg(shown.region % 5);
-        svg.rectangle(shown.area, QLatin1String("region") + colour);
-        media.draw(shown);
+        svg.rectangle(shown.area, QLatin1String("region") + colour + QLatin1String(shown.missing ? " missing" : ""));
+        if (shown.part >= 0) {
+            media.draw(shown);
+        }
     }
     // After all of these, so that none hides a name in another.
     for (const Label &label : picture.labels) {
         svg.beginClip(QRectF(label.area.topLeft(), QSizeF(label.room, lineHeight)));
-        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.isId ? "id" : nullptr);
+        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.region < 0 ? nullptr : "id");
         svg.endGroup();
     }
     const double lines = picture.below.size() + 1.5;

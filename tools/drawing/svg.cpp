@@ -76,18 +76,6 @@ void Svg::title(const QString &text)
     writer.writeTextElement(QStringLiteral("title"), text);
 }
 
-void Svg::cross(const QRectF &edges)
-{
-    writer.writeEmptyElement(QStringLiteral("path"));
-    writer.writeAttribute(QStringLiteral("d"),
-                          QStringLiteral("M%1 %2 %3 %4M%1 %4 %3 %2")
-                              .arg(edges.left())
-                              .arg(edges.top())
-                              .arg(edges.right())
-                              .arg(edges.bottom()));
-    writer.writeAttribute(QStringLiteral("class"), QStringLiteral("cross"));
-}
-
 void Svg::image(const QString &type, const QByteArray &data, const QRectF &edges, bool distorted)
 {
     writer.writeEmptyElement(QStringLiteral("image"));

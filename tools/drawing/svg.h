@@ -26,7 +26,6 @@ public:
     /** What a viewer says of the element that this is in. */
     void title(const QString &text);
     void rectangle(const QRectF &area, const QString &kind);
-    void cross(const QRectF &area);
     void text(const QPointF &at, const QString &line, const char *kind = nullptr);
 
     /** A picture of the given type, "image/png" for example; one of another shape is fitted in, or else distorted. */
