@@ -343,12 +343,13 @@ void Tool::messageAsItIsSent()
              QStringLiteral("-: the SMIL part is larger than 1 MiB\n"));
     QCOMPARE(smiltool({QStringLiteral("show"), QStringLiteral("-")}, headers.leftJustified(8 * 1024 * 1024 + 1)).err,
              QStringLiteral("-: larger than 8 MiB\n"));
-    const QString longSubject =
-        smiltool({QStringLiteral("show"), QStringLiteral("-")},
-                 QByteArray("\x8C\x84\x96") + QByteArray(70000, 'a') + '\0' + message.mid(message.indexOf("\x84\x1C")))
-            .out;
-    QVERIFY2(longSubject.contains(QString(65535, QLatin1Char('a')) + QStringLiteral("\u2026\"\n")),
-             qPrintable(longSubject.right(200)));
+    const QByteArray longSubject =
+        QByteArray("\x8C\x84\x96") + QByteArray(70000, 'a') + '\0' + message.mid(message.indexOf("\x84\x1C"));
+    for (const QString &option : {QStringLiteral("--plain"), QStringLiteral("--json")}) {
+        const QString shown = smiltool({QStringLiteral("show"), option, QStringLiteral("-")}, longSubject).out;
+        QVERIFY2(shown.contains(QString(65535, QLatin1Char('a')) + QStringLiteral("\u2026\"")),
+                 qPrintable(option + shown.right(200)));
+    }
     const Outcome cut = smiltool({QStringLiteral("show"), QStringLiteral("-")}, message.chopped(1));
     QCOMPARE(cut.err,
              QStringLiteral("-: is cut off in its parts (number 3 of 3), or has a length there that is wrong\n"));
