@@ -8,6 +8,7 @@
 #include <smilparser/smilplayback.h>
 
 #include <QtCore/QIODevice>
+#include <QtCore/QLocale>
 
 #include <cmath>
 
