@@ -7,6 +7,7 @@
 #include <smilparser/smilplayback.h>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 /**
@@ -48,7 +49,7 @@ void findCrowding(const QDomElement &smil, const SmilLayout &layout, Findings &f
     const SmilTimeline timeline(smil);
     QList<const SmilCue *> additions;
     // The cues are in the order in which they begin: one comes in addition if any of those before it still plays.
-    QHash<QPair<int, int>, double> ends;
+    std::map<std::pair<int, int>, double> ends;
     for (const SmilCue &cue : timeline.cues()) {
         if (cue.begin < cue.end) {
             double &end = ends[{roomOf(cue.ref), screen.regionIndex(cue.ref.region)}];

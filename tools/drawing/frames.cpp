@@ -27,6 +27,21 @@ QString wordsFor(const SmilCue &cue)
     return cue.alt.isEmpty() ? nameOf(cue.ref) : withSign(cue.ref, cue.alt);
 }
 
+/** Of all that plays in that time, what is told apart. The cues are in the order in which they begin. */
+static QList<SmilCue> cuesOf(const SmilTimeline &timeline, double begin, double end)
+{
+    QList<SmilCue> cues;
+    for (const SmilCue &cue : timeline.cues()) {
+        if (cue.begin >= end || cues.size() == bounds::media) {
+            break;
+        }
+        if (cue.end > begin && cue.end > cue.begin) {
+            cues.append(cue);
+        }
+    }
+    return cues;
+}
+
 QList<Frame> framesOf(const SmilTimeline &timeline)
 {
     QList<Frame> frames;
@@ -35,7 +50,7 @@ QList<Frame> framesOf(const SmilTimeline &timeline)
         const double begin = slides.at(i);
         const double length = slides.value(i + 1, timeline.duration()) - begin;
         frames.append({QStringLiteral("%1 \u00b7 %2 \u00b7 %3").arg(i + 1).arg(clockText(begin), lengthText(length)),
-                       timeline.cuesBetween(begin, slides.value(i + 1, qInf())).mid(0, bounds::media)});
+                       cuesOf(timeline, begin, slides.value(i + 1, qInf()))});
     }
     return frames;
 }
