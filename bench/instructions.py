@@ -5,8 +5,8 @@
 
 The floor of reading is QDomDocument::setContent() alone, that of writing the same tree built by hand, and that of
 showing, which makes the timeline and the screen of a message, is reading it. What a text costs is compared with what it
-costs by way of the tree. Prints Markdown; the exit status is 1 when a bar is passed. script/instructions builds what
-this runs.
+costs by way of the tree, and looking up names that were chosen to have one hash with looking up others. Prints
+Markdown; the exit status is 1 when a bar is passed. script/instructions builds what this runs.
 """
 
 import argparse

@@ -472,8 +472,8 @@ public:
      * This is Qt's handle, so that a change to the tree shows in every copy. A copy keeps the tree when the parser is
      * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed, in any
      * order. A further parse() replaces the tree in the copy too: by what it reads, if only the beginning of a broken
-     * document; and by nothing when the input was read before. The model is not looked at: what the host changes there after parse(),
-     * this tree does not show.
+     * document; and by nothing when the input was read before. The model is not looked at: what the host changes there
+     * after parse(), this tree does not show.
      *
      * Take the tree from here, not from QDomDocument::setContent() with the same bytes: that reads them without the
      * bounds of #Limit, and may take them for another text. Cost: constant.
