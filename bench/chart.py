@@ -6,7 +6,7 @@ from html import escape
 
 WIDTH = 760
 LEFT = 230  # where bars begin
-RIGHT = 210  # what is kept free for the numbers behind the longest
+RIGHT = 210  # what is kept free for the numbers
 BAR, STEP, TOP = 18, 26, 62
 
 STYLE = """
@@ -15,14 +15,12 @@ STYLE = """
     .group { font-weight: 600; }
     .card { fill: #ffffff; stroke: #d1d9e0; }
     .floor { stroke: #1f2328; stroke-dasharray: 4 3; }
-    .number { paint-order: stroke; stroke: #ffffff; stroke-width: 5px; }
     .bar { fill: #8c959f; }
     .own { fill: #0969da; }
     @media (prefers-color-scheme: dark) {
         text { fill: #f0f6fc; }
         .card { fill: #0d1117; stroke: #3d444d; }
         .floor { stroke: #f0f6fc; }
-        .number { stroke: #0d1117; }
         .bar { fill: #6e7681; }
         .own { fill: #4493f8; }
     }
@@ -49,7 +47,7 @@ def chart(title, groups, own):
             width = value * scale
             lines.append(text(LEFT - 10, y + 14, label, anchor="end"))
             lines.append(f'<rect class="{style}" x="{LEFT}" y="{y}" width="{width:.1f}" height="{BAR}" rx="2"/>')
-            lines.append(text(round(LEFT + width + 8, 1), y + 14, f"{value:.2f}  {remark}", "number"))
+            lines.append(text(WIDTH - RIGHT + 20, y + 14, f"{value:.2f}  {remark}"))
             y += STEP
         y += STEP / 2
     one = LEFT + scale

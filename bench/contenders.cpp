@@ -49,6 +49,23 @@ static void show(const Message &message, Made &made)
     made.screen = SmilScreen(message.model.header.layout);
 }
 
+static void slideshow(const Message &message, Made &made)
+{
+    made.slideshow = SmilSlideshow(message.text, message.parts);
+}
+
+static void lookUp(const Message &message, Made &made)
+{
+    made.screen = SmilScreen(message.model.header.layout);
+    SmilParts parts;
+    for (const SmilRegion &region : message.model.header.layout.regions) {
+        parts.add(made.screen.regionIndex(region.id), region.id);
+    }
+    for (const SmilRegion &region : message.model.header.layout.regions) {
+        parts.find(region.id);
+    }
+}
+
 static void floorText(const Message &message, Made &made)
 {
     made.text = SmilParser(message.model).getContent().toByteArray(-1); // the tree is dropped, too
@@ -71,15 +88,18 @@ static void keepModel(const Message &message, Made &made)
 }
 
 const std::vector<Contender> contenders = {
-    {"floor-parse", slidesText,  floorParse                  },
-    {"parse",       slidesText,  parse                       },
-    {"floor-write", slidesModel, floorWrite                  },
-    {"write",       slidesModel, write                       },
-    {"show",        slidesRead,  show                        },
-    {"floor-text",  slidesModel, floorText                   },
-    {"text",        slidesModel, text                        },
-    {"model",       slidesText,  keepModel<readWithLibrary>  }, // the parser is dropped, and its DOM with it
-    {"xmlstream",   slidesText,  keepModel<readWithXmlStream>},
+    {"floor-parse", slidesText, floorParse},
+    {"parse", slidesText, parse},
+    {"floor-write", slidesModel, floorWrite},
+    {"write", slidesModel, write},
+    {"show", slidesRead, show},
+    {"slideshow", slidesParts, slideshow},
+    {"show-differing", differingRegions, lookUp},
+    {"show-colliding", collidingRegions, lookUp},
+    {"floor-text", slidesModel, floorText},
+    {"text", slidesModel, text},
+    {"model", slidesText, keepModel<readWithLibrary>}, // the parser is dropped, and its DOM with it
+    {"xmlstream", slidesText, keepModel<readWithXmlStream>},
 };
 
 static QString treeOf(const SmilDocument &model)
@@ -94,13 +114,18 @@ bool contendersAgree(int slides)
     const SmilDocument model = slidesModel(slides).model;
     const QString tree = treeOf(model);
     for (const Contender &contender : contenders) {
+        if (contender.pass == lookUp) {
+            continue; // of no slides
+        }
         Made made;
         contender.pass(contender.message(slides), made);
-        if (contender.pass == show) {
-            const bool agrees = int(made.timeline.slides.size()) == slides
-                && int(made.timeline.cues.size()) == 2 * slides && made.screen.areas.size() == 2;
+        if (contender.pass == show || contender.pass == slideshow) {
+            const bool agrees = contender.pass == slideshow
+                ? made.slideshow.count() == slides && made.slideshow.slide(slides - 1).parts.value(1) == 2 * slides - 1
+                : int(made.timeline.slideBegins().size()) == slides && int(made.timeline.cues().size()) == 2 * slides
+                    && made.screen.regionRects().size() == 2;
             if (!agrees) {
-                std::fprintf(stderr, "what shows %d slides has lost some\n", slides);
+                std::fprintf(stderr, "%s of %d slides has lost some\n", contender.name, slides);
                 return false;
             }
             continue;

@@ -17,6 +17,7 @@ struct Made {
     SmilDocument model;
     SmilTimeline timeline;
     SmilScreen screen;
+    SmilSlideshow slideshow;
 };
 
 /** One of those that are compared: the library, its floor, or what a host could use instead. */

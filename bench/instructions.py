@@ -3,8 +3,9 @@
 # SPDX-License-Identifier: MIT
 """Counts the instructions of the library's work beside their floor, on both versions of Qt, and holds them to bars.
 
-The floor of reading is QDomDocument::setContent() alone, that of writing the same tree built by hand, and that of
-showing, which makes the timeline and the screen of a message, is reading it. What a text costs is compared with what it
+The floor of reading is QDomDocument::setContent() alone, and that of writing the same tree built by hand. That of
+showing, which makes the timeline and the screen of a message, is reading it; that of a slideshow, which reads the
+message itself and drops its tree, is doing just that. What a text costs is compared with what it
 costs by way of the tree. Prints Markdown; the exit status is 1 when a bar is passed. script/instructions builds what
 this runs.
 """
@@ -19,7 +20,8 @@ import tempfile
 
 QTS = {"Qt 6": "build/bench-qt6/bench/bench", "Qt 5": "build/bench-qt5/bench/bench"}
 
-FLOORS = {"parse": "floor-parse", "write": "floor-write", "show": "parse", "text": "floor-text"}
+FLOORS = {"parse": "floor-parse", "write": "floor-write", "show": "parse", "slideshow": "model", "text": "floor-text",
+          "show-colliding": "show-differing"}
 
 # What the work may cost of its floor. docs/performance.md says what stands in the way of Qt 5.
 BARS = {
@@ -28,7 +30,9 @@ BARS = {
     ("write", 3): {"Qt 6": 1.00, "Qt 5": 1.00},
     ("write", 1000): {"Qt 6": 1.00, "Qt 5": 1.00},
     ("show", 1000): {"Qt 6": 0.25, "Qt 5": 0.25},
+    ("slideshow", 1000): {"Qt 6": 1.50, "Qt 5": 1.65},
     ("text", 1000): {"Qt 6": 0.50, "Qt 5": 0.60},
+    ("show-colliding", 4000): {"Qt 6": 1.10, "Qt 5": 1.10},
 }
 # How far the cost of a slide may be from that in the message of 1,000.
 STRAIGHT = 0.05

@@ -57,6 +57,61 @@ Message slidesText(int slides)
     return {text + "</body>\n</smil>\n", SmilDocument(), QDomDocument()};
 }
 
+static SmilPart partOf(const QString &type, const QString &name)
+{
+    SmilPart part;
+    part.contentId = QLatin1Char('<') + name + QLatin1Char('>');
+    part.location = part.name = name;
+    part.type = type;
+    return part;
+}
+
+Message slidesParts(int slides)
+{
+    Message message = slidesText(slides);
+    for (int i = 0; i < slides; ++i) {
+        message.parts.append(partOf(QStringLiteral("image/jpeg"), QStringLiteral("picture%1.jpg").arg(i)));
+        message.parts.append(partOf(QStringLiteral("text/plain; charset=utf-8"), QStringLiteral("text%1.txt").arg(i)));
+    }
+    return message;
+}
+
+/** Those for two numbers differ by a multiple of @p factor, as polynomials of bits: by CRC-32 they may have one hash.
+ */
+static QString regionName(int number, quint64 factor, QLatin1String zero)
+{
+    quint64 pattern = 0;
+    for (int bit = 0; bit < 12; ++bit) {
+        pattern ^= number >> bit & 1 ? factor << bit : 0;
+    }
+    QString name;
+    for (int bit = 0; bit < 44; ++bit) {
+        name += pattern >> bit & 1 ? QLatin1String("BB") : zero;
+    }
+    return name;
+}
+
+static Message regionsNamed(int regions, quint64 factor, QLatin1String zero)
+{
+    Message message;
+    for (int i = 0; i < regions; ++i) {
+        message.model.header.layout.regions.append(SmilRegion());
+        message.model.header.layout.regions.last().id = regionName(i, factor, zero);
+    }
+    return message;
+}
+
+Message collidingRegions(int regions)
+{
+    // The second one is for processors without an instruction for CRC-32: 31 * 'A' + 'a' is 31 * 'B' + 'B'.
+    return regionsNamed(regions, 0x105ec76f1, QLatin1String("Aa"));
+}
+
+Message differingRegions(int regions)
+{
+    return regionsNamed(regions, 0x105ec76f5, QLatin1String("Ab"));
+}
+
 static QString number(const SmilUnit &measure, QLatin1String suffix)
 {
     return QString::number(int(measure.value)) + suffix;

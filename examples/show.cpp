@@ -1,47 +1,40 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// show NAME...: tells when and where each part of those names is shown by the message on standard input.
+// show NAME...: shows the message whose SMIL is on standard input, and whose other parts, from 0 on, have these names. Part -1 is missing.
 
 #include <smilparser/mmslogger.h>
-#include <smilparser/smilplayback.h>
+#include <smilparser/smilslideshow.h>
 
 #include <QtCore/QDebug>
 #include <QtCore/QFile>
-#include <QtCore/QSet>
-
-#include <cstdio>
+#include <QtCore/QMimeDatabase>
 
 bool MMSLogger::qdebugEnabled = false;
 
 int main(int argc, char *argv[])
 {
     QFile file;
-    const QByteArray bytes = file.open(stdin, QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    const QByteArray smil = file.open(stdin, QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    QList<SmilPart> parts;
+    for (int i = 1; i < argc; ++i) {
+        SmilPart part;
+        part.name = QString::fromLocal8Bit(argv[i]);
+        part.type = QMimeDatabase().mimeTypeForFile(part.name, QMimeDatabase::MatchExtension).name();
+        parts << part;
+    }
     //! [show]
-    SmilParser parser(bytes);
-    const SmilScreen screen(parser.parse().header.layout);
-    const SmilTimeline timeline(parser.dom().documentElement());
-    SmilParts parts;
-    for (int part = 1; part < argc; ++part) {
-        parts.add(part, QString::fromLocal8Bit(argv[part]));
-    }
-    QSet<int> named;
-    for (int i = 0; i < int(timeline.slides.size()); ++i) {
-        const double end = timeline.slides.value(i + 1, qInf());
-        const QList<SmilCue> cues = timeline.during(timeline.slides.at(i), end);
-        const QList<QRectF> places = screen.places(cues);
-        for (int j = 0; j < int(cues.size()); ++j) {
-            const int part = parts.find(cues.at(j).ref.src);
-            named.insert(part);
-            qInfo() << "slide" << i + 1 << cues.at(j).begin << (part < 0 ? "missing" : argv[part]) << places.at(j);
-        }
-    }
-    for (int part = 1; part < argc; ++part) {
-        if (!named.contains(part)) {
-            qInfo() << "after" << timeline.duration << argv[part];
+    const SmilSlideshow show(smil, parts);
+    const SmilScreen screen(show.layout());
+    qInfo() << show.title() << "on" << show.background() << screen.size() << show.error();
+    for (int i = 0; i < show.count(); ++i) {
+        const SmilSlide slide = show.slide(i);
+        const QList<QRectF> places = screen.rects(slide.cues);
+        qInfo() << "slide" << i + 1 << "from" << slide.begin << "to" << slide.end;
+        for (int j = 0; j < int(slide.cues.size()); ++j) {
+            const SmilCue &cue = slide.cues.at(j);
+            qInfo() << cue.ref.src << "is part" << slide.parts.at(j) << places.at(j) << cue.background;
         }
     }
     //! [show]
-    return timeline.slides.isEmpty() ? 1 : 0;
 }

@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     require(decoded || toldByLibrary(input, SmilParser::DecodedText) == told, "Other with DecodedText:", input, told,
             QString());
     // Nothing is left of a document with an odd declaration.
-    if (text.isEmpty() || harmlessSize(text) < text.size()) {
+    if (text.isEmpty() || safePrefixLength(text) < text.size()) {
         require(refused, "Beyond the limits, and no error:", input, told, QString());
     } else if (!decoded || !text.contains("\xef\xbf\xbd")) { // readers report unknown characters in their own ways
         const QString expected = toldByReaderAlone(input);

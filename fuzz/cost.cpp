@@ -28,7 +28,7 @@ static double timeOf(const QByteArray &input)
             SmilParser parser(input);
             const SmilDocument &model = parser.parse();
             const SmilTimeline timeline(parser.dom().documentElement());
-            SmilScreen(model.header.layout).places(timeline.cues);
+            SmilScreen(model.header.layout).rects(timeline.cues());
             parser.getContent();
         }
         clock_gettime(CLOCK_THREAD_CPUTIME_ID, &end);

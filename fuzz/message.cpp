@@ -72,7 +72,7 @@ static void nameFiles(const Message &message)
 {
     QStringList srcs;
     const SmilTimeline timeline(message.dom.documentElement());
-    for (const SmilCue &cue : timeline.cues) {
+    for (const SmilCue &cue : timeline.cues()) {
         srcs.append(cue.ref.src);
     }
     nameFiles(message, srcs);

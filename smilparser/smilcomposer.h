@@ -6,8 +6,7 @@
 
 #include <smilparser/smilparser.h>
 
-#include <QtCore/QHash>
-#include <QtCore/QSet>
+#include <QtCore/QSharedDataPointer>
 #include <QtCore/QSizeF>
 
 /**
@@ -38,30 +37,47 @@ public:
     /**
      * A composer without media, for a screen of that many pixels. A side that is not finite, or below 1, is not stated
      * in the message; others are rounded to whole pixels, and to six digits. @p slideDuration is how many seconds a
-     * slide lasts where its media do not say; 5 where it is not finite and above 0. Cost: constant.
+     * slide lasts where its media do not say; 5 where it is not finite and above 0. Durations below 0.001 s and above
+     * 999999 s count as these, those of media too: others would be written with an exponent, which no phone reads.
+     * Cost: constant.
      */
     explicit SmilComposer(const QSizeF &screen = QSizeF(320, 480), double slideDuration = 5.0);
 
+    SmilComposer(const SmilComposer &other); ///< A copy, which goes on by itself.
+    SmilComposer(
+        SmilComposer &&other) noexcept; ///< The same; @p other may only be destroyed or assigned to after that.
+    SmilComposer &operator=(const SmilComposer &other); ///< Makes this a copy of @p other.
+    SmilComposer &operator=(SmilComposer &&other) noexcept; ///< The same, as the constructor.
+    ~SmilComposer(); ///< Releases what no copy shares.
+
     /**
-     * Puts a medium into the current slide, behind those there; or into a new one, if its room there is taken, or after
-     * nextSlide(), or if it is the first. @p seconds is how long it lasts; a value that is not finite and above 0 says
-     * that nothing is known of that.
+     * Puts a medium into the current slide, after those there. It begins a new slide if it is the first one, after
+     * nextSlide(), and if the room that it needs is taken. @p seconds is how long it lasts; a value that is not finite
+     * and above 0 says that nothing is known of that.
      *
-     * @return the SmilRef::src of the medium: the name under which its part is to be sent, as its Content-Location and
-     * as the name of its Content-Type, which is where phones look. It is made of @p name, which
-     * may be a path, so that any phone finds the part by it: what follows the last "/" or "\", with "_" for each UTF-16
-     * code unit but ASCII letters, digits, ".", "-" and "_", without the "." and "-" in front. If nothing is left, as
-     * of a null or empty name, it is "part". It has at most 32 characters, and differs from all that were returned
-     * before in more than letter case: it is cut, and gets the first number of "-2", "-3" and so on that makes it so.
-     * Both leave the extension as it is: the last dot and what is behind it, if that is 1 to 8 characters. A name that
-     * needs nothing of this comes back as it is.
+     * @return the SmilRef::src of the medium, which is name() of @p name. Its part is to be sent under it, as its
+     * Content-Location and as the name of its Content-Type, which is where phones look. A null string, and nothing is
+     * added, if @p type is no SmilRef::Type: rendering would leave it out.
      *
-     * A @p type that is no SmilRef::Type, and that rendering would leave out, adds nothing and returns a null string.
-     *
-     * Cost: linear in the length of the name, however many media there are, and how often under one name; and, the
-     * first time after the composer was copied, a copy of its lists.
+     * Cost: that of name(). The first time after the composer was copied, it is also that of a copy of its lists.
      */
     QString add(SmilRef::Type type, const QString &name, double seconds = 0);
+
+    /**
+     * A name by which any phone finds a part, and that no other part of this message has, made of @p name, which may be
+     * a path. add() uses it. A host calls it for a part that is on no slide: a vCard, the SMIL itself, what a forwarded
+     * message has already.
+     *
+     * It is what follows the last "/" or "\", without the "." and "-" that it begins with, and with "_" for each UTF-16
+     * code unit except ASCII letters, digits, ".", "-" and "_". If nothing is left, as of a null or empty name, it is
+     * "part". It has at most 27 characters, because some phones lose a part whose Content-Type is longer with its name,
+     * and differs from all that were returned before in more than letter case: it is cut, and gets the first number of
+     * "-2", "-3" and so on that makes it so. Both leave the extension as it is: the last dot and what follows, if that
+     * is 1 to 8 characters. A name that needs nothing of this comes back as it is.
+     *
+     * Cost: linear in the length of the name, and, on average, log n in the number of names, however many are alike.
+     */
+    QString name(const QString &name);
 
     /**
      * Ends the current slide: the next medium begins another one. Where there is no medium since the last call, or none
@@ -91,12 +107,8 @@ public:
     SmilDocument message() const;
 
 private:
-    QSizeF size;
-    double slideSeconds;
-    bool slideEnded;
-    QList<SmilNode> slides; // of each, SmilNode::dur is not valid yet, and has the longest seconds known, or 0
-    QSet<QString> names; // the returned ones, in lower case
-    QHash<QString, int> numbers; // the next to try, for names that differ by their number only
+    QSharedDataPointer<class SmilComposerData> d;
 };
+Q_DECLARE_TYPEINFO(SmilComposer, Q_MOVABLE_TYPE);
 
 #endif

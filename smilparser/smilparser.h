@@ -433,7 +433,9 @@ public:
      * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
      *
      * Every call drops the tree that an earlier parse() or getContent() left: a copy of that document is the same
-     * document, and holds then what this call read of the input. Elements of the old tree may only be destroyed.
+     * document, and holds then what this call read of the input. Elements of the old tree that the host still holds
+     * keep what is inside them, but are no longer in the document. When the document ends, they may only be destroyed,
+     * in any order.
      *
      * The model is the parser's. Of a parser that is a temporary, take a copy: after
      * `const SmilDocument &model = SmilParser(bytes).parse();` the reference refers to nothing.
@@ -443,9 +445,9 @@ public:
     SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);
 
     /**
-     * The same with @p options: the same warnings and debug lines, the same use of @p errorMsg, @p errorLine and
-     * @p errorColumn, and the same model but for what the options say. With #AsWritten it is what parse() without
-     * options gives; bits that are no #ReadOption are ignored. For messages from phones:
+     * The same with @p options. The warnings, the debug lines and the use of @p errorMsg, @p errorLine and
+     * @p errorColumn do not change, nor does the model except for what the options say. With #AsWritten it is what
+     * parse() without options gives; bits that are no #ReadOption are ignored. For messages from phones:
      * @code
      * SmilParser::Outcome outcome;
      * SmilDocument &message = parser.parse(SmilParser::ClockDurations | SmilParser::KeepRootSize, &outcome);
@@ -465,13 +467,14 @@ public:
     /**
      * The tree that the last parse() read, or the last getContent() rendered. It has what the model has no place for:
      * an "alt", a "param", the order of media and nested elements. Null before the first of the two, unless render()
-     * was called, and after a parse() whose outcome is #NotWellFormed.
+     * was called, and after a parse() whose outcome is #NotWellFormed. It has no XML declaration: the tree is written
+     * as UTF-8 by QDomDocument::toByteArray(), whatever the input was.
      *
      * This is Qt's handle, so that a change to the tree shows in every copy. A copy keeps the tree when the parser is
-     * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed. A further
-     * parse() replaces the tree in the copy too: by what it reads, if only the beginning of a broken document; and by
-     * nothing when the input was read before. The model is not looked at: what the host changes there after parse(),
-     * this tree does not show.
+     * destroyed or getContent() begins another one. Elements without such a copy may then only be destroyed, in any
+     * order. A further parse() replaces the tree in the copy too: by what it reads, if only the beginning of a broken
+     * document; and by nothing when the input was read before. The model is not looked at: what the host changes there
+     * after parse(), this tree does not show.
      *
      * Take the tree from here, not from QDomDocument::setContent() with the same bytes: that reads them without the
      * bounds of #Limit, and may take them for another text. Cost: constant.
@@ -516,7 +519,7 @@ public:
     bool parseSmilBody(QDomElement &body);
 
     /**
-     * Reads the timeline inside @p element into @p node: replaces its SmilNode::dur and appends a node for each "par"
+     * Reads the timeline inside @p element into @p node. Replaces its SmilNode::dur and appends a node for each "par"
      * and "seq" child and a reference for each "text", "img", "audio", "video" and "ref" child, the names in any
      * letter case. Other children are skipped with all they hold. Neither the SmilNode::type of @p node nor the element
      * is changed, and no member of the parser is used; a null element counts as empty.
@@ -544,9 +547,10 @@ public:
     QDomDocument &getContent();
 
     /**
-     * The model as text: the elements and attributes that getContent() writes, with the same values, in UTF-8 and on
-     * one line, without XML declaration. The bytes are the same on every run, Qt and machine. Neither the model nor the
-     * parser is changed, and there is no DOM.
+     * The model as text: the elements and attributes that getContent() writes, with the same values, in UTF-8, without
+     * XML declaration. With a negative @p indent it is one line without a line end. From 0 on each element has a line,
+     * which begins with that many blanks for each element around it, as QDomDocument::toByteArray() writes. The bytes
+     * are the same on every run, Qt and machine. Neither the model nor the parser is changed, and there is no DOM.
      *
      * Attributes stand in the order in which getContent() sets them. An element without others inside is written as
      * `<img src="a"/>`. Tabs and line ends in a text stay, as references. A character that XML does not allow, such as
@@ -558,7 +562,7 @@ public:
      * Cost: linear in the number of records and in the length of the texts; one call level per level of nested nodes.
      * A model that parse() made takes no more stack than it took to read.
      */
-    QByteArray toXml() const;
+    QByteArray toXml(int indent = -1) const;
 
     /**
      * Each of these returns a new element for its record, with all that it holds, not yet attached: the caller appends

@@ -6,21 +6,22 @@
 
 #include <smilparser/smilparser.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QMap>
 #include <QtCore/QRectF>
+#include <QtCore/QSharedDataPointer>
 #include <QtCore/QSizeF>
 
 #include <functional>
 
 /**
  * @file
- * What a host needs to show a message: *when* each medium plays (SmilTimeline), *where* on the screen (SmilScreen), and
- * *which* part of the message it is (SmilParts).
+ * How a message is shown: *when* each medium plays (SmilTimeline), *where* on the screen (SmilScreen), and *which* part
+ * of the message it is (SmilParts). SmilSlideshow, in smilslideshow.h, is made of these and shows a whole message.
  *
  * All are plain values, as those of the model: a copy shares what it holds with the source until one of the two is
- * changed, and costs the same however much that is. Fields may be set to anything: nothing is checked, and the
- * operations use what is there. None of them warns or throws, and none is NaN unless a host sets it to that.
+ * changed, and costs the same however much that is. What has been moved from may only be destroyed or assigned to.
+ * Fields may be set to anything: nothing is checked, and the operations use what is there. None of them warns or
+ * throws, and nothing is NaN unless a host sets it to that.
  */
 
 /**
@@ -30,13 +31,13 @@
 class SMILPARSER_EXPORT SmilCue
 {
 public:
-    /** A SmilRef::Ref without texts and parameters that never plays: #begin and #end are 0. */
-    SmilCue()
-        : ref(SmilRef::Ref)
-        , begin(0.0)
-        , end(0.0)
-    {
-    }
+    /** A SmilRef::Ref without texts and parameters that never plays: #begin and #end are 0, #line is -1. */
+    SmilCue();
+    SmilCue(const SmilCue &other); ///< A copy.
+    SmilCue(SmilCue &&other) noexcept; ///< The same; @p other may only be destroyed or assigned to after that.
+    SmilCue &operator=(const SmilCue &other); ///< Makes this a copy of @p other.
+    SmilCue &operator=(SmilCue &&other) noexcept; ///< The same, as the constructor.
+    ~SmilCue(); ///< Releases what no copy shares.
 
     SmilRef ref; ///< the kind, the source and the region, as SmilParser::parseSmilNodes() reads them
     QString alt; ///< attribute "alt", verbatim: words in place of the medium; null when absent
@@ -47,11 +48,24 @@ public:
      */
     QMap<QString, QString> params;
 
+    /**
+     * The colour behind it: its parameter "background-color", or else attribute "background-color", or else
+     * "backgroundColor", of the first region whose SmilRegion::id is SmilRef::region. Verbatim; null when none of them
+     * is stated, which an empty one is not.
+     */
+    QString background;
+
+    QString fit; ///< the SmilRegion::fit of that region, for SmilScreen::fitted(); null when there is none
+    int line; ///< of its element in the text that was parsed, from 1 on; -1 where the tree was made otherwise
+
     double begin; ///< seconds from the beginning of the message; may be infinite
     double end; ///< as #begin, and never before it; equal to it when the medium never plays
 
-    bool operator==(const SmilCue &other) const; ///< whether all fields are equal, as those of records are
-    bool operator!=(const SmilCue &other) const; ///< whether any is not
+    bool operator==(const SmilCue &other) const; ///< whether all fields but #line are equal, as those of records are
+    bool operator!=(const SmilCue &other) const; ///< the opposite of "=="
+
+private:
+    QSharedDataPointer<class SmilCueData> d; // for fields to come
 };
 Q_DECLARE_TYPEINFO(SmilCue, Q_MOVABLE_TYPE);
 
@@ -66,19 +80,19 @@ class SMILPARSER_EXPORT SmilTimeline
 {
 public:
     /** One in which nothing plays, and which takes no time. */
-    SmilTimeline()
-        : duration(0.0)
-    {
-    }
+    SmilTimeline();
 
     /**
      * The timeline of the first child "body" of @p smil, which is the document element of SmilParser::dom(), or of
      * what SmilParser::getContent() rendered; there need not be a "head". It is empty when there is no body,
      * or when @p smil is null or no "smil" element. Neither the element nor its tree is changed.
      *
+     * Colours and fits are those of the first "layout" of its first "head".
+     *
      * It sees what SmilParser::parseSmilNodes() sees: "par", "seq" and the five media in any letter case. Other
      * elements are skipped with all they hold, and so are nodes nested deeper than SmilParser::MaxDepth below the
-     * body, which parse() never reads.
+     * body, which parse() never reads. What repeats something ("repeatCount", "repeatDur" and their like) counts for
+     * nothing: everything plays once.
      *
      * **What is stated.** A "dur" is when SmilUnit::convertClock(), or else SmilUnit::convert() in SmilUnit::Sec,
      * gives a finite number above 0. A "begin" or "end" is when SmilUnit::convertClock() understands it, after a
@@ -114,8 +128,15 @@ public:
     explicit SmilTimeline(const QDomElement &smil, double slideDuration = 5.0,
                           const std::function<double(const SmilRef &)> &length = nullptr);
 
+    SmilTimeline(const SmilTimeline &other); ///< A copy.
+    SmilTimeline(
+        SmilTimeline &&other) noexcept; ///< The same; @p other may only be destroyed or assigned to after that.
+    SmilTimeline &operator=(const SmilTimeline &other); ///< Makes this a copy of @p other.
+    SmilTimeline &operator=(SmilTimeline &&other) noexcept; ///< The same, as the constructor.
+    ~SmilTimeline(); ///< Releases what no copy shares.
+
     /** Every medium exactly once, by SmilCue::begin; those that begin together are in document order. */
-    QList<SmilCue> cues;
+    QList<SmilCue> cues() const;
 
     /**
      * Where a host pages, in seconds: ascending, each once. SMIL has no pages; a message is made of them.
@@ -124,32 +145,47 @@ public:
      * begins in it whenever something begins after something that began on the same page has ended; sounds do
      * neither. So a "seq" of three pictures gives three pages, and a text that comes in beside a picture gives none.
      *
-     * What page i shows is `during(slides[i], slides[i + 1])`, where infinity stands for the slide after the last:
-     * everything on it, what begins late too. Everything that plays is on a page.
+     * Everything that plays is on a page.
      */
-    QList<double> slides;
+    QList<double> slideBegins() const;
 
     /** The end of "body" in seconds, whether something plays then or not; 0 when empty; may be infinite. */
-    double duration;
+    double duration() const;
 
     /**
-     * What plays @p seconds after the beginning of the message, in the order of #cues: begin <= @p seconds < end.
-     * Nothing plays before 0, at infinity and at NaN. Cost: linear in the number of #cues.
+     * The colour behind everything: attribute "background-color", or else "backgroundColor", of the first
+     * "root-layout", or else of the first "topLayout". Verbatim; null when none of them is stated, which an empty one
+     * is not. There need not be a "body".
      */
-    QList<SmilCue> at(double seconds) const;
+    QString background() const;
 
     /**
-     * What plays at some time from @p from until before @p to, in the order of #cues: begin < @p to, end > @p from,
-     * and begin < end. @p to may be infinite. Nothing does if one of them is NaN. Cost: linear in the number of #cues.
+     * What plays @p seconds after the beginning of the message, in the order of cues(): begin <= @p seconds < end.
+     * Nothing plays before 0, at infinity and at NaN. Cost: linear in the number of cues().
      */
-    QList<SmilCue> during(double from, double to) const;
+    QList<SmilCue> cuesAt(double seconds) const;
 
     /**
-     * When something begins to play or ends next, after @p seconds: what at() returns stays the same until then.
-     * Infinite when nothing does, and for NaN. What never plays does neither. The #duration may still be to come. Cost:
-     * linear in the number of #cues.
+     * What plays at some time from @p from until before @p to, in the order of cues(): begin < @p to, end > @p from,
+     * and begin < end. @p to may be infinite. Nothing does if one of them is NaN. Cost: linear in the number of cues().
      */
-    double next(double seconds) const;
+    QList<SmilCue> cuesBetween(double from, double to) const;
+
+    /**
+     * Everything that the page at @p index of slideBegins() shows, what begins late on it too: cuesBetween() its begin
+     * and that of the next page, or infinity. Nothing outside of these pages. Cost: as cuesBetween().
+     */
+    QList<SmilCue> cuesOnSlide(int index) const;
+
+    /**
+     * When something begins to play or ends next, after @p seconds. What cuesAt() returns stays the same until then.
+     * Infinite when nothing does, and for NaN. What never plays does neither. The duration() may still be to come.
+     * Cost: linear in the number of cues().
+     */
+    double nextChange(double seconds) const;
+
+private:
+    QSharedDataPointer<class SmilTimelineData> d;
 };
 Q_DECLARE_TYPEINFO(SmilTimeline, Q_MOVABLE_TYPE);
 
@@ -162,10 +198,7 @@ class SMILPARSER_EXPORT SmilScreen
 {
 public:
     /** One of no size and without regions. */
-    SmilScreen()
-        : size(0.0, 0.0)
-    {
-    }
+    SmilScreen();
 
     /**
      * The screen of @p layout on a device of that size in pixels; a side of @p device that is not finite and above 0
@@ -174,9 +207,15 @@ public:
      * Pixels count as they are, percent of the length that they are measured against; an inch is 96 pixels, 2.54 cm or
      * 72 pt, as on the Web. A measure that is invalid, of another unit, not finite, or not so in pixels, is not stated.
      *
-     * Cost: linear in the number of regions. One call level.
+     * Cost: n log n in the number of regions, times the length of their names. One call level.
      */
     explicit SmilScreen(const SmilLayout &layout, const QSizeF &device = QSizeF(240, 320));
+
+    SmilScreen(const SmilScreen &other); ///< A copy.
+    SmilScreen(SmilScreen &&other) noexcept; ///< The same; @p other may only be destroyed or assigned to after that.
+    SmilScreen &operator=(const SmilScreen &other); ///< Makes this a copy of @p other.
+    SmilScreen &operator=(SmilScreen &&other) noexcept; ///< The same, as the constructor.
+    ~SmilScreen(); ///< Releases what no copy shares.
 
     /**
      * The size of the root layout. On each axis it is the root layout's measure if that is above 0, else the top
@@ -185,24 +224,24 @@ public:
      * screen at least that large. A side that none of these gives follows from the other one by the device's
      * proportions, and if neither side is known, the size is the device's. Both sides are finite and above 0.
      */
-    QSizeF size;
+    QSizeF size() const;
 
     /**
      * The rectangle of each region, in the order and as many as SmilLayout::regions. A region that reaches beyond the
      * edges is not cut off, one of negative length is 0 long, and nothing is infinite.
      *
-     * On each axis, percent are of #size. The length is the stated one; else it is what remains between "left" and
+     * On each axis, percent are of size(). The length is the stated one; else it is what remains between "left" and
      * "right" ("top" and "bottom"), each of which is 0 when not stated. The region begins at "left"; else so that it
      * ends at "right"; else at 0. Where all three are stated, "right" is ignored, as SMIL does.
      */
-    QList<QRectF> areas;
+    QList<QRectF> regionRects() const;
 
     /**
-     * The index, in #areas and in SmilLayout::regions, of the first region whose SmilRegion::id is @p region; -1 when
-     * there is none, and for a null or empty name. The letter case matters. Cost: that of a look-up in a hash, the
-     * length of the name.
+     * The index, in regionRects() and in SmilLayout::regions, of the first region whose SmilRegion::id is @p id; -1
+     * when there is none, and for a null or empty name. The letter case matters. Cost: log n in the number of regions,
+     * times the length of the id.
      */
-    int indexOf(const QString &region) const;
+    int regionIndex(const QString &id) const;
 
     /**
      * Where each of @p cues is shown when all of them are shown together: one rectangle for each, in their order, and
@@ -214,14 +253,13 @@ public:
      * screen shares it with those without a region. SMIL would show one on top of the other, and only the last one
      * could be seen.
      *
-     * Cost: n log n in the number of cues, and the length of the names of their regions.
+     * Cost: n log n in the number of cues and regions, times the length of the regions' names.
      */
-    QList<QRectF> places(const QList<SmilCue> &cues) const;
+    QList<QRectF> rects(const QList<SmilCue> &cues) const;
 
     /**
      * The rectangle that the whole of a picture of size @p picture, in pixels of the message, takes when it is shown in
-     * @p area by @p fit. That is the SmilRegion::fit of the medium's region:
-     * `regions.value(indexOf(cue.ref.region)).fit` with the SmilLayout::regions. It is in the middle of the area, while
+     * @p area by @p fit, which is its SmilCue::fit. It is in the middle of the area, while
      * SMIL would have it in the upper left corner; it may be larger, and then the host cuts it off at the area's edges.
      *
      * | fit                            | The rectangle                                                               |
@@ -241,7 +279,7 @@ public:
     static QRectF fitted(const QSizeF &picture, const QRectF &area, const QString &fit);
 
 private:
-    QHash<QString, int> indexes;
+    QSharedDataPointer<class SmilScreenData> d;
 };
 Q_DECLARE_TYPEINFO(SmilScreen, Q_MOVABLE_TYPE);
 
@@ -252,6 +290,13 @@ Q_DECLARE_TYPEINFO(SmilScreen, Q_MOVABLE_TYPE);
 class SMILPARSER_EXPORT SmilParts
 {
 public:
+    SmilParts(); ///< Without parts.
+    SmilParts(const SmilParts &other); ///< A copy.
+    SmilParts(SmilParts &&other) noexcept; ///< The same; @p other may only be destroyed or assigned to after that.
+    SmilParts &operator=(const SmilParts &other); ///< Makes this a copy of @p other.
+    SmilParts &operator=(SmilParts &&other) noexcept; ///< The same, as the constructor.
+    ~SmilParts(); ///< Releases what no copy shares.
+
     /**
      * Adds @p name, which is a Content-ID, a Content-Location or a file name, as one that part @p part has: verbatim,
      * and *bare*. Bare is without a quotation mark at its beginning and at its end, then without "cid:" in any letter
@@ -261,23 +306,21 @@ public:
      * what identifies a part, of all parts, before what it is merely called. Nothing changes for a name of which
      * nothing is left when it is bare, a null one too, and for a negative @p part.
      *
-     * Cost: that of three look-ups in a hash, linear in the length of the name.
+     * Cost: log n in the number of names, times the length of the name.
      */
     void add(int part, const QString &name);
 
     /**
      * The part that @p src means, or -1. These are tried in turn, each among all parts: the name that is exactly
-     * @p src; the bare name that is @p src bare; that with each %XX decoded, as UTF-8; and that in any letter case.
-     * Folders are part of a name: "../b.txt" and "b.txt" are two. A null or empty @p src means no part.
+     * @p src; the bare name that is @p src bare; that with each %XX decoded, as UTF-8, and bare again; and that in any
+     * letter case. Folders are part of a name: "../b.txt" and "b.txt" are two. A null or empty @p src means no part.
      *
-     * Cost: that of four look-ups in a hash, linear in the length of @p src, however many parts there are.
+     * Cost: log n in the number of names, times the length of @p src.
      */
     int find(const QString &src) const;
 
 private:
-    QHash<QString, int> names;
-    QHash<QString, int> bareNames;
-    QHash<QString, int> foldedNames;
+    QSharedDataPointer<class SmilPartsData> d;
 };
 Q_DECLARE_TYPEINFO(SmilParts, Q_MOVABLE_TYPE);
 

@@ -74,5 +74,5 @@ int callPlayback(SmilParser &parser)
     SmilScreen screen{};
     screen = SmilScreen(parser.parse().header.layout);
     SmilParts parts{};
-    return int(screen.places(timeline.at(0)).size()) + parts.find(SmilCue{}.ref.src);
+    return int(screen.rects(timeline.cuesAt(0)).size()) + parts.find(SmilCue{}.ref.src);
 }

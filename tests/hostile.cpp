@@ -157,7 +157,7 @@ void Hostile::decodedText()
     QFETCH(QByteArray, declaration);
     QFETCH(QByteArray, counterpart);
     const QString reads = QStringLiteral("reads, with DecodedText, ");
-    for (const QByteArray title : {"caf\xc3\xa9", "caf\xff", "+AOk-", "\xed\xa0\x80", "a\xef\xbb\xbf"}) {
+    for (const QByteArray title : {"caf\xc3\xa9", "caf\xff", "+AOk-", "\xed\xa0\x80", "a\xef\xbb\xbf", "a'/><body/></smil>\xff"}) {
         for (const QByteArray mark : {"", "\xef\xbb\xbf"}) {
             const QByteArray text = "<smil><head title='" + title + "'/><body></body></smil>";
             COMPARE_SEEN(reads + QString::fromLatin1(mark + declaration + text),

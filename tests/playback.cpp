@@ -19,6 +19,9 @@ private Q_SLOTS:
     void slideDurations();
     void askedForLengths();
     void words();
+    void styles();
+    void backgrounds();
+    void otherCues();
     void moments();
     void depth();
     void manyMedia();
@@ -107,9 +110,9 @@ void Playback::timelines()
     QFETCH(QString, slides);
     QFETCH(QString, takes);
     const SmilTimeline timeline = timelineOf(elements, 5, lengthOf);
-    COMPARE_SEEN(QStringLiteral("plays ") + elements, shown(timeline.cues), plays);
-    COMPARE_SEEN(QStringLiteral("pages ") + elements, shown(timeline.slides), slides);
-    COMPARE_SEEN(QStringLiteral("asks how long this takes: ") + elements, shown(timeline.duration), takes);
+    COMPARE_SEEN(QStringLiteral("plays ") + elements, shown(timeline.cues()), plays);
+    COMPARE_SEEN(QStringLiteral("pages ") + elements, shown(timeline.slideBegins()), slides);
+    COMPARE_SEEN(QStringLiteral("asks how long this takes: ") + elements, shown(timeline.duration()), takes);
 }
 
 void Playback::otherElements()
@@ -117,16 +120,16 @@ void Playback::otherElements()
     for (const char *text : {"<SMIL><body><img/></body></SMIL>", "<body><img/></body>", ""}) {
         QDomDocument dom;
         const SmilTimeline timeline(elementOf(dom, QLatin1String(text)));
-        QVERIFY2(timeline.cues.isEmpty() && timeline.slides.isEmpty() && timeline.duration == 0, text);
+        QVERIFY2(timeline.cues().isEmpty() && timeline.slideBegins().isEmpty() && timeline.duration() == 0, text);
     }
 }
 
 void Playback::slideDurations()
 {
     const QString slide = QStringLiteral("<body><par><img src='a'/></par></body>");
-    QCOMPARE(shown(timelineOf(slide, 2.5).cues), QStringLiteral("0-2.5 img a"));
+    QCOMPARE(shown(timelineOf(slide, 2.5).cues()), QStringLiteral("0-2.5 img a"));
     for (const double none : {0.0, -1.0, qInf(), qQNaN()}) {
-        QCOMPARE(shown(timelineOf(slide, none).cues), QStringLiteral("0-5 img a"));
+        QCOMPARE(shown(timelineOf(slide, none).cues()), QStringLiteral("0-5 img a"));
     }
 }
 
@@ -149,13 +152,71 @@ void Playback::words()
         "<body><img SRC='a' src='' ALT='b'><PARAM name='a' value='b'/></img>"
         "<text alt='words' region='T'><x><param name='x' value='y'/></x><param value='nameless'/><param name=''/>"
         "<param name='color' value='#fff'/><param name='color' value='#000'/><param name='size'/></text></body>"));
-    const SmilCue &picture = timeline.cues.at(0);
+    const SmilCue &picture = timeline.cues().at(0);
     QVERIFY(picture.params.isEmpty() && picture.alt.isNull() && picture.ref.region.isNull());
     QVERIFY(picture.ref.src.isEmpty() && !picture.ref.src.isNull());
-    const SmilCue &text = timeline.cues.at(1);
+    const SmilCue &text = timeline.cues().at(1);
     QCOMPARE(text.alt, QStringLiteral("words"));
     QCOMPARE(text.params.keys().join(QLatin1Char(' ')), QStringLiteral("color size"));
     QCOMPARE(text.params.first(), QStringLiteral("#fff"));
+}
+
+/** Colours and fits are those of the first region of that name, in what is a layout to parse(). */
+void Playback::styles()
+{
+    QDomDocument dom;
+    const SmilTimeline timeline(elementOf(dom, QStringLiteral(R"(<smil><head><layout><region background-color="none"/>
+<region id="A" background-color="red" backgroundColor="no" fit="fill"/><region id="A" background-color="no" fit="no"/>
+<region id="B" background-color="" backgroundColor="green"/></layout><layout><region id="C" fit="no"/></layout></head>
+<body><img region="A"/><img region="B"><param name="background-color" value="blue"/></img>
+<img region="B"><param name="background-color" value=""/></img><img region="C"/><img region=""/></body></smil>)")));
+    const auto seen = [](const SmilCue &cue) {
+        return QStringLiteral("%1 %2 %3").arg(cue.background, cue.fit).arg(cue.line);
+    };
+    QStringList all;
+    for (const SmilCue &cue : timeline.cues()) {
+        all << seen(cue);
+    }
+    QCOMPARE(all.join(u','), QStringLiteral("red fill 4,blue  4,green  5,  5,  5"));
+    QVERIFY(timeline.cues().last().background.isNull() && timeline.cues().last().fit.isNull());
+    SmilDocument model;
+    model.body.root.children.append(SmilNode());
+    model.body.root.children.first().refs.append(SmilRef(SmilRef::Img));
+    SmilParser writer(model);
+    QCOMPARE(SmilTimeline(writer.getContent().documentElement()).cues().first().line, -1);
+}
+
+void Playback::backgrounds()
+{
+    const auto background = [](const char *layout) {
+        QDomDocument dom;
+        const QString text = QStringLiteral("<smil><head><layout>%1</layout></head></smil>").arg(QLatin1String(layout));
+        return SmilTimeline(elementOf(dom, text)).background();
+    };
+    QCOMPARE(background("<topLayout background-color='no'/><root-layout backgroundColor='red'/>"),
+             QStringLiteral("red"));
+    QCOMPARE(background("<root-layout background-color=''/><topLayout backgroundColor='no' background-color='red'/>"
+                        "<topLayout background-color='no'/>"),
+             QStringLiteral("red"));
+    QVERIFY(background("<root-layout/><root-layout background-color='no'/>").isNull());
+}
+
+void Playback::otherCues()
+{
+    const auto cueOf = [](const char *medium) {
+        return timelineOf(QStringLiteral("<body>%1</body>").arg(QLatin1String(medium))).cues().first();
+    };
+    for (const char *other : {"<text/>", "<img alt='a'/>", "<img><param name='a'/></img>", "<img end='1s'/>",
+                              "<img begin='1s' end='5s'/>"}) {
+        QVERIFY2(cueOf(other) != cueOf("<img/>") && cueOf(other) == cueOf(other), other);
+    }
+    const SmilCue cue;
+    for (QString SmilCue::*const field : {&SmilCue::background, &SmilCue::fit}) {
+        SmilCue other = cue;
+        other.*field = QStringLiteral("a");
+        QVERIFY(other != cue);
+    }
+    QVERIFY(cueOf("<img/>") == cueOf("\n<img/>")); // on another line
 }
 
 void Playback::moments()
@@ -166,20 +227,24 @@ void Playback::moments()
     const QString a = QStringLiteral("0-5 img a");
     const QString b = QStringLiteral("6-9 img b");
     const QString none = QStringLiteral("nothing");
-    QCOMPARE(shown(timeline.at(-1)), none);
-    QCOMPARE(shown(timeline.at(0)), a);
-    QCOMPARE(shown(timeline.at(3)), a);
-    QCOMPARE(shown(timeline.at(5)), none);
-    QCOMPARE(shown(timeline.at(6)), b);
-    QCOMPARE(shown(timeline.at(qInf())), none);
-    QCOMPARE(shown(timeline.at(qQNaN())), none);
-    QCOMPARE(shown(timeline.during(0, 6)), a);
-    QCOMPARE(shown(timeline.during(4, 7)), a + QLatin1String("; ") + b);
-    QCOMPARE(shown(timeline.during(5, qInf())), b);
-    QCOMPARE(shown(timeline.during(5, 6)), none);
-    QCOMPARE(shown(timeline.during(qQNaN(), 6)), none);
-    const QList<double> changes = {timeline.next(-qInf()), timeline.next(0), timeline.next(5),
-                                   timeline.next(6),       timeline.next(9), timeline.next(qQNaN())};
+    QCOMPARE(shown(timeline.cuesAt(-1)), none);
+    QCOMPARE(shown(timeline.cuesAt(0)), a);
+    QCOMPARE(shown(timeline.cuesAt(3)), a);
+    QCOMPARE(shown(timeline.cuesAt(5)), none);
+    QCOMPARE(shown(timeline.cuesAt(6)), b);
+    QCOMPARE(shown(timeline.cuesAt(qInf())), none);
+    QCOMPARE(shown(timeline.cuesAt(qQNaN())), none);
+    QCOMPARE(shown(timeline.cuesBetween(0, 6)), a);
+    QCOMPARE(shown(timeline.cuesBetween(4, 7)), a + QLatin1String("; ") + b);
+    QCOMPARE(shown(timeline.cuesBetween(5, qInf())), b);
+    QCOMPARE(shown(timeline.cuesBetween(5, 6)), none);
+    QCOMPARE(shown(timeline.cuesBetween(qQNaN(), 6)), none);
+    QCOMPARE(shown(timeline.cuesOnSlide(0)), a);
+    QCOMPARE(shown(timeline.cuesOnSlide(1)), b);
+    QCOMPARE(shown(timeline.cuesOnSlide(-1)), none);
+    QCOMPARE(shown(timeline.cuesOnSlide(2)), none);
+    const QList<double> changes = {timeline.nextChange(-qInf()), timeline.nextChange(0), timeline.nextChange(5),
+                                   timeline.nextChange(6),       timeline.nextChange(9), timeline.nextChange(qQNaN())};
     QCOMPARE(shown(changes), QStringLiteral("0 5 6 9 inf inf"));
 }
 
@@ -197,10 +262,10 @@ void Playback::depth()
     }
     SmilTimeline timeline;
     onSmallStack([&] { timeline = SmilTimeline(smil, 1, lengthOf); });
-    QCOMPARE(int(timeline.cues.size()), 513);
-    QVERIFY(std::any_of(timeline.cues.cbegin(), timeline.cues.cend(),
+    QCOMPARE(int(timeline.cues().size()), 513);
+    QVERIFY(std::any_of(timeline.cues().cbegin(), timeline.cues().cend(),
                         [](const SmilCue &cue) { return cue.ref.src == QLatin1String("512"); }));
-    QCOMPARE(timeline.duration, 258.0);
+    QCOMPARE(timeline.duration(), 258.0);
 }
 
 /** Those that begin together stay in order, also when there are more than are sorted one by one. */
@@ -208,10 +273,10 @@ void Playback::manyMedia()
 {
     const SmilTimeline timeline = timelineOf(
         expanded(QStringLiteral("<body><par>{500*<img src='#' begin='1s' dur='1s'/><img src='+#'/>}</par></body>")));
-    QCOMPARE(int(timeline.cues.size()), 1000);
+    QCOMPARE(int(timeline.cues().size()), 1000);
     for (int i = 0; i < 500; ++i) {
-        QCOMPARE(timeline.cues.at(i).ref.src, QLatin1Char('+') + QString::number(i));
-        QCOMPARE(timeline.cues.at(500 + i).ref.src, QString::number(i));
+        QCOMPARE(timeline.cues().at(i).ref.src, QLatin1Char('+') + QString::number(i));
+        QCOMPARE(timeline.cues().at(500 + i).ref.src, QString::number(i));
     }
 }
 
@@ -225,12 +290,12 @@ void Playback::screens()
         QStringLiteral("<smil><head><layout>%1</layout></head><body>%2</body></smil>").arg(layout, media);
     SmilParser parser(text.toUtf8());
     const SmilScreen screen(parser.parse().header.layout, sizeOf(device));
-    QString seen = shown(screen.size.width()) + QLatin1Char('x') + shown(screen.size.height());
-    for (const QRectF &area : screen.areas) {
+    QString seen = shown(screen.size().width()) + QLatin1Char('x') + shown(screen.size().height());
+    for (const QRectF &area : screen.regionRects()) {
         seen += QLatin1String("; area ") + shown(area);
     }
     QStringList places;
-    for (const QRectF &place : screen.places(SmilTimeline(parser.dom().documentElement()).cues)) {
+    for (const QRectF &place : screen.rects(SmilTimeline(parser.dom().documentElement()).cues())) {
         places << shown(place);
     }
     seen += places.isEmpty() ? QString() : QLatin1String("; places ") + places.join(QLatin1Char(' '));
@@ -247,7 +312,7 @@ void Playback::oddMeasures()
         layout.topLayoutWidth = odd;
         layout.regions.append(SmilRegion());
         layout.regions.first().left = layout.regions.first().width = odd;
-        return shown(SmilScreen(layout).areas.first());
+        return shown(SmilScreen(layout).regionRects().first());
     };
     QCOMPARE(areaOf(), QStringLiteral("50,0 50x100"));
     const QString whole = QStringLiteral("0,0 100x100");

@@ -15,6 +15,8 @@ private Q_SLOTS:
     void debugLines();
     void deepDurations();
     void trees();
+    void declarations();
+    void oldElements();
     void devices();
     void walks_data() { addCases("walks.txt"); }
     void walks();
@@ -222,6 +224,38 @@ void Reading::trees()
                                 "cut off: null, copy \"%3\"\n")
                      .arg(QStringLiteral("<smil><head/><body><img alt='A'/></body></smil>"), written,
                           QStringLiteral("<smil><head/><body/></smil>")));
+}
+
+/** A tree that a host changes and writes is UTF-8, whatever the input was in. */
+void Reading::declarations()
+{
+    const QString text =
+        QStringLiteral("<?xml version='1.0' encoding='%1'?><smil><head title='\u00e4'/><body/></smil>");
+    for (const QByteArray &input :
+         {text.arg(QStringLiteral("ISO-8859-1")).toLatin1(), text.arg(QStringLiteral("utf-8")).toUtf8()}) {
+        SmilParser parser(input);
+        parser.parse();
+        QCOMPARE(QString::fromUtf8(parser.dom().toByteArray(-1)),
+                 QStringLiteral("<smil><head title=\"\u00e4\"/><body/></smil>"));
+    }
+}
+
+/** They are on their own when the document is read into again, and may go in any order, also after the document. */
+void Reading::oldElements()
+{
+    for (const bool isKept : {false, true}) {
+        Messages messages(0);
+        SmilParser parser(QByteArray("<smil><head/><body/></smil>"));
+        parser.parse();
+        QDomDocument copy = isKept ? parser.dom() : QDomDocument();
+        QDomElement smil = parser.dom().documentElement();
+        QDomElement body = smil.lastChildElement();
+        parser.parse();
+        QVERIFY2(smil.parentNode().isNull(), "an element of the old tree is in the document that was read into again");
+        copy.clear();
+        smil.clear();
+        body.clear();
+    }
 }
 
 /** All from where the device is, at once; it stays the host's. */

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void again();
     void xml_data() { addCases("xml.txt"); }
     void xml();
+    void indents();
     void readBack_data() { addCases("reading.txt"); }
     void readBack();
 };
@@ -230,6 +231,23 @@ void Writing::readBack()
     layout.rootLayoutWidth = layout.topLayoutWidth;
     layout.rootLayoutHeight = layout.topLayoutHeight;
     COMPARE_SEEN(QStringLiteral("reads back ") + input, Outline::of(again), Outline::of(model));
+}
+
+/** One element a line, as QDomDocument writes, with its attributes in the order in which they are set. */
+void Writing::indents()
+{
+    SmilDocument model;
+    model.header.title = QStringLiteral("a b");
+    model.body.root.children = {SmilNode(), SmilNode()};
+    model.body.root.children[0].refs = {SmilRef(SmilRef::Img)};
+    SmilParser parser(model);
+    for (const int indent : {0, 1, 4}) {
+        QCOMPARE(QString::fromUtf8(parser.toXml(indent)), QString::fromUtf8(parser.getContent().toByteArray(indent)));
+    }
+    for (const int indent : {-1, -2}) {
+        QCOMPARE(parser.toXml(indent), parser.toXml());
+        QVERIFY(!parser.toXml(indent).contains('\n'));
+    }
 }
 
 QTEST_GUILESS_MAIN(Writing)

@@ -27,7 +27,7 @@ static QColor colour(const QString &text)
 Slideshow::Slideshow()
 {
     m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, [this] { setPosition(m_timeline.next(m_position)); });
+    connect(&m_timer, &QTimer::timeout, this, [this] { setPosition(m_timeline.nextChange(m_position)); });
 }
 
 void Slideshow::open(const QString &smil, const QString &folder)
@@ -75,17 +75,17 @@ void Slideshow::open(const QString &smil, const QString &folder)
 
 void Slideshow::setPosition(double seconds)
 {
-    const QList<double> &slides = m_timeline.slides;
-    m_position = seconds > 0.0 ? qMin(seconds, m_timeline.duration) : 0.0;
+    const QList<double> &slides = m_timeline.slideBegins();
+    m_position = seconds > 0.0 ? qMin(seconds, m_timeline.duration()) : 0.0;
     const int slide = qMax(0, int(std::upper_bound(slides.begin(), slides.end(), m_position) - slides.begin()) - 1);
     if (slide != m_slide) {
         m_slide = slide;
-        m_cues = m_timeline.during(slides.value(slide, qInf()), slides.value(slide + 1, qInf()));
+        m_cues = m_timeline.cuesBetween(slides.value(slide, qInf()), slides.value(slide + 1, qInf()));
         m_more = qMax(0, int(m_cues.size()) - 32);
         m_cues = m_cues.mid(0, 32);
         Q_EMIT turned();
     }
-    const double wait = playing() ? m_timeline.next(m_position) - m_position : qInf();
+    const double wait = playing() ? m_timeline.nextChange(m_position) - m_position : qInf();
     qIsFinite(wait) ? m_timer.start(int(1000 * qBound(0.05, wait, 86400.0))) : m_timer.stop();
     Q_EMIT moved();
 }
@@ -117,7 +117,7 @@ QVariantList Slideshow::shown() const
         map[QStringLiteral("alt")] = cue.alt;
         map[QStringLiteral("text")] = text ? QString::fromUtf8(file.read(32 * 1024 / m_cues.size())) : QString();
         map[QStringLiteral("source")] = picture ? QUrl::fromLocalFile(path) : QUrl();
-        map[QStringLiteral("fit")] = m_layout.regions.value(screen.indexOf(cue.ref.region)).fit;
+        map[QStringLiteral("fit")] = m_layout.regions.value(screen.regionIndex(cue.ref.region)).fit;
         map[QStringLiteral("filled")] = area.isValid();
         map[QStringLiteral("paper")] = paper;
         map[QStringLiteral("ink")] = legible ? ink : QColor(light > 127 ? Qt::black : Qt::white);
@@ -132,11 +132,11 @@ QVariantMap Slideshow::screen(const QSizeF &window) const
 {
     // A phone of the window's shape, as wide as those that messages are made for.
     const SmilScreen screen(m_layout, window * (240.0 / qMin(window.width(), window.height())));
-    const QRectF all(QPointF(), screen.size); // which may be so small that the zoom would be infinite
+    const QRectF all(QPointF(), screen.size()); // which may be so small that the zoom would be infinite
     const double zoom = qBound(0.0, qMin(window.width() / all.width(), window.height() / all.height()), 1e6);
     const QPointF corner = QRectF(QPointF(), window - zoom * all.size()).center();
     QVariantList areas;
-    for (const QRectF &place : screen.places(m_cues)) { // which may be too far out to be enlarged
+    for (const QRectF &place : screen.rects(m_cues)) { // which may be too far out to be enlarged
         const QRectF seen = place.intersected(all);
         areas.append(QRectF(corner + zoom * seen.topLeft(), zoom * seen.size()));
     }

@@ -28,15 +28,15 @@ class Slideshow : public QObject
 public:
     Slideshow();
     void open(const QString &smil, const QString &folder); ///< its parts are the files of the folder
-    Q_INVOKABLE void next() { setPosition(m_timeline.slides.value(m_slide + 1, m_position)); }
-    Q_INVOKABLE void previous() { setPosition(m_timeline.slides.value(m_slide - 1)); }
+    Q_INVOKABLE void next() { setPosition(m_timeline.slideBegins().value(m_slide + 1, m_position)); }
+    Q_INVOKABLE void previous() { setPosition(m_timeline.slideBegins().value(m_slide - 1)); }
     void play(bool on = true) { on ? m_timer.start() : m_timer.stop(), setPosition(m_position); }
     void setPosition(double seconds);
     Q_INVOKABLE QVariantMap screen(const QSizeF &window) const; ///< the "areas" of what is shown there, and the "zoom"
     Q_INVOKABLE QRectF fit(QSizeF picture, QRectF area, QString how) { return SmilScreen::fitted(picture, area, how); }
     Q_INVOKABLE QString breakable(QString text) { return text.replace(m_word, QStringLiteral("\\1\u200b")); }
 
-    int slides() const { return int(m_timeline.slides.size()); }
+    int slides() const { return int(m_timeline.slideBegins().size()); }
     int slide() const { return m_slide; }
     QVariantList shown() const;
     bool playing() const { return m_timer.isActive(); }

@@ -3,6 +3,9 @@
 
 #include "names.h"
 
+#include "smilparser/model/duration.h"
+#include "smilparser/model/slots.h"
+
 #include <smilparser/smilcomposer.h>
 
 #include <QtCore/qnumeric.h>
@@ -10,50 +13,27 @@
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
-/** What a slide has room for once. */
-enum Room { Sight = 1, Words = 2, Sound = 4 };
-}
-
 static const QString imageRegion = QStringLiteral("Image");
 static const QString textRegion = QStringLiteral("Text");
 
-/** The rooms that a medium takes, as bits; 0 for one of no kind that is known. */
-static int roomsOf(int type)
+static Slots slotsOf(const SmilNode &slide)
 {
-    switch (type) {
-    case SmilRef::Text:
-        return Words;
-    case SmilRef::Audio:
-        return Sound;
-    case SmilRef::Video:
-        return Sight | Sound;
-    case SmilRef::Img:
-    case SmilRef::Ref:
-        return Sight;
-    default:
-        return 0;
-    }
-}
-
-static int roomsOf(const SmilNode &slide)
-{
-    int rooms = 0;
+    Slots slots = 0;
     for (const SmilRef &ref : slide.refs) {
-        rooms |= roomsOf(ref.type);
+        slots |= slotsOf(ref.type);
     }
-    return rooms;
+    return slots;
 }
 
-static QString regionOf(int rooms)
+static QString regionOf(Slots slots)
 {
-    return rooms & Sight ? imageRegion : rooms & Words ? textRegion : QString();
+    return has(slots, Slot::Visual) ? imageRegion : has(slots, Slot::Text) ? textRegion : QString();
 }
 
-static bool isDuration(double seconds)
+/** Phones read no exponent, with which a shorter or longer one would be written. */
+static double duration(double seconds, double otherwise)
 {
-    return qIsFinite(seconds) && seconds > 0;
+    return isDuration(seconds) ? qBound(0.001, seconds, 999999.0) : otherwise;
 }
 
 /** What is read again of the measure when it has been written. */
@@ -80,65 +60,83 @@ static SmilRegion region(const QString &id, double top, double height, const QSt
     return region;
 }
 
-/** Those of a message whose slides take these rooms. */
-static QList<SmilRegion> regionsOf(int rooms)
+/** Those of a message whose slides take these slots. */
+static QList<SmilRegion> regionsOf(Slots slots)
 {
-    const double upper = !(rooms & Sight) ? 0 : rooms & Words ? 70 : 100;
+    const double upper = !has(slots, Slot::Visual) ? 0 : has(slots, Slot::Text) ? 70 : 100;
     QList<SmilRegion> regions;
-    if (rooms & Sight) {
+    if (has(slots, Slot::Visual)) {
         regions.append(region(imageRegion, 0, upper, QStringLiteral("meet")));
     }
-    if (rooms & Words) {
+    if (has(slots, Slot::Text)) {
         regions.append(region(textRegion, upper, 100 - upper, QStringLiteral("scroll")));
     }
     return regions;
 }
 
+class SmilComposerData : public QSharedData
+{
+public:
+    QSizeF size;
+    double slideDuration;
+    bool slideEnded;
+    QList<SmilNode> slides; ///< of each, SmilNode::dur is not valid yet, and has the longest seconds known, or 0
+    QMap<QString, int> names; ///< for newName()
+};
+
 SmilComposer::SmilComposer(const QSizeF &screen, double slideDuration)
-    : size(screen)
-    , slideSeconds(isDuration(slideDuration) ? slideDuration : 5)
-    , slideEnded(true)
+    : d(new SmilComposerData{{}, screen, duration(slideDuration, 5), true, {}, {}})
 {
 }
 
+SmilComposer::SmilComposer(const SmilComposer &other) = default;
+SmilComposer::SmilComposer(SmilComposer &&other) noexcept = default;
+SmilComposer &SmilComposer::operator=(const SmilComposer &other) = default;
+SmilComposer &SmilComposer::operator=(SmilComposer &&other) noexcept = default;
+SmilComposer::~SmilComposer() = default;
+
 QString SmilComposer::add(SmilRef::Type type, const QString &name, double seconds)
 {
-    const int rooms = roomsOf(type);
-    if (!rooms) {
+    const Slots slots = slotsOf(type);
+    if (!slots) {
         return QString();
     }
-    if (slideEnded || (rooms & roomsOf(slides.last()))) {
-        slides.append(SmilNode());
-        slideEnded = false;
+    if (d->slideEnded || (slots & slotsOf(d->slides.last()))) {
+        d->slides.append(SmilNode());
+        d->slideEnded = false;
     }
     SmilRef ref(type);
-    ref.src = newName(plainName(name), names, numbers);
-    ref.region = regionOf(rooms);
-    SmilNode &slide = slides.last();
+    ref.src = this->name(name);
+    ref.region = regionOf(slots);
+    SmilNode &slide = d->slides.last();
     slide.refs.append(ref);
-    const double known = isDuration(seconds) ? seconds : type == SmilRef::Audio ? 0 : slideSeconds;
-    slide.dur.value = std::max(slide.dur.value, known);
+    slide.dur.value = std::max(slide.dur.value, duration(seconds, type == SmilRef::Audio ? 0 : d->slideDuration));
     return ref.src;
+}
+
+QString SmilComposer::name(const QString &name)
+{
+    return newName(plainName(name), d->names);
 }
 
 void SmilComposer::nextSlide()
 {
-    slideEnded = true;
+    d->slideEnded = true;
 }
 
 SmilDocument SmilComposer::message() const
 {
     SmilDocument message;
-    QList<SmilNode> &nodes = message.body.root.children;
-    nodes = slides;
-    int rooms = 0;
-    for (SmilNode &slide : nodes) {
-        rooms |= roomsOf(slide);
-        slide.dur = rounded(slide.dur.value > 0 ? slide.dur.value : slideSeconds, SmilUnit::Sec);
+    QList<SmilNode> &slides = message.body.root.children;
+    slides = d->slides;
+    Slots slots = 0;
+    for (SmilNode &slide : slides) {
+        slots |= slotsOf(slide);
+        slide.dur = rounded(slide.dur.value > 0 ? slide.dur.value : d->slideDuration, SmilUnit::Sec);
     }
     SmilLayout &layout = message.header.layout;
-    layout.rootLayoutWidth = layout.topLayoutWidth = side(size.width());
-    layout.rootLayoutHeight = layout.topLayoutHeight = side(size.height());
-    layout.regions = regionsOf(rooms);
+    layout.rootLayoutWidth = layout.topLayoutWidth = side(d->size.width());
+    layout.rootLayoutHeight = layout.topLayoutHeight = side(d->size.height());
+    layout.regions = regionsOf(slots);
     return message;
 }

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-static const int longest = 32;
+static const int longest = 27;
 static const int longestExtension = 8;
 
 static bool isPlain(QChar c)
@@ -36,14 +36,14 @@ static int extensionSize(const QString &plain)
     return size > 1 && size <= 1 + longestExtension && size < plain.size() ? int(size) : 0;
 }
 
-QString newName(const QString &plain, QSet<QString> &names, QHash<QString, int> &numbers)
+QString newName(const QString &plain, QMap<QString, int> &names)
 {
     const QString extension = plain.right(extensionSize(plain));
     const int room = longest - int(extension.size());
     const QString stem = plain.left(int(qMin<qint64>(plain.size() - extension.size(), room)));
     const auto isNew = [&names](const QString &name) {
         const auto size = names.size();
-        names.insert(name.toLower());
+        names.insert(name.toLower(), 0);
         return names.size() > size;
     };
     const QString unnumbered = stem + extension;
@@ -53,7 +53,7 @@ QString newName(const QString &plain, QSet<QString> &names, QHash<QString, int> 
     for (int digits = 1, first = 2, end = 10;; ++digits, first = end, end *= 10) {
         // Stems that differ may be one when they are cut for a number. Each goes on where the other has left off.
         const QString front = stem.left(room - 1 - digits) + u'-';
-        int &number = numbers[(front + QString(digits, u'/') + extension).toLower()];
+        int &number = names[(front + QString(digits, u'/') + extension).toLower()];
         for (number = qMax(number, first); number < end; ++number) {
             const QString numbered = front + QString::number(number) + extension;
             if (isNew(numbered)) {

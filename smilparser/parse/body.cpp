@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "walks.h"
+#include "domreader.h"
 
-#include "smilparser/model/attributes.h"
-#include "smilparser/model/timeline.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <utility>
-
-static const QString absent; // made once, not at each look-up
 
 // What follows is not part of readNodes(), or its locals would take up stack at every level of nesting: there are up to
 // 512, and some threads have 128 KiB.
@@ -24,9 +21,7 @@ Q_NEVER_INLINE static void readDuration(const QDomElement &element, SmilUnit &du
 Q_NEVER_INLINE static void readRef(const QDomElement &element, int type, QList<SmilRef> &refs)
 {
     SmilRef ref(type);
-    for (const Attribute<SmilRef> &attribute : refAttributes) {
-        ref.*attribute.text = element.attribute(attribute.name, absent);
-    }
+    readAttributes(element, refAttributes, ref);
     refs.append(std::move(ref));
 }
 

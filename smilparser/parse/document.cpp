@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "domreader.h"
 #include "reader.h"
-#include "walks.h"
 
-#include "smilparser/model/elements.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <smilparser/mmslogger.h>
 
@@ -57,6 +57,23 @@ SmilParser::Outcome readDocument(const QDomElement &smil, SmilDocument &document
     return SmilParser::Complete;
 }
 
+/** Qt's own clearing leaves elements that a host still holds with a document that may end before them. */
+static void removeChildren(QDomDocument &dom)
+{
+    while (dom.hasChildNodes()) {
+        dom.removeChild(dom.firstChild());
+    }
+}
+
+/** A declaration would be written by QDomDocument::toByteArray(), which always writes UTF-8, whatever it declares. */
+static void removeDeclaration(QDomDocument &dom)
+{
+    const QDomProcessingInstruction first = dom.firstChild().toProcessingInstruction();
+    if (first.target() == QLatin1String("xml")) {
+        dom.removeChild(first);
+    }
+}
+
 SmilParser::SmilParser(QIODevice *device)
 {
     if (device) {
@@ -96,6 +113,7 @@ SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *
     int *const line = errorLine ? errorLine : &ownLine;
     int *const column = errorColumn ? errorColumn : &ownColumn;
     result = NotWellFormed;
+    removeChildren(domDocument);
     if (!readXml(buffer, options.testFlag(DecodedText), domDocument, msg, line, column)) {
         // What was read up to the error is nobody's tree.
         domDocument.clear();
@@ -103,6 +121,7 @@ SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *
         return document;
     }
 
+    removeDeclaration(domDocument);
     document = SmilDocument();
     const QDomElement smil = domDocument.firstChildElement(smilElement);
     if (smil.isNull()) {

@@ -1,27 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "walks.h"
+#include "domreader.h"
 
-#include "smilparser/model/attributes.h"
-#include "smilparser/model/elements.h"
+#include "smilparser/model/vocabulary.h"
 
 static SmilUnit measure(const QDomElement &element, const QString &attribute)
 {
     return SmilUnit(element.attribute(attribute));
-}
-
-/** All attributes in the table. */
-template<typename Record, std::size_t Count>
-static void read(const QDomElement &element, const Attribute<Record> (&attributes)[Count], Record &record)
-{
-    for (const Attribute<Record> &attribute : attributes) {
-        if (attribute.text) {
-            record.*attribute.text = element.attribute(attribute.name);
-        } else {
-            record.*attribute.measure = measure(element, attribute.name);
-        }
-    }
 }
 
 /** A record for each child of that name. */
@@ -31,14 +17,14 @@ static void readAll(const QDomElement &parent, const QString &name, const Attrib
 {
     for (QDomElement child = parent.firstChildElement(name); !child.isNull(); child = child.nextSiblingElement(name)) {
         Record record;
-        read(child, attributes, record);
+        readAttributes(child, attributes, record);
         records.append(record);
     }
 }
 
 void readHead(const QDomElement &head, SmilHeader &header)
 {
-    read(head, headAttributes, header);
+    readAttributes(head, headAttributes, header);
     readAll(head, metaElement, metaAttributes, header.metas);
     const QDomElement layout = head.firstChildElement(layoutElement);
     if (!layout.isNull()) {
@@ -53,7 +39,7 @@ void readLayout(const QDomElement &layout, SmilLayout &record)
         record.rootLayoutWidth = measure(root, widthAttribute);
         record.rootLayoutHeight = measure(root, heightAttribute);
     }
-    const QDomElement top = layout.firstChildElement(QStringLiteral("topLayout"));
+    const QDomElement top = layout.firstChildElement(topLayoutElement);
     if (!top.isNull()) {
         record.topLayoutWidth = measure(top, widthAttribute);
         record.topLayoutHeight = measure(top, heightAttribute);

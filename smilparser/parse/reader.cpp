@@ -41,11 +41,11 @@ bool readXml(QBuffer &buffer, bool knownUtf8, QDomDocument &document, QString *e
     if (!buffer.isOpen()) {
         text = decode(buffer.data(), knownUtf8);
         if (!text) {
-            buffer.setData(buffer.data().left(harmlessSize(buffer.data())));
+            buffer.setData(buffer.data().left(safePrefixLength(buffer.data())));
         }
         buffer.open(QIODevice::ReadOnly);
     }
-    const bool wellFormed = text ? setContent(document, QString::fromUtf8(text->constData(), harmlessSize(*text)),
+    const bool wellFormed = text ? setContent(document, QString::fromUtf8(text->constData(), safePrefixLength(*text)),
                                               errorMsg, errorLine, errorColumn)
                                  : setContent(document, &buffer, errorMsg, errorLine, errorColumn);
     // Qt 6 stops reading at an error. The next call must not take what follows for a document.

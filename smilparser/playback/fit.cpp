@@ -11,10 +11,10 @@
 /** A size of the picture's shape that is as wide or as high as the area, whichever is smaller; or larger, to cover. */
 static QSizeF scaled(const QSizeF &picture, const QSizeF &area, bool cover)
 {
-    const double across = area.width() / picture.width();
-    const double down = area.height() / picture.height();
-    return (across < down) != cover ? QSizeF(area.width(), picture.height() * across)
-                                    : QSizeF(picture.width() * down, area.height());
+    const double horizontal = area.width() / picture.width();
+    const double vertical = area.height() / picture.height();
+    return (horizontal < vertical) != cover ? QSizeF(area.width(), picture.height() * horizontal)
+                                            : QSizeF(picture.width() * vertical, area.height());
 }
 
 static QSizeF sizeIn(const QSizeF &area, const QSizeF &picture, const QString &fit)

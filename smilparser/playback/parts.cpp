@@ -4,22 +4,24 @@
 #include <smilparser/smilplayback.h>
 
 #include <cctype>
+#include <cstring>
+#include <map>
 
 /** The name without what may be around it. Each mark may be there without the other: some encodings end at a null. */
 static QString bareName(const QString &name)
 {
-    QString bare = name;
+    QStringView bare(name);
     for (const QLatin1String start : {QLatin1String("\""), QLatin1String("cid:"), QLatin1String("<")}) {
         if (bare.startsWith(start, Qt::CaseInsensitive)) {
-            bare.remove(0, start.size());
+            bare = bare.mid(start.size());
         }
     }
-    for (const char end : {'"', '>'}) {
-        if (bare.endsWith(QLatin1Char(end))) {
+    for (const QChar end : {u'"', u'>'}) {
+        if (bare.endsWith(end)) {
             bare.chop(1);
         }
     }
-    return bare;
+    return bare.size() == name.size() ? name : bare.toString();
 }
 
 /** A "%" that no two digits follow stands for itself; Qt's own decoding would take what follows it, too. */
@@ -27,7 +29,7 @@ static QString decoded(const QString &name)
 {
     const auto isDigit = [](char c) { return std::isxdigit(uchar(c)) != 0; };
     const QByteArray bytes = name.toUtf8();
-    QByteArray plain;
+    QByteArray plain(1, '_'); // or else Qt would drop a byte order mark
     for (auto at = bytes.begin(); at != bytes.end(); ++at) {
         if (*at == '%' && bytes.end() - at > 2 && isDigit(at[1]) && isDigit(at[2])) {
             plain += QByteArray::fromHex(QByteArray(at + 1, 2));
@@ -36,15 +38,50 @@ static QString decoded(const QString &name)
             plain += *at;
         }
     }
-    return QString::fromUtf8(plain.constData(), plain.size());
+    return QString::fromUtf8(plain.constData(), plain.size()).mid(1);
 }
 
-/** Whoever has the name first keeps it. */
-static void insertOnce(QHash<QString, int> &names, const QString &name, int part)
+namespace
 {
-    if (!names.contains(name)) {
-        names.insert(name, part);
+/** An order in which most names differ at the first look. No hash: a stranger can choose names whose hashes collide. */
+struct ShorterFirst {
+    bool operator()(const QString &one, const QString &other) const
+    {
+        return one.size() != other.size()
+            ? one.size() < other.size()
+            : std::memcmp(one.constData(), other.constData(), one.size() * sizeof(QChar)) < 0;
     }
+};
+
+/** The parts that a text means, each the first of those for which it is that; -1 when there is none. */
+struct Meanings {
+    int exact = -1; ///< it is a name
+    int bare = -1; ///< it is a bare name
+    int folded = -1; ///< it is a bare name without the letter case
+};
+}
+
+class SmilPartsData : public QSharedData
+{
+public:
+    std::map<QString, Meanings, ShorterFirst> names;
+};
+
+SmilParts::SmilParts()
+    : d(new SmilPartsData)
+{
+}
+
+SmilParts::SmilParts(const SmilParts &other) = default;
+SmilParts::SmilParts(SmilParts &&other) noexcept = default;
+SmilParts &SmilParts::operator=(const SmilParts &other) = default;
+SmilParts &SmilParts::operator=(SmilParts &&other) noexcept = default;
+SmilParts::~SmilParts() = default;
+
+/** Whoever has the name first keeps it. */
+static void setOnce(int &meaning, int part)
+{
+    meaning = meaning < 0 ? part : meaning;
 }
 
 void SmilParts::add(int part, const QString &name)
@@ -53,17 +90,29 @@ void SmilParts::add(int part, const QString &name)
     if (part < 0 || bare.isEmpty()) {
         return;
     }
-    insertOnce(names, name, part);
-    insertOnce(bareNames, bare, part);
-    insertOnce(foldedNames, bare.toCaseFolded(), part);
+    const QString folded = bare.toCaseFolded();
+    auto &names = d->names;
+    auto at = names.try_emplace(name).first; // the three are one text as a rule
+    setOnce(at->second.exact, part);
+    at = bare == name ? at : names.try_emplace(bare).first;
+    setOnce(at->second.bare, part);
+    at = folded == bare ? at : names.try_emplace(folded).first;
+    setOnce(at->second.folded, part);
 }
 
 int SmilParts::find(const QString &src) const
 {
-    const QString bare = bareName(src);
-    const QString plain = decoded(bare);
-    int part = names.value(src, -1);
-    part = part < 0 ? bareNames.value(bare, -1) : part;
-    part = part < 0 ? bareNames.value(plain, -1) : part;
-    return part < 0 ? foldedNames.value(plain.toCaseFolded(), -1) : part;
+    const auto meaning = [this](const QString &name, int Meanings::*as) {
+        const auto found = d->names.find(name);
+        return found == d->names.end() ? -1 : found->second.*as;
+    };
+    int part = meaning(src, &Meanings::exact);
+    if (part < 0) {
+        const QString bare = bareName(src);
+        const QString plain = bareName(decoded(bare));
+        part = meaning(bare, &Meanings::bare);
+        part = part < 0 ? meaning(plain, &Meanings::bare) : part;
+        part = part < 0 ? meaning(plain.toCaseFolded(), &Meanings::folded) : part;
+    }
+    return part;
 }

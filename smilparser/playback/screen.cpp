@@ -25,16 +25,24 @@ struct Axis {
     SmilUnit SmilRegion::*after;
 };
 
-const Axis across = {&SmilLayout::rootLayoutWidth, &SmilLayout::topLayoutWidth, &SmilRegion::left, &SmilRegion::width,
-                     &SmilRegion::right};
-const Axis down = {&SmilLayout::rootLayoutHeight, &SmilLayout::topLayoutHeight, &SmilRegion::top, &SmilRegion::height,
-                   &SmilRegion::bottom};
+const Axis horizontal = {&SmilLayout::rootLayoutWidth, &SmilLayout::topLayoutWidth, &SmilRegion::left,
+                         &SmilRegion::width, &SmilRegion::right};
+const Axis vertical = {&SmilLayout::rootLayoutHeight, &SmilLayout::topLayoutHeight, &SmilRegion::top,
+                       &SmilRegion::height, &SmilRegion::bottom};
 
 struct Extent {
     double begin;
     double length;
 };
 }
+
+class SmilScreenData : public QSharedData
+{
+public:
+    QSizeF size = QSizeF(0, 0);
+    QList<QRectF> regionRects;
+    QMap<QString, int> regionIndexes;
+};
 
 static bool isLength(double pixels)
 {
@@ -47,7 +55,7 @@ static double convert(const SmilUnit &measure, double whole)
     case SmilUnit::Px:
         return measure.value;
     case SmilUnit::Percent:
-        return measure.value * whole / 100;
+        return measure.value == 100 ? whole : measure.value * whole / 100; // 100 * x / 100 may differ from x
     case SmilUnit::In:
         return measure.value * 96;
     case SmilUnit::Cm:
@@ -100,14 +108,14 @@ static double sideOf(const SmilLayout &layout, const Axis &axis, double device)
 /** A side as long to the device's as the other one is; the device's when that cannot be told. */
 static double inProportion(double other, double otherDevice, double device)
 {
-    const double side = other / otherDevice * device;
+    const double side = other * (device / otherDevice);
     return isLength(side) ? side : device;
 }
 
 static QSizeF sizeOf(const SmilLayout &layout, const QSizeF &device)
 {
-    const double width = sideOf(layout, across, device.width());
-    const double height = sideOf(layout, down, device.height());
+    const double width = sideOf(layout, horizontal, device.width());
+    const double height = sideOf(layout, vertical, device.height());
     return QSizeF(width > 0 ? width : inProportion(height, device.height(), device.width()),
                   height > 0 ? height : inProportion(width, device.width(), device.height()));
 }
@@ -122,24 +130,47 @@ static Extent extentOf(const SmilRegion &region, const Axis &axis, double whole)
     return {qBound(-largest, begin, largest), length};
 }
 
-SmilScreen::SmilScreen(const SmilLayout &layout, const QSizeF &device)
-    : size(sizeOf(
-        layout,
-        QSizeF(isLength(device.width()) ? device.width() : 240, isLength(device.height()) ? device.height() : 320)))
+SmilScreen::SmilScreen()
+    : d(new SmilScreenData)
 {
+}
+
+SmilScreen::SmilScreen(const SmilLayout &layout, const QSizeF &device)
+    : d(new SmilScreenData)
+{
+    SmilScreenData &screen = *d;
+    screen.size = sizeOf(
+        layout,
+        QSizeF(isLength(device.width()) ? device.width() : 240, isLength(device.height()) ? device.height() : 320));
     for (const SmilRegion &region : layout.regions) {
-        const Extent width = extentOf(region, across, size.width());
-        const Extent height = extentOf(region, down, size.height());
-        if (!region.id.isEmpty() && !indexes.contains(region.id)) {
-            indexes.insert(region.id, int(areas.size()));
+        const Extent width = extentOf(region, horizontal, screen.size.width());
+        const Extent height = extentOf(region, vertical, screen.size.height());
+        if (!region.id.isEmpty() && !screen.regionIndexes.contains(region.id)) {
+            screen.regionIndexes.insert(region.id, int(screen.regionRects.size()));
         }
-        areas.append(QRectF(width.begin, height.begin, width.length, height.length));
+        screen.regionRects.append(QRectF(width.begin, height.begin, width.length, height.length));
     }
 }
 
-int SmilScreen::indexOf(const QString &region) const
+SmilScreen::SmilScreen(const SmilScreen &other) = default;
+SmilScreen::SmilScreen(SmilScreen &&other) noexcept = default;
+SmilScreen &SmilScreen::operator=(const SmilScreen &other) = default;
+SmilScreen &SmilScreen::operator=(SmilScreen &&other) noexcept = default;
+SmilScreen::~SmilScreen() = default;
+
+QSizeF SmilScreen::size() const
 {
-    return indexes.value(region, -1);
+    return d->size;
+}
+
+QList<QRectF> SmilScreen::regionRects() const
+{
+    return d->regionRects;
+}
+
+int SmilScreen::regionIndex(const QString &id) const
+{
+    return d->regionIndexes.value(id, -1);
 }
 
 /** The part of @p area that the one at @p index of so many gets. */
@@ -153,14 +184,14 @@ static QRectF share(const QRectF &area, int index, int number)
     return QRectF(area.x(), qMin(largest, area.y() + height * index), area.width(), height);
 }
 
-QList<QRectF> SmilScreen::places(const QList<SmilCue> &cues) const
+QList<QRectF> SmilScreen::rects(const QList<SmilCue> &cues) const
 {
     std::vector<QRectF> rectangles(cues.size());
     std::map<std::array<double, 4>, std::vector<int>> sharing;
     for (int i = 0; i < int(cues.size()); ++i) {
         const SmilRef &ref = cues.at(i).ref;
         if (ref.type != SmilRef::Audio) {
-            const QRectF area = areas.value(indexOf(ref.region), QRectF(QPointF(), size));
+            const QRectF area = d->regionRects.value(regionIndex(ref.region), QRectF(QPointF(), d->size));
             sharing[{area.x(), area.y(), area.width(), area.height()}].push_back(i);
             rectangles[i] = area;
         }

@@ -3,19 +3,14 @@
 
 #include "times.h"
 
-#include "smilparser/model/attributes.h"
+#include "smilparser/model/duration.h"
+#include "smilparser/model/vocabulary.h"
 
 #include <QtCore/qnumeric.h>
 
 // Made once, not at each look-up.
-static const QString absent;
 static const QString beginName = QStringLiteral("begin");
 static const QString endName = QStringLiteral("end");
-
-bool isDuration(double seconds)
-{
-    return qIsFinite(seconds) && seconds > 0;
-}
 
 static double readDur(const QDomElement &element)
 {

@@ -17,7 +17,4 @@ struct Times {
 
 Times readTimes(const QDomElement &element);
 
-/** Whether something can take so many seconds. */
-bool isDuration(double seconds);
-
 #endif

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "document.h"
+#include "writer.h"
 
 #include <QtCore/QXmlStreamWriter>
 
@@ -35,38 +35,31 @@ static QString allowed(const QString &text)
 
 namespace
 {
-/** The way out into a text, in which an element stands where it begins. */
-class Text
+class TextWriter final : public Writer
 {
 public:
-    struct Element {
-    };
-
-    explicit Text(QByteArray &text)
+    TextWriter(QByteArray &text, int indent)
         : writer(&text)
     {
+        writer.setAutoFormatting(indent >= 0);
+        writer.setAutoFormattingIndent(indent);
     }
-    Element begin(const QString &name)
-    {
-        writer.writeStartElement(name);
-        return Element();
-    }
-    void write(Element, const QString &attribute, const QString &text)
+    void begin(const QString &element) override { writer.writeStartElement(element); }
+    void write(const QString &attribute, const QString &text) override
     {
         writer.writeAttribute(attribute, allowed(text));
     }
-    void append(Element, Element) { }
-    void end() { writer.writeEndElement(); }
+    void end() override { writer.writeEndElement(); }
 
 private:
     QXmlStreamWriter writer;
 };
 }
 
-QByteArray SmilParser::toXml() const
+QByteArray SmilParser::toXml(int indent) const
 {
     QByteArray text;
-    Text out(text);
-    writeDocument(out, document);
-    return text;
+    TextWriter out(text, indent);
+    writeRecord(out, document);
+    return indent < 0 ? text : text.trimmed() + '\n'; // Qt begins each line, the first one too, with its line end
 }

@@ -1,31 +1,46 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "document.h"
+#include "writer.h"
+
+#include <utility>
+#include <vector>
 
 namespace
 {
-/** The way out into a DOM. An element is appended when it is complete: how deep it will stand costs nothing then. */
-class Tree
+/** An element is appended when it is complete: how deep it will stand costs nothing then. */
+class TreeWriter final : public Writer
 {
 public:
-    using Element = QDomElement;
-
-    explicit Tree(QDomDocument &document)
+    explicit TreeWriter(QDomDocument &document)
         : dom(document)
     {
     }
-    Element begin(const QString &name) { return dom.createElement(name); }
-    void write(Element &element, const QString &attribute, const QString &text)
+    void begin(const QString &element) override { open.push_back(dom.createElement(element)); }
+    void write(const QString &attribute, const QString &text) override { open.back().setAttribute(attribute, text); }
+    void end() override
     {
-        element.setAttribute(attribute, text);
+        last = std::move(open.back());
+        open.pop_back();
+        if (!open.empty()) {
+            open.back().appendChild(last);
+        }
     }
-    void append(Element &element, const Element &child) { element.appendChild(child); }
-    void end() { }
+
+    QDomElement last; ///< the element that has ended last
 
 private:
     QDomDocument &dom;
+    std::vector<QDomElement> open;
 };
+}
+
+template<typename Record>
+static QDomElement rendered(QDomDocument &dom, const Record &record)
+{
+    TreeWriter out(dom);
+    writeRecord(out, record);
+    return out.last;
 }
 
 QDomDocument &SmilParser::getContent()
@@ -38,36 +53,30 @@ QDomDocument &SmilParser::getContent()
 
 QDomElement SmilParser::render(SmilDocument &model)
 {
-    Tree tree(domDocument);
-    return writeDocument(tree, model);
+    return rendered(domDocument, model);
 }
 
 QDomElement SmilParser::render(SmilHeader &header)
 {
-    Tree tree(domDocument);
-    return writeHead(tree, header);
+    return rendered(domDocument, header);
 }
 
 QDomElement SmilParser::render(SmilLayout &layout)
 {
-    Tree tree(domDocument);
-    return writeLayout(tree, layout);
+    return rendered(domDocument, layout);
 }
 
 QDomElement SmilParser::render(SmilBody &body)
 {
-    Tree tree(domDocument);
-    return writeBody(tree, body);
+    return rendered(domDocument, body);
 }
 
 QDomElement SmilParser::render(SmilNode &node)
 {
-    Tree tree(domDocument);
-    return writeNode(tree, node);
+    return rendered(domDocument, node);
 }
 
 QDomElement SmilParser::render(SmilRef &ref)
 {
-    Tree tree(domDocument);
-    return writeRef(tree, ref);
+    return rendered(domDocument, ref);
 }

@@ -17,7 +17,7 @@ int main()
     SmilParser reader(QByteArray("<smil><head/><body><par dur='5s'><img src='a.jpg'/></par></body></smil>"));
     const SmilDocument &message = reader.parse();
     SmilParser writer(message);
-    const bool isShown = SmilTimeline(reader.dom().documentElement()).duration == 5;
+    const bool isShown = SmilTimeline(reader.dom().documentElement()).duration() == 5;
     SmilComposer composer;
     composer.add(SmilRef::Img, QStringLiteral("a.jpg"));
     const bool isWritten = writer.getContent().toString(-1).contains(QLatin1String("<img src=\"a.jpg\"/></par>"));

@@ -18,6 +18,20 @@ run("${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/installed"
 file(RENAME "${WORK_DIR}/installed" "${prefix}")
 set(library "${prefix}/${LIBDIR}/libsmilparser.so.1")
 
+file(GLOB_RECURSE pages "${prefix}/*.md")
+foreach(page IN LISTS pages)
+    file(READ "${page}" text)
+    string(REPLACE "](" "\t" text "${text}")
+    string(REGEX MATCHALL "\t[^:#)]+" links "${text}")
+    cmake_path(GET page PARENT_PATH dir)
+    foreach(link IN LISTS links)
+        string(STRIP "${link}" link)
+        if(NOT EXISTS "${dir}/${link}")
+            message(FATAL_ERROR "${page} has a link to ${link}, which is not installed.")
+        endif()
+    endforeach()
+endforeach()
+
 cmake_path(GET QT_DIR FILENAME qt)
 string(REGEX MATCH "[0-9]+" major "${qt}")
 set(configure "${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${CMAKE_CURRENT_LIST_DIR}" "-D${qt}_DIR=${QT_DIR}"

@@ -50,9 +50,9 @@ void findCrowding(const QDomElement &smil, const SmilLayout &layout, Findings &f
     QList<const SmilCue *> additions;
     // The cues are in the order in which they begin: one comes in addition if any of those before it still plays.
     std::map<std::pair<int, int>, double> ends;
-    for (const SmilCue &cue : timeline.cues) {
+    for (const SmilCue &cue : timeline.cues()) {
         if (cue.begin < cue.end) {
-            double &end = ends[{roomOf(cue.ref), screen.indexOf(cue.ref.region)}];
+            double &end = ends[{roomOf(cue.ref), screen.regionIndex(cue.ref.region)}];
             if (cue.begin < end) {
                 additions.append(&cue);
             }
@@ -64,7 +64,7 @@ void findCrowding(const QDomElement &smil, const SmilLayout &layout, Findings &f
     std::stable_sort(additions.begin(), additions.end(),
                      [&](const SmilCue *a, const SmilCue *b) { return lineOf(a) < lineOf(b); });
     for (const SmilCue *const cue : std::as_const(additions)) {
-        found.add(Finding::CrowdedSlide, lineOf(cue), subjectOf(cue->ref, screen.indexOf(cue->ref.region) >= 0),
+        found.add(Finding::CrowdedSlide, lineOf(cue), subjectOf(cue->ref, screen.regionIndex(cue->ref.region) >= 0),
                   excerpt(cue->ref.src));
     }
 }

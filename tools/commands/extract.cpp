@@ -62,7 +62,7 @@ static void write(const Message &message, const QString &path, QIODevice &out, R
     }
     QStringList srcs;
     const SmilTimeline timeline(message.dom.documentElement());
-    for (const SmilCue &cue : timeline.cues) {
+    for (const SmilCue &cue : timeline.cues()) {
         srcs.append(cue.ref.src);
     }
     const QVector<QString> names = fileNames(message, srcs);

@@ -176,7 +176,8 @@ static void addNodes(const SmilNode &node, int depth, Json &json)
 /** Where a cue is shown when nothing shares the area with it. */
 static void addArea(const SmilCue &cue, const SmilScreen &screen, Json &json)
 {
-    const QRectF area = screen.areas.value(screen.indexOf(cue.ref.region), QRectF(QPointF(), screen.size));
+    const QRectF area =
+        screen.regionRects().value(screen.regionIndex(cue.ref.region), QRectF(QPointF(), screen.size()));
     json.object("area", [&] {
         json.add("x", area.x());
         json.add("y", area.y());
@@ -208,9 +209,9 @@ static void addTimeline(const Message &message, Json &json)
 {
     const SmilScreen screen(message.document.header.layout);
     const SmilTimeline timeline(message.dom.documentElement());
-    json.add("duration", timeline.duration);
-    json.list("slides", timeline.slides, [&](double begin) { json.add({}, begin); });
-    json.list("cues", timeline.cues, [&](const SmilCue &cue) {
+    json.add("duration", timeline.duration());
+    json.list("slides", timeline.slideBegins(), [&](double begin) { json.add({}, begin); });
+    json.list("cues", timeline.cues(), [&](const SmilCue &cue) {
         json.object({}, [&] { addCue(cue, screen, message.parts.find(cue.ref.src), json); });
     });
 }

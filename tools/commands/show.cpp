@@ -149,7 +149,7 @@ void show(const Message &message, QIODevice &out)
     const SmilNode &body = message.document.body.root;
     outline.line(1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
     showContents(outline, 2, body);
-    outline.line(1, QLatin1String("plays ") + lengthText(SmilTimeline(message.dom.documentElement()).duration));
+    outline.line(1, QLatin1String("plays ") + lengthText(SmilTimeline(message.dom.documentElement()).duration()));
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)

@@ -100,7 +100,7 @@ void storyboard(Message &message, QIODevice &out)
     const auto count = qMax<qsizetype>(1, frames.size());
     const auto rows = (count + columns - 1) / columns;
     const QSizeF page(margin + qMin<double>(columns, count) * cellWidth, margin + rows * cellHeight);
-    const QString duration = QStringLiteral("Plays %1.").arg(lengthText(timeline.duration));
+    const QString duration = QStringLiteral("Plays %1.").arg(lengthText(timeline.duration()));
     const QString nothing = QStringLiteral("Nothing plays.");
 
     Svg svg(out);
@@ -113,7 +113,7 @@ void storyboard(Message &message, QIODevice &out)
         draw(svg, media, pictures.at(i), screen, frames.at(i).heading);
         svg.endGroup();
     }
-    const QString more = timeline.slides.size() > frames.size()
+    const QString more = timeline.slideBegins().size() > frames.size()
         ? QStringLiteral(" No more than %1 slides are drawn.").arg(bounds::frames)
         : QString();
     if (frames.isEmpty()) {
@@ -132,7 +132,7 @@ static bool isPart(const QString &name, const QString &folder, const Message &me
     if (part < 0) {
         return false;
     }
-    const QList<SmilCue> cues = timelineOf(message).cues;
+    const QList<SmilCue> cues = timelineOf(message).cues();
     return std::any_of(cues.cbegin(), cues.cend(),
                        [&](const SmilCue &cue) { return message.parts.find(cue.ref.src) == part; });
 }

@@ -66,7 +66,7 @@ static void label(const Shown &shown, const QString &id, Picture &picture)
 
 void Captions::add(const SmilCue &cue, const QRectF &place, Picture &picture)
 {
-    const int region = screen.pixels.indexOf(cue.ref.region);
+    const int region = screen.pixels.regionIndex(cue.ref.region);
     const QString id = screen.idOf(region);
     const QString name = nameOf(cue.ref);
     const int part = find(cue.ref.src);
@@ -90,7 +90,7 @@ void Captions::add(const SmilCue &cue, const QRectF &place, Picture &picture)
 Picture Captions::of(const Frame &frame)
 {
     Picture picture;
-    const QList<QRectF> places = screen.pixels.places(frame.cues);
+    const QList<QRectF> places = screen.pixels.rects(frame.cues);
     for (int i = 0; i < frame.cues.size(); ++i) {
         add(frame.cues.at(i), places.at(i), picture);
     }

@@ -31,7 +31,7 @@ QString wordsFor(const SmilCue &cue)
 static QList<SmilCue> cuesOf(const SmilTimeline &timeline, double begin, double end)
 {
     QList<SmilCue> cues;
-    for (const SmilCue &cue : timeline.cues) {
+    for (const SmilCue &cue : timeline.cues()) {
         if (cue.begin >= end || cues.size() == bounds::media) {
             break;
         }
@@ -45,10 +45,10 @@ static QList<SmilCue> cuesOf(const SmilTimeline &timeline, double begin, double 
 QList<Frame> framesOf(const SmilTimeline &timeline)
 {
     QList<Frame> frames;
-    const QList<double> slides = timeline.slides.mid(0, bounds::frames + 1);
+    const QList<double> slides = timeline.slideBegins().mid(0, bounds::frames + 1);
     for (int i = 0; i < qMin(int(slides.size()), bounds::frames); ++i) {
         const double begin = slides.at(i);
-        const double length = slides.value(i + 1, timeline.duration) - begin;
+        const double length = slides.value(i + 1, timeline.duration()) - begin;
         frames.append({QStringLiteral("%1 \u00b7 %2 \u00b7 %3").arg(i + 1).arg(clockText(begin), lengthText(length)),
                        cuesOf(timeline, begin, slides.value(i + 1, qInf()))});
     }

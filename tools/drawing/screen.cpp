@@ -14,10 +14,10 @@ static bool canBeDrawn(double side)
 static SmilScreen screenOf(SmilLayout layout)
 {
     const SmilScreen screen(layout);
-    if (canBeDrawn(screen.size.width()) && canBeDrawn(screen.size.height())) {
+    if (canBeDrawn(screen.size().width()) && canBeDrawn(screen.size().height())) {
         return screen;
     }
-    const QSizeF phone = SmilScreen(SmilLayout()).size;
+    const QSizeF phone = SmilScreen(SmilLayout()).size();
     layout.rootLayoutWidth = SmilUnit(phone.width(), SmilUnit::Px);
     layout.rootLayoutHeight = SmilUnit(phone.height(), SmilUnit::Px);
     return SmilScreen(layout);
@@ -31,14 +31,14 @@ QRectF scaled(const QRectF &rectangle, double scale)
 Screen::Screen(const SmilLayout &layout)
     : regions(layout.regions)
     , pixels(screenOf(layout))
-    , scale(qMin(frameWidth / pixels.size.width(), frameHeight / pixels.size.height()))
-    , size(pixels.size * scale)
+    , scale(qMin(frameWidth / pixels.size().width(), frameHeight / pixels.size().height()))
+    , size(pixels.size() * scale)
 {
 }
 
 QRectF Screen::visible(const QRectF &place) const
 {
-    return scaled(place.intersected(QRectF(QPointF(), pixels.size)), scale);
+    return scaled(place.intersected(QRectF(QPointF(), pixels.size())), scale);
 }
 
 QString Screen::idOf(int region) const

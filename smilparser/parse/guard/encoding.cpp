@@ -3,14 +3,10 @@
 
 #include "guard.h"
 
+#include "smilparser/model/charset.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-#include <QtCore/QStringDecoder>
-#else
-#include <QtCore/QTextCodec>
-#endif
 
 /** By a byte order mark or, without one, "<" in that encoding. */
 static QByteArray detectEncoding(const QByteArray &bytes)
@@ -39,26 +35,6 @@ static bool isUtf8(const QByteArray &encoding)
     return qstricmp(encoding.constData(), "UTF-8") == 0;
 }
 
-/** Null when Qt does not know the encoding. */
-static QString decodeAs(const QByteArray &encoding, const QByteArray &bytes)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    QStringDecoder decoder(encoding.constData());
-    if (!decoder.isValid()) {
-        return QString();
-    }
-    QString text = decoder(bytes);
-    if (decoder.hasError()) {
-        // The reader of Qt 6 reports bytes that are not of the encoding as an error. A text that ends there is one too.
-        text.truncate(text.indexOf(QChar::ReplacementCharacter) + 1);
-    }
-    return text;
-#else
-    const QTextCodec *const codec = QTextCodec::codecForName(encoding);
-    return codec ? QTextDecoder(codec).toUnicode(bytes.constData(), bytes.size()) : QString();
-#endif
-}
-
 /** Not "<?xml-stylesheet" and its like, though Qt 5 would take an encoding from those too. */
 static bool isDeclaration(const QString &text)
 {
@@ -81,21 +57,11 @@ static QByteArray declaredEncoding(const QString &declaration, const QByteArray 
     return quoted ? value.section(quote, 1, 1).toUtf8() : QByteArray();
 }
 
-/**
- * Puts U+FFFD in the place of what Qt would hand on as something else. An unpaired surrogate is no character: Qt makes
- * it "?", which may end an instruction, and the DOM of Qt 6.11 crashes on it. A second byte order mark is an error; Qt
- * 6 would drop it.
- */
-static void replaceNoCharacters(QString &text)
+/** Puts U+FFFD in the place of a second byte order mark, which is an error, but Qt 6 would drop it. */
+static void replaceSecondMark(QString &text)
 {
-    QChar *const begin = text.data();
-    QChar *const end = begin + text.size();
-    for (QChar *at = begin; at != end; ++at) {
-        if (at->isHighSurrogate() && at[1].isLowSurrogate()) {
-            ++at; // at the end of the text, what follows is its final U+0000
-        } else if (at->isSurrogate() || (at == begin && *at == QChar(QChar::ByteOrderMark))) {
-            *at = QChar::ReplacementCharacter;
-        }
+    if (text.startsWith(QChar(QChar::ByteOrderMark))) {
+        text[0] = QChar::ReplacementCharacter;
     }
 }
 
@@ -107,7 +73,7 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
     if (utf8 && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
         return std::nullopt;
     }
-    const QString beginning = decodeAs(encoding, bytes.left(maxDeclaration));
+    const QString beginning = decodeText(encoding, bytes.left(maxDeclaration), Malformed::Stop);
     const bool declares = isDeclaration(beginning);
     if (declares) {
         encoding = declaredEncoding(beginning.left(beginning.indexOf(QLatin1Char('>')) + 1), encoding);
@@ -115,7 +81,8 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
     if (utf8 && declares && isUtf8(encoding)) {
         return std::nullopt;
     }
-    QString text = decodeAs(knownUtf8 ? QByteArrayLiteral("UTF-8") : encoding, bytes);
-    replaceNoCharacters(text);
+    QString text = decodeText(knownUtf8 ? QByteArrayLiteral("UTF-8") : encoding, bytes, Malformed::Stop);
+    replaceUnpairedSurrogates(text);
+    replaceSecondMark(text);
     return text.toUtf8();
 }

@@ -233,7 +233,7 @@ private:
 };
 }
 
-qint64 harmlessSize(const QByteArray &utf8)
+qint64 safePrefixLength(const QByteArray &utf8)
 {
     return Scanner(utf8.constData(), utf8.size()).scan();
 }

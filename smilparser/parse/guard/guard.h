@@ -33,6 +33,6 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8 = false
  *
  * The reader's memory, stack and time are not bounded by the size of its input; within the limits they are.
  */
-qint64 harmlessSize(const QByteArray &utf8);
+qint64 safePrefixLength(const QByteArray &utf8);
 
 #endif

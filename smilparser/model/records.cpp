@@ -5,6 +5,8 @@
 
 #include <QtCore/qnumeric.h>
 
+SmilDocument::SmilDocument() = default;
+
 bool SmilUnit::operator==(const SmilUnit &other) const
 {
     // Lists that share their records are equal without a look at these. So must the records be, those with a NaN too.

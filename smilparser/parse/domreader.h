@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILPARSER_WALKS_H
-#define SMILPARSER_WALKS_H
+#ifndef SMILPARSER_DOMREADER_H
+#define SMILPARSER_DOMREADER_H
 
 #include <smilparser/smilparser.h>
 

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILPARSER_SLOTS_H
+#define SMILPARSER_SLOTS_H
+
+/** What a slide has room for once. */
+enum class Slot { Visual = 1, Text = 2, Audio = 4 };
+
+/** A set of #Slot, as bits. */
+using Slots = int;
+
+inline bool has(Slots slots, Slot slot)
+{
+    return slots & int(slot);
+}
+
+/** Those that a medium of that SmilRef::Type takes; none for one of no kind that is known. */
+Slots slotsOf(int type);
+
+#endif
