@@ -91,7 +91,7 @@ void Composing::names()
 {
     QFETCH(QString, names);
     QFETCH(QString, sees);
-    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_][A-Za-z0-9._-]{0,31}$"));
+    static const QRegularExpression plain(QStringLiteral("^[A-Za-z0-9_][A-Za-z0-9._-]{0,26}$"));
     SmilComposer composer;
     QSet<QString> all;
     QString src;
@@ -124,6 +124,8 @@ void Composing::copies()
     const SmilDocument before = one.message();
     QCOMPARE(one.add(SmilRef::Text, QStringLiteral("a.jpg")), QStringLiteral("a-2.jpg"));
     QCOMPARE(other.add(SmilRef::Audio, QStringLiteral("a.jpg")), QStringLiteral("a-2.jpg"));
+    QCOMPARE(one.name(QStringLiteral("A.jpg")), QStringLiteral("A-3.jpg")); // of a part that is on no slide
+    QCOMPARE(one.message().body.root.children.first().refs.size(), 2);
     QCOMPARE(before.body.root.children.first().refs.size(), 1);
     QCOMPARE(int(other.message().body.root.children.first().refs.last().type), int(SmilRef::Audio));
 }

@@ -16,7 +16,6 @@ private Q_SLOTS:
     void texts_data() { addCases("measures.txt"); }
     void texts();
     void leavesTheTextAlone();
-    void oddKinds();
     void equal();
     void clocks_data() { addCases("clocks.txt"); }
     void clocks();
@@ -61,15 +60,6 @@ void Measures::leavesTheTextAlone()
         const Unended unended(QString::fromLatin1(digits));
         SmilUnit(unended.text).toString();
         QVERIFY2(unended.text.constData() == unended.characters.data(), digits);
-    }
-}
-
-void Measures::oddKinds()
-{
-    for (const int kind : {7, -1, std::numeric_limits<int>::min()}) {
-        SmilUnit measure(QStringLiteral("5"));
-        measure.unit = kind;
-        QVERIFY2(measure.toString().isNull(), qPrintable(measure.toString()));
     }
 }
 

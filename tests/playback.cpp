@@ -24,7 +24,6 @@ private Q_SLOTS:
     void otherCues();
     void moments();
     void depth();
-    void manyMedia();
     void screens_data() { addCases("screens.txt"); }
     void screens();
     void oddMeasures();
@@ -266,18 +265,6 @@ void Playback::depth()
     QVERIFY(std::any_of(timeline.cues().cbegin(), timeline.cues().cend(),
                         [](const SmilCue &cue) { return cue.ref.src == QLatin1String("512"); }));
     QCOMPARE(timeline.duration(), 258.0);
-}
-
-/** Those that begin together stay in order, also when there are more than are sorted one by one. */
-void Playback::manyMedia()
-{
-    const SmilTimeline timeline = timelineOf(
-        expanded(QStringLiteral("<body><par>{500*<img src='#' begin='1s' dur='1s'/><img src='+#'/>}</par></body>")));
-    QCOMPARE(int(timeline.cues().size()), 1000);
-    for (int i = 0; i < 500; ++i) {
-        QCOMPARE(timeline.cues().at(i).ref.src, QLatin1Char('+') + QString::number(i));
-        QCOMPARE(timeline.cues().at(500 + i).ref.src, QString::number(i));
-    }
 }
 
 void Playback::screens()
