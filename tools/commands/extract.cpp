@@ -61,8 +61,8 @@ static void write(const Message &message, const QString &path, QIODevice &out, R
         return;
     }
     QStringList srcs;
-    const SmilTimeline timeline(message.dom.documentElement());
-    for (const SmilCue &cue : timeline.cues()) {
+    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
+    for (const SmilCue &cue : cues) {
         srcs.append(cue.ref.src);
     }
     const QVector<QString> names = fileNames(message, srcs);

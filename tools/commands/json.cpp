@@ -176,7 +176,8 @@ static void addNodes(const SmilNode &node, int depth, Json &json)
 /** Where a cue is shown when nothing shares the area with it. */
 static void addArea(const SmilCue &cue, const SmilScreen &screen, Json &json)
 {
-    const QRectF area = screen.regionRects().value(screen.regionIndex(cue.ref.region), QRectF(QPointF(), screen.size()));
+    const QRectF area =
+        screen.regionRects().value(screen.regionIndex(cue.ref.region), QRectF(QPointF(), screen.size()));
     json.object("area", [&] {
         json.add("x", area.x());
         json.add("y", area.y());
