@@ -30,13 +30,13 @@ static QString regionOf(Slots slots)
     return has(slots, Slot::Visual) ? imageRegion : has(slots, Slot::Text) ? textRegion : QString();
 }
 
-/** Phones read no exponent, with which a shorter or longer one would be written. */
+/** A shorter or longer one would be written with an exponent, which phones do not read. */
 static double duration(double seconds, double otherwise)
 {
     return isDuration(seconds) ? qBound(0.001, seconds, 999999.0) : otherwise;
 }
 
-/** What is read again of the measure when it has been written. */
+/** The measure as it is read back after it was written. */
 static SmilUnit rounded(double value, SmilUnit::Unit unit)
 {
     return SmilUnit(SmilUnit(value, unit).toString());
@@ -60,7 +60,7 @@ static SmilRegion region(const QString &id, double top, double height, const QSt
     return region;
 }
 
-/** Those of a message whose slides take these slots. */
+/** The regions of a message whose slides take these slots. */
 static QList<SmilRegion> regionsOf(Slots slots)
 {
     const double upper = !has(slots, Slot::Visual) ? 0 : has(slots, Slot::Text) ? 70 : 100;
@@ -80,7 +80,7 @@ public:
     QSizeF size;
     double slideDuration;
     bool slideEnded;
-    QList<SmilNode> slides; ///< of each, SmilNode::dur is not valid yet, and has the longest seconds known, or 0
+    QList<SmilNode> slides; ///< SmilNode::dur is not valid yet; it holds the longest duration known, or 0
     QMap<QString, int> names; ///< for newName()
 };
 

@@ -29,7 +29,7 @@ QString plainName(const QString &name)
     return plain;
 }
 
-/** How many characters the extension has, with its dot; there may be none. */
+/** The length of the extension with its dot; 0 without one. */
 static int extensionSize(const QString &plain)
 {
     const qint64 size = plain.size() - plain.lastIndexOf(u'.');
@@ -51,7 +51,7 @@ QString newName(const QString &plain, QMap<QString, int> &names)
         return unnumbered;
     }
     for (int digits = 1, first = 2, end = 10;; ++digits, first = end, end *= 10) {
-        // Stems that differ may be one when they are cut for a number. Each goes on where the other has left off.
+        // Different stems may become the same when they are cut for a number. Each goes on where the other left off.
         const QString front = stem.left(room - 1 - digits) + u'-';
         int &number = names[(front + QString(digits, u'/') + extension).toLower()];
         for (number = qMax(number, first); number < end; ++number) {

@@ -6,13 +6,13 @@
 
 #include <QtCore/QMap>
 
-/** What is left of a file's name, or its path, as every phone understands it: of any length, never empty. */
+/** The name of a file, given by name or path, as every phone understands it: of any length, never empty. */
 QString plainName(const QString &name);
 
 /**
- * @p plain, cut to what phones keep, and numbered unless that is new to @p names, which has all names in lower case;
- * the result is added there. This function also notes there, for what is before and after a number, which one it tries
- * next: without that, the same name many times would try all numbers each time.
+ * @p plain, cut to what phones keep, and numbered if @p names has that already. @p names has all names in lower case,
+ * and the result is added to it. For what stands around a number, it also has the number to try next: without that, a
+ * name that comes many times would try all numbers each time.
  */
 QString newName(const QString &plain, QMap<QString, int> &names);
 

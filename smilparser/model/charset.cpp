@@ -19,7 +19,7 @@ QString decodeText(const QByteArray &charset, const QByteArray &bytes, Malformed
     }
     QString text = decoder(bytes);
     if (stop && decoder.hasError()) {
-        // The XML reader of Qt 6 reports bytes that are not of the encoding as an error. A text that ends there is too.
+        // Bytes that are not of the encoding are an error to the XML reader of Qt 6, and so is a text that ends there.
         text.truncate(text.indexOf(QChar::ReplacementCharacter) + 1);
     }
     return text;

@@ -35,7 +35,7 @@ static QStringView trimmed(QStringView text)
     return text;
 }
 
-/** Takes @p mark off the beginning of @p text, if it is there. */
+/** Removes @p mark from the beginning of @p text, if it is there. */
 static bool take(QStringView &text, QChar mark)
 {
     if (text.isEmpty() || text.front() != mark) {
@@ -45,7 +45,7 @@ static bool take(QStringView &text, QChar mark)
     return true;
 }
 
-/** Takes the digits, of which there may be none, off the beginning of @p text. */
+/** Removes and returns the digits at the beginning of @p text, of which there may be none. */
 static QByteArray takeDigits(QStringView &text)
 {
     const auto end = std::find_if_not(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
@@ -59,7 +59,7 @@ static bool isBelowSixty(const QByteArray &digits)
     return digits.size() == 1 || (digits.size() == 2 && digits.at(0) < '6');
 }
 
-/** Whether these may stand with colons between them: only the first of three, or of one, is as large as it likes. */
+/** Whether these may stand with colons between them. Only the first of three, or a single one, may be of any size. */
 static bool areFields(const QByteArrayList &fields)
 {
     const int any = fields.size() == 2 ? 0 : 1;

@@ -9,7 +9,7 @@ SmilDocument::SmilDocument() = default;
 
 bool SmilUnit::operator==(const SmilUnit &other) const
 {
-    // Lists that share their records are equal without a look at these. So must the records be, those with a NaN too.
+    // Lists that share their records are equal without comparing them, so a record equals itself, with a NaN too.
     const bool sameValue = value == other.value || (qIsNaN(value) && qIsNaN(other.value));
     return valid == other.valid && unit == other.unit && sameValue;
 }

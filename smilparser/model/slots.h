@@ -4,7 +4,7 @@
 #ifndef SMILPARSER_SLOTS_H
 #define SMILPARSER_SLOTS_H
 
-/** What a slide has room for once. */
+/** The media that a slide has room for, one of each. */
 enum class Slot { Visual = 1, Text = 2, Audio = 4 };
 
 /** A set of #Slot, as bits. */
@@ -15,7 +15,7 @@ inline bool has(Slots slots, Slot slot)
     return slots & int(slot);
 }
 
-/** Those that a medium of that SmilRef::Type takes; none for one of no kind that is known. */
+/** The slots that a medium of that SmilRef::Type takes; none for an unknown type. */
 Slots slotsOf(int type);
 
 #endif

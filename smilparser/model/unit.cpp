@@ -28,7 +28,7 @@ enum class Outcome { Read, NoNumber, Undecided };
 /** Reads up to nine digits and one suffix or none, as nearly all texts are, for a tenth of what readAny() takes. */
 static Outcome readPlain(const QString &text, SmilUnit &measure)
 {
-    // Not utf16(): behind a host's text that has no null there, it puts one, in a copy or in place.
+    // Not utf16(): after a text of the host that ends without a null it puts one, in a copy or in place.
     const QChar *const begin = text.constData();
     const QChar *const end = begin + text.size();
     const QChar *const limit = begin + qMin<qint64>(text.size(), 9);

@@ -55,7 +55,7 @@ static const TimelineElement timeline[] = {
 
 const TimelineElement *findElement(const QString &name)
 {
-    // Nearly all are written as they stand here, and that is quicker to tell.
+    // Nearly all are written as they stand here, and comparing that is quicker.
     for (const TimelineElement &element : timeline) {
         if (name.size() == element.name.size() && std::equal(name.begin(), name.end(), element.name.begin())) {
             return &element;

@@ -7,8 +7,8 @@
 
 #include <utility>
 
-// What follows is not part of readNodes(), or its locals would take up stack at every level of nesting: there are up to
-// 512, and some threads have 128 KiB.
+// The next functions are not part of readNodes(), where their locals would take up stack at every level of nesting:
+// there are up to 512, and some threads have 128 KiB.
 
 Q_NEVER_INLINE static void readDuration(const QDomElement &element, SmilUnit &dur, SmilParser::ReadOptions options)
 {

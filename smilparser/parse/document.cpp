@@ -14,7 +14,7 @@
 static void debug(const char *text)
 {
     if (MMSLogger::qdebugEnabled) {
-        // The blank is part of the message. QDebug's own would do on some versions of Qt and be cut off on others.
+        // The blank is part of the message. Some versions of Qt would add QDebug's own, and others would cut that off.
         qDebug().nospace() << text << ' ';
     }
 }
@@ -115,7 +115,7 @@ SmilDocument &SmilParser::parse(ReadOptions options, Outcome *outcome, QString *
     result = NotWellFormed;
     removeChildren(domDocument);
     if (!readXml(buffer, options.testFlag(DecodedText), domDocument, msg, line, column)) {
-        // What was read up to the error is nobody's tree.
+        // What was read before the error is no tree for a host.
         domDocument.clear();
         qWarning("Fail to parse SMIL document: '%s' at (%d,%d)!", msg->toLocal8Bit().constData(), *line, *column);
         return document;

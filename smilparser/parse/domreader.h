@@ -6,8 +6,8 @@
 
 #include <smilparser/smilparser.h>
 
-// What the walks of SmilParser do, with the options of parse() and into any record. Each returns and changes what the
-// walk of that name says.
+// The operations of SmilParser that take an element, with the options of parse() and into any record. Each returns and
+// changes what the operation of that name does.
 
 /** Does what parseSmilDocument() does, and gives the outcome; NoBody also when the body was refused. */
 SmilParser::Outcome readDocument(const QDomElement &smil, SmilDocument &document, SmilParser::ReadOptions options);

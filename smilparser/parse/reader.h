@@ -9,9 +9,9 @@ class QDomDocument;
 class QString;
 
 /**
- * QDomDocument::setContent() on @p buffer without namespaces, made the same on every Qt: silent, and leaving the buffer
- * at its end. If the bytes are @p knownUtf8, they are read as that, whatever they declare. The pointers, each of which
- * may be null, get what Qt reports, and only when it returns false.
+ * QDomDocument::setContent() on @p buffer without namespaces, made the same on every Qt: it is silent and leaves the
+ * buffer at its end. If the bytes are @p knownUtf8, they are read as that, whatever they declare. When it returns
+ * false, the pointers, each of which may be null, get what Qt reports.
  */
 bool readXml(QBuffer &buffer, bool knownUtf8, QDomDocument &document, QString *errorMsg, int *errorLine,
              int *errorColumn);

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <limits>
 
-/** A size of the picture's shape that is as wide or as high as the area, whichever is smaller; or larger, to cover. */
+/** The size of the picture's shape that is as wide or as high as the area: the smaller one, or to cover, the larger. */
 static QSizeF scaled(const QSizeF &picture, const QSizeF &area, bool cover)
 {
     const double horizontal = area.width() / picture.width();

@@ -24,7 +24,7 @@ static QString bareName(const QString &name)
     return bare.size() == name.size() ? name : bare.toString();
 }
 
-/** A "%" that no two digits follow stands for itself; Qt's own decoding would take what follows it, too. */
+/** A "%" without two digits after it stands for itself. Qt's own decoding would take what follows it, too. */
 static QString decoded(const QString &name)
 {
     const auto isDigit = [](char c) { return std::isxdigit(uchar(c)) != 0; };
@@ -53,11 +53,11 @@ struct ShorterFirst {
     }
 };
 
-/** The parts that a text means, each the first of those for which it is that; -1 when there is none. */
+/** The first part of which a text is the exact, bare or folded name; -1 when there is none. */
 struct Meanings {
-    int exact = -1; ///< it is a name
-    int bare = -1; ///< it is a bare name
-    int folded = -1; ///< it is a bare name without the letter case
+    int exact = -1; ///< the text is a name
+    int bare = -1; ///< the text is a bare name
+    int folded = -1; ///< the text is a bare name without letter case
 };
 }
 
@@ -78,7 +78,7 @@ SmilParts &SmilParts::operator=(const SmilParts &other) = default;
 SmilParts &SmilParts::operator=(SmilParts &&other) noexcept = default;
 SmilParts::~SmilParts() = default;
 
-/** Whoever has the name first keeps it. */
+/** The first part that has a name keeps it. */
 static void setOnce(int &meaning, int part)
 {
     meaning = meaning < 0 ? part : meaning;

@@ -74,7 +74,7 @@ static std::optional<double> pixels(const SmilUnit &measure, double whole)
     return qIsFinite(length) ? std::optional<double>(length) : std::nullopt;
 }
 
-/** The same, when it is not in percent of something that is not known yet. */
+/** The same, except for percent: what they are measured against is not known yet. */
 static std::optional<double> absolutePixels(const SmilUnit &measure)
 {
     return measure.unit == SmilUnit::Percent ? std::nullopt : pixels(measure, 0);
@@ -105,7 +105,7 @@ static double sideOf(const SmilLayout &layout, const Axis &axis, double device)
     return reach(layout.regions, axis);
 }
 
-/** A side as long to the device's as the other one is; the device's when that cannot be told. */
+/** A side in proportion to the other one, as those of the device are; the device's when the other is not known. */
 static double inProportion(double other, double otherDevice, double device)
 {
     const double side = other * (device / otherDevice);

@@ -9,8 +9,8 @@
 #include <vector>
 
 /**
- * Where a host pages while the media from @p begin to @p end play, which are all those of one child of "body", in any
- * order: ascending, each once.
+ * Where a host pages while one child of "body" plays, all of whose media are those from @p begin to @p end, in any
+ * order. Ascending, each once.
  */
 std::vector<double> slidesOf(QList<SmilCue>::const_iterator begin, QList<SmilCue>::const_iterator end);
 

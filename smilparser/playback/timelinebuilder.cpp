@@ -24,7 +24,7 @@ static const QString valueName = QStringLiteral("value");
 
 namespace
 {
-/** When an element plays. Its parent cuts it off only when all are known, for what is in that tells its end. */
+/** When an element plays. Its parent cuts it off only when all are known, because the end of that follows from them. */
 struct Span {
     double begin;
     double end;
@@ -34,7 +34,7 @@ struct Span {
     bool open; ///< whether it lasts until its parent ends
 };
 
-/** The base of what comes next in the node, and the end of what is in it so far. */
+/** The base of what comes next in a node, and the end of what is in it so far. */
 struct NodeState {
     double base;
     double end;
@@ -94,8 +94,8 @@ static Span spanOf(const QDomElement &element, double base, int parent)
     return {begin, end, parent, -1, times.stateEnd(), false};
 }
 
-// What follows is not part of addNode(), or its locals would take up stack at every level of nesting: there are up to
-// 512, and some threads have 128 KiB.
+// The next functions are not part of addNode(), where their locals would take up stack at every level of nesting: there
+// are up to 512, and some threads have 128 KiB.
 
 Q_NEVER_INLINE void TimelineBuilder::addMedium(const QDomElement &element, int type, double base, int parent)
 {
@@ -167,7 +167,7 @@ void TimelineBuilder::addNode(const QDomElement &element, int type, double base,
     endNode(node, type, state);
 }
 
-/** Lets nothing outlast its parent, and puts the times into the cues. */
+/** Ends everything with its parent at the latest, and puts the times into the cues. */
 void TimelineBuilder::cutOff()
 {
     for (Span &span : spans) {

@@ -15,7 +15,7 @@ public:
     QString background;
 };
 
-/** What the constructor of SmilTimeline says, of the "body" of @p smil; the background is left alone. */
+/** Fills @p timeline from the "body" of @p smil, as the constructor of SmilTimeline says; except its background. */
 void buildTimeline(const QDomElement &smil, double slideDuration, const std::function<double(const SmilRef &)> &length,
                    SmilTimelineData &timeline);
 

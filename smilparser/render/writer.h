@@ -6,7 +6,7 @@
 
 #include <smilparser/smilparser.h>
 
-/** The way out of a model: into a tree or into a text. Between its begin and its end, an element has others. */
+/** Takes a model into a tree or a text. The elements inside of one come between its begin and its end. */
 class Writer
 {
 public:

@@ -12,7 +12,7 @@
 
 namespace
 {
-/** A slide of parts that no slide of the SMIL shows: those from one on, in the list of all of these. */
+/** A slide of parts that no slide of the SMIL shows: some in a row in the list of them. */
 struct LeftSlide {
     double begin;
     double end;

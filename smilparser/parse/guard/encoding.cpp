@@ -8,7 +8,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/** By a byte order mark or, without one, "<" in that encoding. */
+/** The encoding by a byte order mark or, without one, by "<" at the beginning. */
 static QByteArray detectEncoding(const QByteArray &bytes)
 {
     // Those of four bytes first: they begin with those of two.
@@ -41,7 +41,7 @@ static bool isDeclaration(const QString &text)
     return text.startsWith(QLatin1String("<?xml")) && text.size() > 5 && QStringLiteral(" \t\r\n").contains(text.at(5));
 }
 
-/** The encoding that an XML declaration states, or @p detected when it states none; null when it cannot be told. */
+/** The encoding that an XML declaration states, or @p detected when it states none; null when it is not clear. */
 static QByteArray declaredEncoding(const QString &declaration, const QByteArray &detected)
 {
     const QStringList parts = declaration.split(QLatin1String("encoding"));
@@ -51,13 +51,13 @@ static QByteArray declaredEncoding(const QString &declaration, const QByteArray 
     if (parts.size() == 1) {
         return detected;
     }
-    const QString value = parts.at(1).trimmed().mid(1).trimmed(); // behind the "="
+    const QString value = parts.at(1).trimmed().mid(1).trimmed(); // after the "="
     const QString quote = value.left(1);
     const bool quoted = quote == QLatin1String("'") || quote == QLatin1String("\"");
     return quoted ? value.section(quote, 1, 1).toUtf8() : QByteArray();
 }
 
-/** Puts U+FFFD in the place of a second byte order mark, which is an error, but Qt 6 would drop it. */
+/** Puts U+FFFD in the place of a second byte order mark, which is an error. Qt 6 would drop it. */
 static void replaceSecondMark(QString &text)
 {
     if (text.startsWith(QChar(QChar::ByteOrderMark))) {
@@ -69,7 +69,7 @@ std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8)
 {
     QByteArray encoding = detectEncoding(bytes);
     const bool utf8 = isUtf8(encoding);
-    // Behind a mark, too, Qt 5 would take an encoding from an instruction. Qt 6 would only refuse what is refused here.
+    // After a mark, too, Qt 5 would take an encoding from an instruction. Qt 6 would only refuse what is refused here.
     if (utf8 && !bytes.startsWith("<?xml") && !bytes.startsWith("\xef\xbb\xbf<?xml")) {
         return std::nullopt;
     }

@@ -41,11 +41,11 @@ namespace
 {
 /**
  * Goes through a text, markup by markup, and stops at the first place where a limit is exceeded. It knows just enough
- * of XML for that: where markup ends, and what is nested in what. It does not look for errors: behind the first one the
- * reader has stopped, and the scan goes on in vain.
+ * of XML for that: where markup ends, and what is nested in what. It does not look for errors: the reader stops at the
+ * first one, and the scan goes on in vain.
  *
- * A function that returns bool moves the place past what it is named for, or returns false: then the scan stops where
- * it is, at a limit or at the end.
+ * A function that returns bool moves the place past what it is named for and returns true; or it returns false, and the
+ * scan stops where it is, at a limit or at the end.
  */
 class Scanner
 {
@@ -81,8 +81,8 @@ public:
     }
 
 private:
-    // Nearly all of a document is short tags with one ">", and blanks up to the next "<". That ">" ends the tag: were
-    // it quoted, the tag would hold the "<", and no reader goes on past a "<" in a tag, quoted or not. Such a tag is
+    // Nearly all of a document is short tags with one ">", then blanks up to the next "<". That ">" ends the tag: if it
+    // were quoted, the tag would hold the "<", and no reader goes on past a "<" in a tag, quoted or not. Such a tag is
     // too short for too many attributes or too long a name. markup() does the others.
     void skipPlainTags(const char *ampersand)
     {
@@ -180,7 +180,7 @@ private:
         return false;
     }
 
-    // Stops behind the "&", not before it: outside of the root element too, the text is then incomplete.
+    // Stops after the "&", not before it: then the text is incomplete, outside of the root element too.
     bool reference()
     {
         const char *const start = ++at;

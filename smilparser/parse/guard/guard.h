@@ -16,22 +16,22 @@ const int maxName = 4096; // as QString::size() counts it
 const int maxDeclaration = 1024; // bytes
 
 /**
- * The text of @p bytes that are not UTF-8, decoded by their byte order mark, their first character or their XML
- * declaration, as UTF-8; none for what is UTF-8, unless it begins with an instruction such as "<?xml-a?>", from which
- * Qt 5 would take an encoding. The XML reader is handed that text, not the bytes, so that it cannot read another text
- * than was scanned.
+ * The text of @p bytes that are not UTF-8, as UTF-8: decoded by their byte order mark, their first character or their
+ * XML declaration. There is none for bytes that are UTF-8, unless they begin with an instruction such as "<?xml-a?>",
+ * from which Qt 5 would take an encoding. The XML reader gets this text, not the bytes, so that it cannot read another
+ * text than was scanned.
  *
  * The text is empty when the declaration names several encodings or one that Qt does not know, or is longer than it may
- * be. If the bytes are @p knownUtf8, there is a text too, the same as they are, wherever the reader could take them for
- * anything else; nothing in it is then a reason for an empty one.
+ * be. It is never so when the bytes are @p knownUtf8. Then there is a text, equal to them, wherever the reader could
+ * take them for anything else.
  */
 std::optional<QByteArray> decode(const QByteArray &bytes, bool knownUtf8 = false);
 
 /**
- * How much of a text the XML reader may be handed: all of it, or what precedes the first place where a limit is
- * exceeded. Cut off there, the document is always incomplete, and the reader reports that.
+ * How much of a text the XML reader may get: all of it, or what precedes the first place where a limit is exceeded. A
+ * document that is cut off there is always incomplete, and the reader reports that.
  *
- * The reader's memory, stack and time are not bounded by the size of its input; within the limits they are.
+ * The size of its input does not bound the reader's memory, stack and time. Within the limits, it does.
  */
 qint64 safePrefixLength(const QByteArray &utf8);
 
