@@ -15,8 +15,8 @@
  */
 
 /**
- * Makes a message that other phones show of the media that a host adds, in their order: slides one after another,
- * pictures above texts.
+ * Makes a message out of the media that a host adds, in their order. It has slides one after another, with pictures
+ * above texts, so that other phones show it too.
  *
  * A slide has room for one thing to look at (SmilRef::Img, SmilRef::Video or SmilRef::Ref), one SmilRef::Text and one
  * sound (SmilRef::Audio; a SmilRef::Video takes that room too). A medium whose room is taken begins the next slide.

@@ -40,8 +40,8 @@ struct Attribute {
     SmilUnit Record::*measure;
 };
 
-// All of them, in the order in which they are written. No table has the sizes of root-layout and topLayout: what is
-// read into one field is written from another. Nor is the duration of a node, for which reading has options.
+// All of them, in the order in which they are written. No table has the sizes of root-layout and topLayout, because
+// what is read into one field is written from another, or the duration of a node, for which reading has options.
 extern const Attribute<SmilHeader> headAttributes[3];
 extern const Attribute<SmilMeta> metaAttributes[3];
 extern const Attribute<SmilRegion> regionAttributes[8];
