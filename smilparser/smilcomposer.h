@@ -44,8 +44,8 @@ public:
     ~SmilComposer(); ///< Releases what no copy shares.
 
     /**
-     * Adds a medium to the current slide, after those there. It begins a new slide if it is the first medium, after
-     * nextSlide(), and if its room is taken. @p seconds is how long it lasts; a value that is not finite and above 0
+     * Adds a medium to the current slide, after those there. The first medium begins a slide; so does one after
+     * nextSlide(), and one whose room is taken. @p seconds is how long it lasts; a value that is not finite and above 0
      * means that this is not known.
      *
      * @return the SmilRef::src of the medium, which is name() of @p name: send its part with that as Content-Location
