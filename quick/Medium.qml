@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+
+// What is seen of a medium: the picture or film in its place, or else a text.
+Rectangle {
+    id: place
+
+    required property var medium
+    required property var slideshow
+    required property var stage
+    required property real letter
+
+    readonly property bool isPicture: medium.kind === "image" && medium.source.toString() !== ""
+    readonly property bool isShown: medium.kind === "video" ? film.isShown : isPicture && picture.status !== Image.Error
+    readonly property string line: {
+        const missing = medium.part < 0;
+        switch (medium.kind) {
+        case "text":
+            return missing ? qsTr("Missing text: %1") : qsTr("Text: %1");
+        case "image":
+            return missing ? qsTr("Missing picture: %1") : qsTr("Picture: %1");
+        case "video":
+            return missing ? qsTr("Missing film: %1") : qsTr("Film: %1");
+        default:
+            return missing ? qsTr("Missing file: %1") : qsTr("File: %1");
+        }
+    }
+    readonly property string words: medium.text || (medium.part < 0 && medium.kind === "image" && medium.alt)
+                                    || line.arg(medium.name)
+
+    x: medium.area.x
+    y: medium.area.y
+    width: medium.area.width
+    height: medium.area.height
+    color: medium.filled ? medium.paper : "transparent"
+    visible: medium.visible
+    clip: true
+
+    Loader {
+        id: picture
+
+        readonly property int status: item ? item.status : Image.Null
+        readonly property rect fitted: item ? place.medium.fitted(Qt.size(item.implicitWidth * place.stage.zoom,
+                                                                          item.implicitHeight * place.stage.zoom),
+                                                                  Qt.size(place.width, place.height)) : Qt.rect(0, 0, 0, 0)
+
+        x: fitted.x
+        y: fitted.y
+        width: fitted.width
+        height: fitted.height
+        active: place.isPicture
+        sourceComponent: place.medium.moves ? moving : still
+        Accessible.role: Accessible.Graphic
+        Accessible.name: place.medium.alt || place.line.arg(place.medium.name)
+        Accessible.ignored: !place.isShown
+    }
+
+    Component {
+        id: still
+
+        Image {
+            source: place.medium.source
+            sourceSize: Qt.size(1280, 1280) // a larger one is made that small when it is read
+            asynchronous: true
+            autoTransform: true
+        }
+    }
+
+    Component {
+        id: moving
+
+        AnimatedImage {
+            source: place.medium.source
+            cache: false
+            playing: place.visible
+        }
+    }
+
+    Playback {
+        id: film
+
+        medium: place.medium
+        slideshow: place.slideshow
+        stage: place.stage
+        anchors.fill: parent
+    }
+
+    Flickable {
+        width: place.width
+        height: Math.min(place.height, text.height)
+        contentHeight: text.height
+        visible: !place.isShown
+
+        Rectangle {
+            anchors.fill: text
+            color: place.medium.paper
+        }
+
+        Text {
+            id: text
+
+            width: place.width
+            padding: place.letter / 3
+            text: place.words
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            color: place.medium.ink
+            font.pixelSize: place.letter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: place.medium.alt || place.words
+        }
+    }
+}

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+import QtQuick 2.15
+
+Item {
+    id: view
+
+    required property var slideshow
+    required property var stage
+    readonly property real letter: Math.max(8, Math.min(width, height) / 18)
+
+    anchors.fill: parent
+    focus: true
+    Keys.onLeftPressed: slideshow.previous()
+    Keys.onRightPressed: slideshow.next()
+    Keys.onSpacePressed: slideshow.playing = !slideshow.playing
+
+    Rectangle {
+        id: screen
+
+        readonly property size wanted: Qt.size(width, height)
+
+        width: parent.width
+        height: bar.y
+        color: view.stage.background
+        onWantedChanged: view.stage.size = wanted
+
+        Repeater {
+            model: view.stage.seen
+
+            Medium {
+                required property var modelData
+
+                medium: modelData
+                slideshow: view.slideshow
+                stage: view.stage
+                letter: view.letter
+            }
+        }
+
+        Repeater {
+            model: view.stage.heard
+
+            Playback {
+                required property var modelData
+
+                medium: modelData
+                slideshow: view.slideshow
+                stage: view.stage
+            }
+        }
+
+        Item {
+            anchors.fill: parent
+
+            TapHandler {
+                onTapped: function (point) {
+                    if (point.position.x < screen.width / 3)
+                        view.slideshow.previous();
+                    else
+                        view.slideshow.next();
+                }
+            }
+        }
+    }
+
+    Bar {
+        id: bar
+
+        slideshow: view.slideshow
+        stage: view.stage
+        visible: view.slideshow.controls
+        y: view.height - (visible ? height : 0)
+        width: view.width
+    }
+}

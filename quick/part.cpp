@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "part.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QLibraryInfo>
+#include <QtCore/QMimeDatabase>
+#include <QtCore/QVersionNumber>
+#include <QtGui/QImageReader>
+
+/** By a name if one says it, else by the content of the file. */
+static QString findType(const SmilPart &headers, const QUrl &source, const QString &file)
+{
+    const QMimeDatabase types;
+    for (const QString &name : {headers.name, headers.location}) {
+        const QList<QMimeType> found = types.mimeTypesForFileName(name);
+        if (!found.isEmpty()) {
+            return found.first().name();
+        }
+    }
+    if (source.scheme() == QLatin1String("image")) {
+        return QStringLiteral("image/*");
+    }
+    return file.isEmpty() ? QString() : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
+}
+
+Part::Part(const QVariantMap &fields)
+    : m_source(fields.value(QStringLiteral("source")).toUrl())
+    , m_text(fields.value(QStringLiteral("text")).toString())
+{
+    headers.contentId = fields.value(QStringLiteral("contentId")).toString();
+    headers.location = fields.value(QStringLiteral("location")).toString();
+    headers.name = fields.value(QStringLiteral("name")).toString();
+    headers.type = fields.value(QStringLiteral("type")).toString().trimmed();
+    if (headers.type.isEmpty() || headers.type == QLatin1String("*/*")) {
+        headers.type = findType(headers, m_source, file());
+    }
+}
+
+/** The source as a path to a regular file or a resource; empty for all else. */
+QString Part::file() const
+{
+    const QString path = m_source.isLocalFile()     ? m_source.toLocalFile()
+        : m_source.scheme() == QLatin1String("qrc") ? QLatin1Char(':') + m_source.path()
+                                                    : QString();
+    return QFileInfo(path).isFile() ? path : QString();
+}
+
+QString Part::name() const
+{
+    for (const QString &name : {headers.name, headers.location, headers.contentId}) {
+        if (!name.isEmpty()) {
+            return shortened(name, 100).simplified();
+        }
+    }
+    return QString();
+}
+
+QByteArray Part::content(int limit) const
+{
+    QFile opened(file());
+    return !opened.fileName().isEmpty() && opened.open(QIODevice::ReadOnly) ? opened.read(limit) : QByteArray();
+}
+
+bool Part::hasText() const
+{
+    return !m_text.isEmpty();
+}
+
+QString Part::text() const
+{
+    const int limit = 128 * 1024; // in any charset more than is shown
+    if (hasText()) {
+        return shortened(m_text, limit);
+    }
+    QByteArray data = content(limit + 1);
+    if (data.size() > limit) { // ends within a character, perhaps, and would be no UTF-8 then
+        const auto isInside = [](char byte) { return (byte & 0xc0) == 0x80; };
+        for (int i = 0; i < 3 && isInside(data.back()); ++i) {
+            data.chop(1);
+        }
+        data.chop(1);
+    }
+    return headers.text(data);
+}
+
+/** One of a format that names no other files, as SVG may, and that takes at most @p limit bytes. */
+static bool isWithin(QImageReader &&reader, int limit)
+{
+    static const QByteArrayList formats{"bmp", "gif", "jpeg", "jpg", "png", "wbmp", "webp"};
+    const QSize size = formats.contains(reader.format()) ? reader.size() : QSize();
+    return !size.isEmpty() && size.width() <= limit / 4 / size.height();
+}
+
+bool Part::isPicture() const
+{
+    const QString path = file();
+    return m_source.scheme() == QLatin1String("image")
+        || (!path.isEmpty() && isWithin(QImageReader(path), 128 * 1024 * 1024));
+}
+
+bool Part::moves() const
+{
+    const QString path = file();
+    return !path.isEmpty() && QImageReader(path).format() == "gif" && isWithin(QImageReader(path), 4 * 1024 * 1024);
+}
+
+bool Part::isPlayable(bool asFilm) const
+{
+    const QString path = m_source.isLocalFile() ? file() : QString();
+    const QVersionNumber qt = QLibraryInfo::version();
+    const bool films = qt.majorVersion() == 5 || qt >= QVersionNumber(6, 5); // Qt 6.4 corrupts memory with them
+    if (path.isEmpty() || (asFilm && !films)) {
+        return false;
+    }
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent);
+    const QString name = type.name();
+    const bool known = name.startsWith(QLatin1String("audio/")) || name == QLatin1String("application/ogg")
+        || (films && name.startsWith(QLatin1String("video/")));
+    // A playlist is "audio" too, and would have the player fetch what it lists.
+    return known && !type.inherits(QStringLiteral("text/plain")) && !type.inherits(QStringLiteral("application/xml"));
+}
+
+QUrl Part::source(int as) const
+{
+    const bool opened = as == SmilRef::Img
+        ? isPicture()
+        : (as == SmilRef::Audio || as == SmilRef::Video) && isPlayable(as == SmilRef::Video);
+    return opened ? m_source : QUrl();
+}
+
+QString kindName(int kind)
+{
+    static const char *const names[] = {"text", "image", "audio", "video", "file"};
+    return QLatin1String(names[kind]);
+}
+
+QString shortened(const QString &text, int length)
+{
+    return text.size() > length ? text.left(text.at(length).isLowSurrogate() ? length - 1 : length) : text;
+}

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SMILQUICK_PART_H
+#define SMILQUICK_PART_H
+
+#include <smilparser/smilslideshow.h>
+
+#include <QtCore/QUrl>
+#include <QtCore/QVariantMap>
+
+/** A part of a message as the host describes it. Files are opened here and nowhere else. */
+class Part
+{
+public:
+    Part() = default; ///< one that is missing
+    explicit Part(const QVariantMap &fields);
+
+    SmilPart headers; ///< with the type that was found when none is stated
+
+    QString name() const; ///< what a reader knows it by: one line, shortened; may be empty
+    QByteArray content(int limit) const; ///< its first @p limit bytes
+    bool hasText() const; ///< whether the host gives its text, which is then the whole content
+    QString text() const; ///< as of a text part: its beginning when it is too long to be shown
+
+    QUrl source(int as) const; ///< from what it is shown or played as that; empty when it must not be
+    bool moves() const; ///< whether it is a picture that does, of a size that may
+
+private:
+    QString file() const;
+    bool isPicture() const;
+    bool isPlayable(bool asFilm) const;
+
+    QUrl m_source;
+    QString m_text;
+};
+
+QString kindName(int kind); ///< "text", "image", "audio", "video" or "file"
+QString shortened(const QString &text, int length); ///< cut between two characters
+
+#endif

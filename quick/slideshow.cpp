@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "slideshow.h"
+
+#include "stage.h"
+
+#include <QtCore/QTimer>
+#include <QtQml/QJSValue>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlContext>
+#include <QtQml/QQmlEngine>
+
+#include <algorithm>
+#include <tuple>
+
+static const int mostBytes = 1024 * 1024; // of a SMIL; it comes from a stranger
+
+/** A medium as a chat shows it in a list. */
+static QVariantMap summary(const SmilCue &cue, int index, const Part &part)
+{
+    const QString text = cue.ref.type == SmilRef::Text ? shortened(part.text(), 1024) : QString();
+    return QVariantMap{
+        {QStringLiteral("kind"), kindName(cue.ref.type)},
+        {QStringLiteral("part"), index                 },
+        {QStringLiteral("name"), nameOf(cue,             part)},
+        {QStringLiteral("alt"),                      shortened(cue.alt,                        1024)},
+        {QStringLiteral("text"),                 text               },
+        {QStringLiteral("source"),  part.source(cue.ref.type)        }
+    };
+}
+
+Slideshow::Slideshow(QQuickItem *parent)
+    : QQuickItem(parent)
+    , m_stage(new Stage(this))
+{
+    setFlag(ItemIsFocusScope);
+    setImplicitSize(240, 320);
+    m_timer.setInterval(50);
+    connect(&m_timer, &QTimer::timeout, this, &Slideshow::tick);
+    // A player may report a length while it is being made: its delegate must stay as it is until then.
+    connect(m_stage, &Stage::lengthKnown, this, &Slideshow::setLength, Qt::QueuedConnection);
+}
+
+void Slideshow::componentComplete()
+{
+    QQuickItem::componentComplete();
+    open();
+    QQmlComponent view(qmlEngine(this), QUrl(QStringLiteral("qrc:/smilparser/quick/View.qml")));
+    const QVariantMap properties{
+        {QStringLiteral("slideshow"), QVariant::fromValue(this)   },
+        {QStringLiteral("stage"),     QVariant::fromValue(m_stage)}
+    };
+    auto *const item = qobject_cast<QQuickItem *>(view.createWithInitialProperties(properties, qmlContext(this)));
+    if (item) {
+        item->setParent(this);
+        item->setParentItem(this);
+    } else {
+        qWarning("%s", qPrintable(view.errorString()));
+    }
+}
+
+void Slideshow::setSmil(const QVariant &smil)
+{
+    const bool isScript = smil.userType() == qMetaTypeId<QJSValue>();
+    const QVariant value = isScript ? smil.value<QJSValue>().toVariant() : smil;
+    if (value != m_smil) {
+        m_smil = value;
+        open();
+        Q_EMIT smilChanged();
+    }
+}
+
+void Slideshow::setParts(const QVariantList &parts)
+{
+    if (parts != m_given) {
+        m_given = parts;
+        open();
+        Q_EMIT partsChanged();
+    }
+}
+
+void Slideshow::open()
+{
+    if (!isComponentComplete()) {
+        return;
+    }
+    m_parts.clear();
+    for (const QVariant &part : qAsConst(m_given)) {
+        m_parts.append(Part(part.toMap()));
+    }
+    bool decoded = m_smil.userType() == QMetaType::QString;
+    m_bytes = decoded ? m_smil.toString().toUtf8() : m_smil.toByteArray();
+    const auto isSmil = [](const Part &part) { return part.headers.isSmil(); };
+    const auto smil = std::find_if(m_parts.begin(), m_parts.end(), isSmil);
+    if (m_bytes.isEmpty() && smil != m_parts.end()) {
+        decoded = smil->hasText();
+        m_bytes = smil->content(mostBytes);
+    }
+    m_bytes = m_bytes.left(mostBytes); // more is a broken message
+    m_options = SmilParser::ClockDurations | SmilParser::KeepRootSize;
+    m_options.setFlag(SmilParser::DecodedText, decoded);
+    m_lengths = QVector<double>(m_parts.size());
+    change([this] {
+        m_slide = -1;
+        layTimes();
+        m_stage->setMessage(m_show);
+        showSlide(0, 0);
+    });
+    Q_EMIT slidesChanged();
+}
+
+void Slideshow::setLength(int part, double seconds)
+{
+    if (m_lengths.value(part, seconds) == seconds) {
+        return;
+    }
+    m_lengths[part] = seconds;
+    change([this] {
+        const double played = m_position - m_begin;
+        layTimes();
+        const int slide = qMin(m_slide, count() - 1);
+        showSlide(slide, m_show.slide(slide).begin + played);
+    });
+    Q_EMIT slidesChanged();
+}
+
+void Slideshow::layTimes()
+{
+    QList<SmilPart> headers;
+    for (const Part &part : qAsConst(m_parts)) {
+        headers.append(part.headers);
+    }
+    m_show = SmilSlideshow(m_bytes, headers, m_options, 5, [this](int part) { return m_lengths.at(part); });
+    m_slides.clear();
+}
+
+/** With each medium as what its part is, whatever the SMIL calls it. */
+SmilSlide Slideshow::slideAt(int index) const
+{
+    SmilSlide slide = m_show.slide(index);
+    for (int i = 0; i < int(slide.cues.size()); ++i) {
+        if (slide.parts.at(i) >= 0) {
+            slide.cues[i].ref.type = m_parts.at(slide.parts.at(i)).headers.kind();
+        }
+    }
+    return slide;
+}
+
+void Slideshow::showSlide(int index, double position)
+{
+    const SmilSlide slide = slideAt(index);
+    m_slide = qMin(index, count() - 1);
+    m_begin = slide.begin;
+    m_end = slide.end;
+    m_stage->setSlide(slide, m_parts);
+    movePosition(position);
+}
+
+void Slideshow::goTo(int index, double position)
+{
+    index == m_slide ? movePosition(position) : showSlide(index, position);
+}
+
+void Slideshow::movePosition(double seconds)
+{
+    m_position = qBound(0.0, seconds, duration());
+    m_stage->setPosition(m_position);
+    m_clock.start();
+    m_playing &&count() > 0 ? m_timer.start() : m_timer.stop();
+}
+
+/** The slide that is shown then, from @p first on; of those that take no time, the last one. */
+int Slideshow::slideAtTime(double seconds, int first) const
+{
+    int last = count() - 1;
+    while (first < last) {
+        const int middle = last - (last - first) / 2;
+        m_show.slide(middle).begin <= seconds ? first = middle : last = middle - 1;
+    }
+    return first;
+}
+
+void Slideshow::tick()
+{
+    change([this] {
+        const double position = m_position + m_clock.restart() / 1000.0;
+        goTo(position < m_end || m_slide == count() - 1 ? m_slide : slideAtTime(position, m_slide + 1), position);
+        if (isAtEnd()) {
+            m_playing = false;
+            m_timer.stop();
+        }
+    });
+}
+
+void Slideshow::setPosition(double seconds)
+{
+    if (qIsNaN(seconds) || count() == 0) {
+        return;
+    }
+    change([&] { goTo(slideAtTime(seconds, 0), seconds); });
+    Q_EMIT m_stage->sought();
+}
+
+void Slideshow::setSlide(int slide)
+{
+    if (slide < 0 || slide >= count()) {
+        return;
+    }
+    change([&] { goTo(slide, m_show.slide(slide).begin); });
+    Q_EMIT m_stage->sought();
+}
+
+void Slideshow::setPlaying(bool playing)
+{
+    if (playing && isAtEnd()) {
+        setSlide(0);
+    }
+    change([&] {
+        m_playing = playing;
+        movePosition(m_position);
+    });
+}
+
+void Slideshow::next()
+{
+    setSlide(m_slide + 1);
+}
+
+void Slideshow::previous()
+{
+    setSlide(qMax(0, m_slide - 1));
+}
+
+QString Slideshow::error() const
+{
+    const QString error = m_show.error();
+    const QString place = QStringLiteral("%1:%2: ").arg(m_show.errorLine()).arg(m_show.errorColumn());
+    return error.isNull() ? error : place + error;
+}
+
+QVariantList Slideshow::slides() const
+{
+    if (m_slides.isEmpty()) {
+        for (int i = 0; i < qMin(100, count()); ++i) {
+            const SmilSlide slide = slideAt(i);
+            QVariantList media;
+            for (int j = 0; j < qMin(32, int(slide.cues.size())); ++j) {
+                media.append(summary(slide.cues.at(j), slide.parts.at(j), m_parts.value(slide.parts.at(j))));
+            }
+            m_slides.append(QVariant(media));
+        }
+    }
+    return m_slides;
+}
+
+void Slideshow::change(const std::function<void()> &how)
+{
+    const auto state = [this] {
+        return std::make_tuple(count(), m_slide, m_position, duration(), m_playing, isAtEnd(), title(), error());
+    };
+    const auto before = state();
+    how();
+    const auto after = state();
+    const auto tell = [&](auto index, void (Slideshow::*signal)()) {
+        if (std::get<index>(before) != std::get<index>(after)) {
+            Q_EMIT(this->*signal)();
+        }
+    };
+    tell(std::integral_constant<int, 0>(), &Slideshow::countChanged);
+    tell(std::integral_constant<int, 1>(), &Slideshow::slideChanged);
+    tell(std::integral_constant<int, 2>(), &Slideshow::positionChanged);
+    tell(std::integral_constant<int, 3>(), &Slideshow::durationChanged);
+    tell(std::integral_constant<int, 4>(), &Slideshow::playingChanged);
+    tell(std::integral_constant<int, 5>(), &Slideshow::atEndChanged);
+    tell(std::integral_constant<int, 6>(), &Slideshow::titleChanged);
+    tell(std::integral_constant<int, 7>(), &Slideshow::errorChanged);
+}
