@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
-
 import QtQuick 2.15
 
 Rectangle {
@@ -26,8 +25,7 @@ Rectangle {
 
         Button {
             label: bar.slideshow.playing ? qsTr("Pause") : qsTr("Play")
-            shape: bar.slideshow.playing ? [[[0.1, 0], [0.4, 0], [0.4, 1], [0.1, 1]], [[0.6, 0], [0.9, 0], [0.9, 1], [0.6, 1]]]
-                                         : [[[0.1, 0], [1, 0.5], [0.1, 1]]]
+            shape: bar.slideshow.playing ? [[[0.1, 0], [0.4, 0], [0.4, 1], [0.1, 1]], [[0.6, 0], [0.9, 0], [0.9, 1], [0.6, 1]]] : [[[0.1, 0], [1, 0.5], [0.1, 1]]]
             enabled: bar.slideshow.count > 0
             onPressed: bar.slideshow.playing = !bar.slideshow.playing
         }
@@ -46,8 +44,7 @@ Rectangle {
         anchors.margins: 8
         height: parent.height
         verticalAlignment: Text.AlignVCenter
-        text: [bar.progress, bar.more].concat(bar.stage.heard.map(sound => qsTr("Sound: %1").arg(sound.name)))
-              .filter(words => words !== "").join("   ")
+        text: [bar.progress, bar.more].concat(bar.stage.heard.map(sound => qsTr("Sound: %1").arg(sound.name))).filter(words => words !== "").join("   ")
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         elide: Text.ElideRight

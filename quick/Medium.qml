@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
-
 import QtQuick 2.15
 
 // What is seen of a medium: the picture or film in its place, or else a text.
@@ -27,8 +26,7 @@ Rectangle {
             return missing ? qsTr("Missing file: %1") : qsTr("File: %1");
         }
     }
-    readonly property string words: medium.text || (medium.part < 0 && medium.kind === "image" && medium.alt)
-                                    || line.arg(medium.name)
+    readonly property string words: medium.text || (medium.part < 0 && medium.kind === "image" && medium.alt) || line.arg(medium.name)
 
     x: medium.area.x
     y: medium.area.y
@@ -42,9 +40,7 @@ Rectangle {
         id: picture
 
         readonly property int status: item ? item.status : Image.Null
-        readonly property rect fitted: item ? place.medium.fitted(Qt.size(item.implicitWidth * place.stage.zoom,
-                                                                          item.implicitHeight * place.stage.zoom),
-                                                                  Qt.size(place.width, place.height)) : Qt.rect(0, 0, 0, 0)
+        readonly property rect fitted: item ? place.medium.fitted(Qt.size(item.implicitWidth * place.stage.zoom, item.implicitHeight * place.stage.zoom), Qt.size(place.width, place.height)) : Qt.rect(0, 0, 0, 0)
 
         x: fitted.x
         y: fitted.y

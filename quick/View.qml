@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
-
 import QtQuick 2.15
 
 Item {

@@ -105,10 +105,13 @@ void Stage::setPosition(double seconds)
         Medium *const medium = m_media.at(i);
         const bool active = seconds >= cue.begin && seconds < cue.end;
         const bool visible = active || (seconds >= cue.begin && cue.end >= last);
-        if (active != medium->active || visible != medium->visible) {
-            medium->active = active;
+        if (visible != medium->visible) {
             medium->visible = visible;
             Q_EMIT medium->changed();
+        }
+        if (active != medium->active) {
+            medium->active = active;
+            Q_EMIT medium->activeChanged();
         }
     }
 }

@@ -1,30 +1,30 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
-
 import QtQuick
 import QtMultimedia
 
 VideoOutput {
     id: output
 
-    required property var medium
-    required property var slideshow
-    required property var stage
+    required property url file
+    required property bool isFilm
     readonly property bool failed: player.error !== MediaPlayer.NoError
+    readonly property real played: player.position
+    readonly property real length: player.duration
 
-    // Plays what the slideshow has come to; with sought, its position was set.
-    function follow(sought) {
-        const played = 1000 * (slideshow.position - medium.begin);
-        if (!medium.active || player.duration > 0 && played >= player.duration) {
-            player.stop();
-            return;
-        }
-        if (sought || Math.abs(played - player.position) > 500)
-            player.position = played;
-        if (slideshow.playing)
-            player.play();
-        else
-            player.pause();
+    signal loaded
+
+    function seek(milliseconds) {
+        player.position = milliseconds;
+    }
+    function play() {
+        player.play();
+    }
+    function pause() {
+        player.pause();
+    }
+    function stop() {
+        player.stop();
     }
 
     anchors.fill: parent
@@ -32,37 +32,13 @@ VideoOutput {
     MediaPlayer {
         id: player
 
-        source: output.medium.source
-        videoOutput: output.medium.kind === "video" ? output : null
-        audioOutput: AudioOutput {}
-        onDurationChanged: {
-            if (duration > 0)
-                output.stage.lengthKnown(output.medium.part, duration / 1000);
+        source: output.file
+        videoOutput: output.isFilm ? output : null
+        audioOutput: AudioOutput {
         }
         onMediaStatusChanged: {
             if (mediaStatus === MediaPlayer.LoadedMedia)
-                output.follow(true);
-        }
-    }
-
-    Connections {
-        target: output.medium
-        function onChanged() {
-            output.follow(false);
-        }
-    }
-
-    Connections {
-        target: output.slideshow
-        function onPlayingChanged() {
-            output.follow(false);
-        }
-    }
-
-    Connections {
-        target: output.stage
-        function onSought() {
-            output.follow(true);
+                output.loaded();
         }
     }
 }
