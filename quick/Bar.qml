@@ -5,10 +5,18 @@ import QtQuick 2.15
 Rectangle {
     id: bar
 
-    required property var slideshow
     required property var stage
-    readonly property string progress: slideshow.count > 0 ? qsTr("%1 / %2").arg(slideshow.slide + 1).arg(slideshow.count) : ""
-    readonly property string more: stage.more > 0 ? qsTr("%n more", "", stage.more) : ""
+    readonly property var slideshow: stage.slideshow
+    readonly property string words: {
+        const all = [];
+        if (slideshow.count > 0)
+            all.push(qsTr("%1 / %2").arg(slideshow.slide + 1).arg(slideshow.count));
+        if (stage.more > 0)
+            all.push(qsTr("%n more", "", stage.more));
+        for (const sound of stage.heard)
+            all.push((sound.part < 0 ? qsTr("Missing sound: %1") : qsTr("Sound: %1")).arg(sound.name));
+        return all.join("   ");
+    }
 
     height: 48
     color: "#303030"
@@ -44,7 +52,7 @@ Rectangle {
         anchors.margins: 8
         height: parent.height
         verticalAlignment: Text.AlignVCenter
-        text: [bar.progress, bar.more].concat(bar.stage.heard.map(sound => qsTr("Sound: %1").arg(sound.name))).filter(words => words !== "").join("   ")
+        text: bar.words
         textFormat: Text.PlainText
         wrapMode: Text.Wrap
         elide: Text.ElideRight

@@ -6,11 +6,9 @@ import QtQuick 2.15
 Rectangle {
     id: place
 
-    required property var medium
-    required property var slideshow
     required property var stage
+    required property var medium
     required property real letter
-
     readonly property bool isPicture: medium.kind === "image" && medium.source.toString() !== ""
     readonly property bool isShown: medium.kind === "video" ? film.isShown : isPicture && picture.status !== Image.Error
     readonly property string line: {
@@ -26,7 +24,8 @@ Rectangle {
             return missing ? qsTr("Missing file: %1") : qsTr("File: %1");
         }
     }
-    readonly property string words: medium.text || (medium.part < 0 && medium.kind === "image" && medium.alt) || line.arg(medium.name)
+    readonly property string named: line.arg(medium.name)
+    readonly property string words: medium.text || (medium.part < 0 && medium.kind === "image" && medium.alt) || named
 
     x: medium.area.x
     y: medium.area.y
@@ -40,7 +39,8 @@ Rectangle {
         id: picture
 
         readonly property int status: item ? item.status : Image.Null
-        readonly property rect fitted: item ? place.medium.fitted(Qt.size(item.implicitWidth * place.stage.zoom, item.implicitHeight * place.stage.zoom), Qt.size(place.width, place.height)) : Qt.rect(0, 0, 0, 0)
+        readonly property size size: item ? Qt.size(item.implicitWidth * place.stage.zoom, item.implicitHeight * place.stage.zoom) : Qt.size(0, 0)
+        readonly property rect fitted: place.medium.fitted(size, Qt.size(place.width, place.height))
 
         x: fitted.x
         y: fitted.y
@@ -49,7 +49,7 @@ Rectangle {
         active: place.isPicture
         sourceComponent: place.medium.moves ? moving : still
         Accessible.role: Accessible.Graphic
-        Accessible.name: place.medium.alt || place.line.arg(place.medium.name)
+        Accessible.name: place.medium.alt || place.named
         Accessible.ignored: !place.isShown
     }
 
@@ -78,7 +78,6 @@ Rectangle {
         id: film
 
         medium: place.medium
-        slideshow: place.slideshow
         stage: place.stage
         anchors.fill: parent
     }

@@ -2,67 +2,53 @@
 // SPDX-License-Identifier: MIT
 import QtQuick 2.15
 
-// A sound or film that plays with the slideshow, where it may be played and QtMultimedia is installed.
+// A sound or film that plays with the slideshow, where QtMultimedia is installed.
 Item {
     id: playback
 
-    required property var medium
-    required property var slideshow
     required property var stage
+    required property var medium
+    readonly property bool runs: medium.active && stage.slideshow.playing
     property var player: null
     readonly property bool isShown: player !== null && !player.failed
 
-    // Goes to where the slideshow is, if the player is elsewhere; with seeking, in any case.
-    function follow(seeking) {
-        const time = 1000 * (slideshow.position - medium.begin);
-        if (!medium.active || player.length > 0 && time >= player.length)
-            return player.stop();
-        if (seeking || Math.abs(time - player.played) > 500)
+    // Plays or pauses as the slideshow does, and from where that is; "sought" says that it has jumped there.
+    function follow(sought) {
+        const time = 1000 * (stage.slideshow.position - medium.begin);
+        const hasEnded = player.media.duration > 0 && time >= player.media.duration;
+        if (medium.active && !hasEnded && (sought || Math.abs(time - player.media.position) > 500))
             player.seek(time);
-        if (slideshow.playing)
-            player.play();
+        if (runs && !hasEnded)
+            player.media.play();
         else
-            player.pause();
+            player.media.pause();
+    }
+
+    function tellLength() {
+        if (player.media.duration > 0)
+            stage.lengthKnown(medium.part, player.media.duration / 1000);
     }
 
     Component.onCompleted: {
         if (medium.source.toString() === "" || medium.kind !== "audio" && medium.kind !== "video")
             return;
         const component = Qt.createComponent("Player.qml");
-        if (component.status === Component.Ready)
-            player = component.createObject(playback, {
-                    "file": medium.source,
-                    "isFilm": medium.kind === "video"
-                });
-    }
-
-    Connections {
-        target: playback.player
-        function onLoaded() {
-            playback.follow(true);
-        }
-        function onLengthChanged() {
-            if (playback.player.length > 0)
-                playback.stage.lengthKnown(playback.medium.part, playback.player.length / 1000);
-        }
-    }
-
-    Connections {
-        target: playback.player ? playback.medium : null
-        function onActiveChanged() {
-            playback.follow(false);
-        }
-    }
-
-    Connections {
-        target: playback.player ? playback.slideshow : null
-        function onPlayingChanged() {
-            playback.follow(false);
-        }
+        if (component.status !== Component.Ready)
+            return;
+        player = component.createObject(playback, {
+                "file": medium.source,
+                "isFilm": medium.kind === "video"
+            });
+        player.loadedChanged.connect(() => follow(true));
+        player.media.durationChanged.connect(tellLength);
+        runsChanged.connect(() => follow(false));
+        tellLength();
+        follow(true);
     }
 
     Connections {
         target: playback.player ? playback.stage : null
+
         function onSought() {
             playback.follow(true);
         }

@@ -5,8 +5,8 @@ import QtQuick 2.15
 Item {
     id: view
 
-    required property var slideshow
     required property var stage
+    readonly property var slideshow: stage.slideshow
     readonly property real letter: Math.max(8, Math.min(width, height) / 18)
 
     anchors.fill: parent
@@ -32,7 +32,6 @@ Item {
                 required property var modelData
 
                 medium: modelData
-                slideshow: view.slideshow
                 stage: view.stage
                 letter: view.letter
             }
@@ -45,7 +44,6 @@ Item {
                 required property var modelData
 
                 medium: modelData
-                slideshow: view.slideshow
                 stage: view.stage
             }
         }
@@ -67,7 +65,6 @@ Item {
     Bar {
         id: bar
 
-        slideshow: view.slideshow
         stage: view.stage
         visible: view.slideshow.controls
         y: view.height - (visible ? height : 0)

@@ -31,7 +31,7 @@ class Medium : public QObject
 public:
     Medium(const SmilCue &cue, int index, const Part &of, const QColor &background, QObject *parent);
 
-    Q_INVOKABLE QRectF fitted(const QSizeF &picture, const QSizeF &room) const; ///< where the picture is in it
+    Q_INVOKABLE QRectF fitted(const QSizeF &picture, const QSizeF &room) const; ///< where the picture is in that room
 
     const SmilCue cue;
     const int part;

@@ -19,15 +19,14 @@ static const int mostBytes = 1024 * 1024; // of a SMIL; it comes from a stranger
 /** A medium as a chat shows it in a list. */
 static QVariantMap summary(const SmilCue &cue, int index, const Part &part)
 {
-    const QString text = cue.ref.type == SmilRef::Text ? shortened(part.text(), 1024) : QString();
-    return QVariantMap{
-        {QStringLiteral("kind"), kindName(cue.ref.type)},
-        {QStringLiteral("part"), index                 },
-        {QStringLiteral("name"), nameOf(cue,             part)},
-        {QStringLiteral("alt"),                      shortened(cue.alt,                        1024)},
-        {QStringLiteral("text"),                 text               },
-        {QStringLiteral("source"),  part.source(cue.ref.type)        }
-    };
+    QVariantMap map;
+    map[QStringLiteral("kind")] = kindName(cue.ref.type);
+    map[QStringLiteral("part")] = index;
+    map[QStringLiteral("name")] = nameOf(cue, part);
+    map[QStringLiteral("alt")] = shortened(cue.alt, 1024);
+    map[QStringLiteral("text")] = cue.ref.type == SmilRef::Text ? shortened(part.text(), 1024) : QString();
+    map[QStringLiteral("source")] = part.source(cue.ref.type);
+    return map;
 }
 
 Slideshow::Slideshow(QQuickItem *parent)
@@ -47,16 +46,11 @@ void Slideshow::componentComplete()
     QQuickItem::componentComplete();
     open();
     QQmlComponent view(qmlEngine(this), QUrl(QStringLiteral("qrc:/smilparser/quick/View.qml")));
-    const QVariantMap properties{
-        {QStringLiteral("slideshow"), QVariant::fromValue(this)   },
-        {QStringLiteral("stage"),     QVariant::fromValue(m_stage)}
-    };
+    const QVariantMap properties{std::make_pair(QStringLiteral("stage"), QVariant::fromValue(m_stage))};
     auto *const item = qobject_cast<QQuickItem *>(view.createWithInitialProperties(properties, qmlContext(this)));
     if (item) {
         item->setParent(this);
         item->setParentItem(this);
-    } else {
-        qWarning("%s", qPrintable(view.errorString()));
     }
 }
 

@@ -7,8 +7,8 @@
 
 #include <algorithm>
 
-Stage::Stage(QObject *parent)
-    : QObject(parent)
+Stage::Stage(QObject *slideshow)
+    : QObject(slideshow)
 {
 }
 

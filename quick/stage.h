@@ -10,6 +10,7 @@
 class Stage : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QObject *slideshow READ parent CONSTANT)
     Q_PROPERTY(QList<QObject *> seen MEMBER m_seen NOTIFY seenChanged) ///< of class Medium
     Q_PROPERTY(QList<QObject *> heard MEMBER m_heard NOTIFY heardChanged)
     Q_PROPERTY(int more MEMBER m_more NOTIFY placed) ///< how many media the slide has beyond these
@@ -18,7 +19,7 @@ class Stage : public QObject
     Q_PROPERTY(double zoom MEMBER m_zoom NOTIFY placed) ///< how large a pixel of the message is
 
 public:
-    explicit Stage(QObject *parent);
+    explicit Stage(QObject *slideshow);
 
     void setMessage(const SmilSlideshow &show); ///< forgets what it showed
     void setSlide(const SmilSlide &slide, const QList<Part> &parts); ///< keeps of the media those that it shows, too

@@ -8,35 +8,16 @@ VideoOutput {
 
     required property url file
     required property bool isFilm
-    readonly property bool failed: player.error !== MediaPlayer.NoError
-    readonly property real played: player.position
-    readonly property real length: player.duration
-
-    signal loaded
+    readonly property bool loaded: media.status === MediaPlayer.Loaded
+    readonly property bool failed: media.error !== MediaPlayer.NoError
+    readonly property MediaPlayer media: MediaPlayer {
+        source: output.file
+    }
 
     function seek(milliseconds) {
-        player.seek(milliseconds);
-    }
-    function play() {
-        player.play();
-    }
-    function pause() {
-        player.pause();
-    }
-    function stop() {
-        player.stop();
+        media.seek(milliseconds);
     }
 
+    source: isFilm ? media : null
     anchors.fill: parent
-    source: isFilm ? player : null
-
-    MediaPlayer {
-        id: player
-
-        source: output.file
-        onStatusChanged: {
-            if (status === MediaPlayer.Loaded)
-                output.loaded();
-        }
-    }
 }

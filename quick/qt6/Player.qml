@@ -8,37 +8,18 @@ VideoOutput {
 
     required property url file
     required property bool isFilm
-    readonly property bool failed: player.error !== MediaPlayer.NoError
-    readonly property real played: player.position
-    readonly property real length: player.duration
-
-    signal loaded
-
-    function seek(milliseconds) {
-        player.position = milliseconds;
-    }
-    function play() {
-        player.play();
-    }
-    function pause() {
-        player.pause();
-    }
-    function stop() {
-        player.stop();
-    }
-
-    anchors.fill: parent
-
-    MediaPlayer {
-        id: player
-
+    readonly property bool loaded: media.mediaStatus === MediaPlayer.LoadedMedia
+    readonly property bool failed: media.error !== MediaPlayer.NoError
+    readonly property MediaPlayer media: MediaPlayer {
         source: output.file
         videoOutput: output.isFilm ? output : null
         audioOutput: AudioOutput {
         }
-        onMediaStatusChanged: {
-            if (mediaStatus === MediaPlayer.LoadedMedia)
-                output.loaded();
-        }
     }
+
+    function seek(milliseconds) {
+        media.position = milliseconds;
+    }
+
+    anchors.fill: parent
 }
