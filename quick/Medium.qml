@@ -11,20 +11,13 @@ Rectangle {
     required property real letter
     readonly property bool isPicture: medium.kind === "image" && medium.source.toString() !== ""
     readonly property bool isShown: medium.kind === "video" ? film.isShown : isPicture && picture.status !== Image.Error
-    readonly property string line: {
-        const missing = medium.part < 0;
-        switch (medium.kind) {
-        case "text":
-            return missing ? qsTr("Missing text: %1") : qsTr("Text: %1");
-        case "image":
-            return missing ? qsTr("Missing picture: %1") : qsTr("Picture: %1");
-        case "video":
-            return missing ? qsTr("Missing film: %1") : qsTr("Film: %1");
-        default:
-            return missing ? qsTr("Missing file: %1") : qsTr("File: %1");
-        }
-    }
-    readonly property string named: line.arg(medium.name)
+    readonly property var lines: ({
+            "text": [qsTr("Text: %1"), qsTr("Missing text: %1")],
+            "image": [qsTr("Picture: %1"), qsTr("Missing picture: %1")],
+            "video": [qsTr("Film: %1"), qsTr("Missing film: %1")],
+            "file": [qsTr("File: %1"), qsTr("Missing file: %1")]
+        })
+    readonly property string named: lines[medium.kind][medium.part < 0 ? 1 : 0].arg(medium.name)
     readonly property string words: medium.text || (medium.part < 0 && medium.kind === "image" && medium.alt) || named
 
     x: medium.area.x

@@ -16,7 +16,7 @@ Medium::Medium(const SmilCue &shown, int index, const Part &of, const QColor &ba
     , cue(shown)
     , part(index)
     , kind(kindName(shown.ref.type))
-    , name(nameOf(shown, of))
+    , name(of.name(shown.ref.src))
     , alt(shortened(shown.alt, 1024))
     , source(of.source(shown.ref.type))
     , moves(of.moves())
@@ -26,11 +26,8 @@ Medium::Medium(const SmilCue &shown, int index, const Part &of, const QColor &ba
     , paper(filled ? opaque(shown.background) : background)
     , begin(0)
 {
-    QColor stated = opaque(cue.params.value(QStringLiteral("foreground-color")));
-    if (!stated.isValid()) {
-        stated = opaque(cue.params.value(QStringLiteral("color")));
-    }
-    ink = legible(stated, paper);
+    const QString colour = cue.params.value(QStringLiteral("color"));
+    ink = legible(opaque(cue.params.value(QStringLiteral("foreground-color"), colour)), paper);
 }
 
 QRectF Medium::fitted(const QSizeF &picture, const QSizeF &room) const
@@ -42,9 +39,4 @@ QColor opaque(const QString &text)
 {
     const bool known = text.startsWith(QLatin1Char('#')) || QColor::colorNames().contains(text, Qt::CaseInsensitive);
     return known && QColor(text).alpha() == 255 ? QColor(text) : QColor();
-}
-
-QString nameOf(const SmilCue &cue, const Part &part)
-{
-    return part.name().isEmpty() ? shortened(cue.ref.src, 100).simplified() : part.name();
 }

@@ -25,7 +25,7 @@ class Medium : public QObject
     Q_PROPERTY(QString text MEMBER text NOTIFY changed)
     Q_PROPERTY(QRectF area MEMBER area NOTIFY changed)
     Q_PROPERTY(double begin MEMBER begin NOTIFY changed) ///< in seconds
-    Q_PROPERTY(bool active MEMBER active NOTIFY activeChanged) ///< whether it is its time
+    Q_PROPERTY(bool active MEMBER active NOTIFY changed) ///< whether it is its time
     Q_PROPERTY(bool visible MEMBER visible NOTIFY changed) ///< the same, or it stands until the next slide
 
 public:
@@ -45,12 +45,9 @@ public:
 
 Q_SIGNALS:
     void changed();
-    void activeChanged();
 };
 
 /** The colour that @p text says; invalid for what is none, or lets through what is beneath. */
 QColor opaque(const QString &text);
-
-QString nameOf(const SmilCue &cue, const Part &part); ///< the part's, or by what the SMIL refers to it
 
 #endif

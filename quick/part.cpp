@@ -47,25 +47,23 @@ QString Part::file() const
     return QFileInfo(path).isFile() ? path : QString();
 }
 
-QString Part::name() const
+QString Part::name(const QString &otherwise) const
 {
     for (const QString &name : {headers.name, headers.location, headers.contentId}) {
         if (!name.isEmpty()) {
             return shortened(name, 100).simplified();
         }
     }
-    return QString();
+    return shortened(otherwise, 100).simplified();
 }
 
 QByteArray Part::content(int limit) const
 {
     QFile opened(file());
+    if (hasText()) {
+        return m_text.toUtf8().left(limit);
+    }
     return !opened.fileName().isEmpty() && opened.open(QIODevice::ReadOnly) ? opened.read(limit) : QByteArray();
-}
-
-bool Part::hasText() const
-{
-    return !m_text.isEmpty();
 }
 
 QString Part::text() const
@@ -76,8 +74,7 @@ QString Part::text() const
     }
     QByteArray data = content(limit + 1);
     if (data.size() > limit) { // ends within a character, perhaps, and would be no UTF-8 then
-        const auto isInside = [](char byte) { return (byte & 0xc0) == 0x80; };
-        for (int i = 0; i < 3 && isInside(data.back()); ++i) {
+        for (int i = 0; i < 3 && (data.back() & 0xc0) == 0x80; ++i) {
             data.chop(1);
         }
         data.chop(1);
@@ -85,25 +82,19 @@ QString Part::text() const
     return headers.text(data);
 }
 
-/** One of a format that names no other files, as SVG may, and that takes at most @p limit bytes. */
-static bool isWithin(QImageReader &&reader, int limit)
+/** Whether it is of a format that names no other files, as SVG may, and takes at most @p limit bytes. */
+bool Part::isPicture(int limit) const
 {
     static const QByteArrayList formats{"bmp", "gif", "jpeg", "jpg", "png", "wbmp", "webp"};
-    const QSize size = formats.contains(reader.format()) ? reader.size() : QSize();
-    return !size.isEmpty() && size.width() <= limit / 4 / size.height();
-}
-
-bool Part::isPicture() const
-{
     const QString path = file();
-    return m_source.scheme() == QLatin1String("image")
-        || (!path.isEmpty() && isWithin(QImageReader(path), 128 * 1024 * 1024));
+    QImageReader reader(path);
+    const QSize size = !path.isEmpty() && formats.contains(reader.format()) ? reader.size() : QSize();
+    return !size.isEmpty() && size.width() <= limit / 4 / size.height();
 }
 
 bool Part::moves() const
 {
-    const QString path = file();
-    return !path.isEmpty() && QImageReader(path).format() == "gif" && isWithin(QImageReader(path), 4 * 1024 * 1024);
+    return isPicture(4 * 1024 * 1024) && QImageReader(file()).format() == "gif";
 }
 
 bool Part::isPlayable(bool asFilm) const
@@ -124,10 +115,10 @@ bool Part::isPlayable(bool asFilm) const
 
 QUrl Part::source(int as) const
 {
-    const bool opened = as == SmilRef::Img
-        ? isPicture()
-        : (as == SmilRef::Audio || as == SmilRef::Video) && isPlayable(as == SmilRef::Video);
-    return opened ? m_source : QUrl();
+    const bool isFilm = as == SmilRef::Video;
+    const bool mayBe = as == SmilRef::Img ? m_source.scheme() == QLatin1String("image") || isPicture(128 * 1024 * 1024)
+                                          : (isFilm || as == SmilRef::Audio) && isPlayable(isFilm);
+    return mayBe ? m_source : QUrl();
 }
 
 QString kindName(int kind)

@@ -18,9 +18,9 @@ public:
 
     SmilPart headers; ///< with the type that was found when none is stated
 
-    QString name() const; ///< what a reader knows it by: one line, shortened; may be empty
+    QString name(const QString &otherwise) const; ///< what a reader knows it by: one line, shortened
     QByteArray content(int limit) const; ///< its first @p limit bytes
-    bool hasText() const; ///< whether the host gives its text, which is then the whole content
+    bool hasText() const { return !m_text.isEmpty(); } ///< whether the host has decoded its content
     QString text() const; ///< as of a text part: its beginning when it is too long to be shown
 
     QUrl source(int as) const; ///< from what it is shown or played as that; empty when it must not be
@@ -28,7 +28,7 @@ public:
 
 private:
     QString file() const;
-    bool isPicture() const;
+    bool isPicture(int limit) const;
     bool isPlayable(bool asFilm) const;
 
     QUrl m_source;

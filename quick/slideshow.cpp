@@ -5,7 +5,6 @@
 
 #include "stage.h"
 
-#include <QtCore/QTimer>
 #include <QtQml/QJSValue>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
@@ -22,7 +21,7 @@ static QVariantMap summary(const SmilCue &cue, int index, const Part &part)
     QVariantMap map;
     map[QStringLiteral("kind")] = kindName(cue.ref.type);
     map[QStringLiteral("part")] = index;
-    map[QStringLiteral("name")] = nameOf(cue, part);
+    map[QStringLiteral("name")] = part.name(cue.ref.src);
     map[QStringLiteral("alt")] = shortened(cue.alt, 1024);
     map[QStringLiteral("text")] = cue.ref.type == SmilRef::Text ? shortened(part.text(), 1024) : QString();
     map[QStringLiteral("source")] = part.source(cue.ref.type);
@@ -92,14 +91,13 @@ void Slideshow::open()
         m_bytes = smil->content(mostBytes);
     }
     m_bytes = m_bytes.left(mostBytes); // more is a broken message
-    m_options = SmilParser::ClockDurations | SmilParser::KeepRootSize;
-    m_options.setFlag(SmilParser::DecodedText, decoded);
+    m_options = decoded ? SmilParser::DecodedText : SmilParser::AsWritten;
     m_lengths = QVector<double>(m_parts.size());
     change([this] {
         m_slide = -1;
         layTimes();
         m_stage->setMessage(m_show);
-        showSlide(0, 0);
+        goTo(0, 0);
     });
     Q_EMIT slidesChanged();
 }
@@ -113,8 +111,8 @@ void Slideshow::setLength(int part, double seconds)
     change([this] {
         const double played = m_position - m_begin;
         layTimes();
-        const int slide = qMin(m_slide, count() - 1);
-        showSlide(slide, m_show.slide(slide).begin + played);
+        const int slide = qMin(std::exchange(m_slide, -1), count() - 1);
+        goTo(slide, m_show.slide(slide).begin + played);
     });
     Q_EMIT slidesChanged();
 }
@@ -141,24 +139,16 @@ SmilSlide Slideshow::slideAt(int index) const
     return slide;
 }
 
-void Slideshow::showSlide(int index, double position)
-{
-    const SmilSlide slide = slideAt(index);
-    m_slide = qMin(index, count() - 1);
-    m_begin = slide.begin;
-    m_end = slide.end;
-    m_stage->setSlide(slide, m_parts);
-    movePosition(position);
-}
-
 void Slideshow::goTo(int index, double position)
 {
-    index == m_slide ? movePosition(position) : showSlide(index, position);
-}
-
-void Slideshow::movePosition(double seconds)
-{
-    m_position = qBound(0.0, seconds, duration());
+    if (index != m_slide && index < count()) {
+        const SmilSlide slide = slideAt(index);
+        m_slide = index;
+        m_begin = slide.begin;
+        m_end = slide.end;
+        m_stage->setSlide(slide, m_parts);
+    }
+    m_position = qBound(0.0, position, duration());
     m_stage->setPosition(m_position);
     m_clock.start();
     m_playing &&count() > 0 ? m_timer.start() : m_timer.stop();
@@ -212,18 +202,8 @@ void Slideshow::setPlaying(bool playing)
     }
     change([&] {
         m_playing = playing;
-        movePosition(m_position);
+        goTo(m_slide, m_position);
     });
-}
-
-void Slideshow::next()
-{
-    setSlide(m_slide + 1);
-}
-
-void Slideshow::previous()
-{
-    setSlide(qMax(0, m_slide - 1));
 }
 
 QString Slideshow::error() const

@@ -18,13 +18,13 @@ class Stage;
 class Slideshow : public QQuickItem
 {
     Q_OBJECT
-    Q_PROPERTY(QVariant smil READ smil WRITE setSmil NOTIFY smilChanged)
-    Q_PROPERTY(QVariantList parts READ parts WRITE setParts NOTIFY partsChanged)
+    Q_PROPERTY(QVariant smil MEMBER m_smil WRITE setSmil NOTIFY smilChanged)
+    Q_PROPERTY(QVariantList parts MEMBER m_given WRITE setParts NOTIFY partsChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
-    Q_PROPERTY(int slide READ slide WRITE setSlide NOTIFY slideChanged)
-    Q_PROPERTY(double position READ position WRITE setPosition NOTIFY positionChanged)
+    Q_PROPERTY(int slide MEMBER m_slide WRITE setSlide NOTIFY slideChanged)
+    Q_PROPERTY(double position MEMBER m_position WRITE setPosition NOTIFY positionChanged)
     Q_PROPERTY(double duration READ duration NOTIFY durationChanged)
-    Q_PROPERTY(bool playing READ isPlaying WRITE setPlaying NOTIFY playingChanged)
+    Q_PROPERTY(bool playing MEMBER m_playing WRITE setPlaying NOTIFY playingChanged)
     Q_PROPERTY(bool atEnd READ isAtEnd NOTIFY atEndChanged)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(QString error READ error NOTIFY errorChanged)
@@ -34,17 +34,12 @@ class Slideshow : public QQuickItem
 public:
     explicit Slideshow(QQuickItem *parent = nullptr);
 
-    QVariant smil() const { return m_smil; }
     void setSmil(const QVariant &smil);
-    QVariantList parts() const { return m_given; }
     void setParts(const QVariantList &parts);
     int count() const { return m_show.count(); }
-    int slide() const { return m_slide; }
     void setSlide(int slide);
-    double position() const { return m_position; }
     void setPosition(double seconds);
     double duration() const { return m_show.duration(); }
-    bool isPlaying() const { return m_playing; }
     void setPlaying(bool playing);
     bool isAtEnd() const { return count() > 0 && m_position >= duration(); }
     QString title() const { return m_show.title(); }
@@ -53,8 +48,8 @@ public:
 
     Q_INVOKABLE void play() { setPlaying(true); }
     Q_INVOKABLE void pause() { setPlaying(false); }
-    Q_INVOKABLE void next();
-    Q_INVOKABLE void previous();
+    Q_INVOKABLE void next() { setSlide(m_slide + 1); }
+    Q_INVOKABLE void previous() { setSlide(qMax(0, m_slide - 1)); }
 
 Q_SIGNALS:
     void smilChanged();
@@ -78,8 +73,6 @@ private:
     void layTimes();
     SmilSlide slideAt(int index) const;
     int slideAtTime(double seconds, int first) const;
-    void showSlide(int index, double position);
-    void movePosition(double seconds);
     void goTo(int index, double position);
     void tick();
     void change(const std::function<void()> &how); ///< does that, and emits signals for what it has changed

@@ -7,11 +7,6 @@
 
 #include <algorithm>
 
-Stage::Stage(QObject *slideshow)
-    : QObject(slideshow)
-{
-}
-
 void Stage::setMessage(const SmilSlideshow &show)
 {
     m_layout = show.layout();
@@ -32,18 +27,14 @@ static Medium *take(QList<Medium *> &pool, const SmilCue &cue, int part)
     return medium;
 }
 
-/** How long each of @p texts may be, so that all together are short enough for Qt to lay out at once. */
-static int longest(const QStringList &texts)
+/** How long each text may be, so that those of @p lengths are together short enough to be laid out at once. */
+static int longest(QList<int> lengths)
 {
-    std::vector<int> lengths;
-    for (const QString &text : texts) {
-        lengths.push_back(int(text.size()));
-    }
     std::sort(lengths.begin(), lengths.end());
     int left = 32 * 1024;
-    for (auto length = lengths.begin(); length != lengths.end(); left -= *length++) {
-        const int share = left / int(lengths.end() - length);
-        if (*length > share) {
+    for (int i = 0; i < int(lengths.size()); left -= lengths.at(i++)) {
+        const int share = left / int(lengths.size() - i);
+        if (lengths.at(i) > share) {
             return share;
         }
     }
@@ -65,6 +56,7 @@ void Stage::setSlide(const SmilSlide &slide, const QList<Part> &parts)
     m_media.clear();
     QList<QObject *> seen, heard;
     QStringList texts;
+    QList<int> lengths;
     for (int i = 0; i < int(m_cues.size()); ++i) {
         const SmilCue &cue = m_cues.at(i);
         const int part = slide.parts.at(i);
@@ -75,8 +67,9 @@ void Stage::setSlide(const SmilSlide &slide, const QList<Part> &parts)
         m_media.last()->begin = cue.begin;
         (cue.ref.type == SmilRef::Audio ? heard : seen).append(m_media.last());
         texts += cue.ref.type == SmilRef::Text ? parts.value(part).text() : QString();
+        lengths += int(texts.last().size());
     }
-    const int length = longest(texts);
+    const int length = longest(lengths);
     for (int i = 0; i < int(m_media.size()); ++i) {
         m_media.at(i)->text = breakable(shortened(texts.at(i), length));
     }
@@ -105,21 +98,12 @@ void Stage::setPosition(double seconds)
         Medium *const medium = m_media.at(i);
         const bool active = seconds >= cue.begin && seconds < cue.end;
         const bool visible = active || (seconds >= cue.begin && cue.end >= last);
-        if (visible != medium->visible) {
+        if (visible != medium->visible || active != medium->active) {
             medium->visible = visible;
+            medium->active = active;
             Q_EMIT medium->changed();
         }
-        if (active != medium->active) {
-            medium->active = active;
-            Q_EMIT medium->activeChanged();
-        }
     }
-}
-
-void Stage::setSize(const QSizeF &size)
-{
-    m_size = size;
-    place();
 }
 
 void Stage::place()

@@ -19,12 +19,12 @@ class Stage : public QObject
     Q_PROPERTY(double zoom MEMBER m_zoom NOTIFY placed) ///< how large a pixel of the message is
 
 public:
-    explicit Stage(QObject *slideshow);
+    using QObject::QObject; ///< of a slideshow
 
     void setMessage(const SmilSlideshow &show); ///< forgets what it showed
     void setSlide(const SmilSlide &slide, const QList<Part> &parts); ///< keeps of the media those that it shows, too
     void setPosition(double seconds);
-    void setSize(const QSizeF &size);
+    void setSize(const QSizeF &size) { m_size = size, place(); }
 
 Q_SIGNALS:
     void seenChanged();
