@@ -10,6 +10,8 @@ Rectangle {
     required property var medium
     required property real letter
     readonly property bool isPicture: medium.kind === "image" && medium.source.toString() !== ""
+    readonly property Image picture: medium.moves ? moving : still
+    readonly property rect fitted: medium.fitted(Qt.size(picture.implicitWidth * stage.zoom, picture.implicitHeight * stage.zoom), Qt.size(width, height))
     readonly property bool isShown: medium.kind === "video" ? film.isShown : isPicture && picture.status !== Image.Error
     readonly property var lines: ({
             "text": [qsTr("Text: %1"), qsTr("Missing text: %1")],
@@ -28,40 +30,30 @@ Rectangle {
     visible: medium.visible
     clip: true
 
-    Loader {
-        id: picture
-
-        readonly property int status: item ? item.status : Image.Null
-        readonly property size size: item ? Qt.size(item.implicitWidth * place.stage.zoom, item.implicitHeight * place.stage.zoom) : Qt.size(0, 0)
-        readonly property rect fitted: place.medium.fitted(size, Qt.size(place.width, place.height))
-
-        x: fitted.x
-        y: fitted.y
-        width: fitted.width
-        height: fitted.height
-        active: place.isPicture
-        sourceComponent: place.medium.moves ? moving : still
+    Item {
+        x: place.fitted.x
+        y: place.fitted.y
+        width: place.fitted.width
+        height: place.fitted.height
         Accessible.role: Accessible.Graphic
         Accessible.name: place.medium.alt || place.named
         Accessible.ignored: !place.isShown
-    }
-
-    Component {
-        id: still
 
         Image {
-            source: place.medium.source
+            id: still
+
+            anchors.fill: parent
+            source: place.isPicture && !place.medium.moves ? place.medium.source : ""
             sourceSize: Qt.size(1280, 1280) // a larger one is made that small when it is read
             asynchronous: true
             autoTransform: true
         }
-    }
-
-    Component {
-        id: moving
 
         AnimatedImage {
-            source: place.medium.source
+            id: moving
+
+            anchors.fill: parent
+            source: place.isPicture && place.medium.moves ? place.medium.source : ""
             cache: false
             playing: place.visible
         }

@@ -89,8 +89,8 @@ public:
     {
         QStringList all;
         for (const QQuickItem *picture : visible("autoTransform")) {
-            all += picture->property("status").toInt() == 1 ? picture->property("source").toUrl().fileName()
-                                                            : QStringLiteral("no picture");
+            const QString file = picture->property("source").toUrl().fileName();
+            all += picture->property("status").toInt() == 1 || file.isEmpty() ? file : QStringLiteral("no ") + file;
         }
         for (const QQuickItem *text : visible("textFormat")) {
             all += text->property("text").toString();
