@@ -11,7 +11,8 @@ Rectangle {
     required property real letter
     readonly property bool isPicture: medium.kind === "image" && medium.source.toString() !== ""
     readonly property Image picture: medium.moves ? moving : still
-    readonly property rect fitted: medium.fitted(Qt.size(picture.implicitWidth * stage.zoom, picture.implicitHeight * stage.zoom), Qt.size(width, height))
+    readonly property var own: Qt.size(picture.implicitWidth * stage.zoom, picture.implicitHeight * stage.zoom)
+    readonly property var fitted: medium.fitted(own, Qt.size(width, height))
     readonly property bool isShown: medium.kind === "video" ? film.isShown : isPicture && picture.status !== Image.Error
     readonly property var lines: ({
             "text": [qsTr("Text: %1"), qsTr("Missing text: %1")],

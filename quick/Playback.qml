@@ -9,14 +9,17 @@ Item {
     required property var stage
     required property var medium
     readonly property bool runs: medium.active && stage.slideshow.playing
+    readonly property int jumps: stage.jumps
     property var player: null
     readonly property bool isShown: player !== null && !player.failed
 
-    // Plays or pauses as the slideshow does, and from where that is; "sought" says that it has jumped there.
-    function follow(sought) {
+    // Plays or pauses as the slideshow does, and from where that is, at least nearly.
+    function follow(exactly) {
+        if (player === null)
+            return;
         const time = 1000 * (stage.slideshow.position - medium.begin);
         const hasEnded = player.media.duration > 0 && time >= player.media.duration;
-        if (medium.active && !hasEnded && (sought || Math.abs(time - player.media.position) > 500))
+        if (medium.active && !hasEnded && (exactly || Math.abs(time - player.media.position) > 500))
             player.seek(time);
         if (runs && !hasEnded)
             player.media.play();
@@ -29,6 +32,8 @@ Item {
             stage.lengthKnown(medium.part, player.media.duration / 1000);
     }
 
+    onRunsChanged: follow(false)
+    onJumpsChanged: follow(true)
     Component.onCompleted: {
         if (medium.source.toString() === "" || medium.kind !== "audio" && medium.kind !== "video")
             return;
@@ -41,16 +46,7 @@ Item {
             });
         player.loadedChanged.connect(() => follow(true));
         player.media.durationChanged.connect(tellLength);
-        runsChanged.connect(() => follow(false));
         tellLength();
         follow(true);
-    }
-
-    Connections {
-        target: playback.player ? playback.stage : null
-
-        function onSought() {
-            playback.follow(true);
-        }
     }
 }

@@ -18,7 +18,7 @@ Item {
     Rectangle {
         id: screen
 
-        readonly property size wanted: Qt.size(width, height)
+        readonly property var wanted: Qt.size(width, height)
 
         width: parent.width
         height: bar.y

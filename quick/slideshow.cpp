@@ -183,7 +183,7 @@ void Slideshow::setPosition(double seconds)
         return;
     }
     change([&] { goTo(slideAtTime(seconds, 0), seconds); });
-    Q_EMIT m_stage->sought();
+    m_stage->jump();
 }
 
 void Slideshow::setSlide(int slide)
@@ -192,7 +192,7 @@ void Slideshow::setSlide(int slide)
         return;
     }
     change([&] { goTo(slide, m_show.slide(slide).begin); });
-    Q_EMIT m_stage->sought();
+    m_stage->jump();
 }
 
 void Slideshow::setPlaying(bool playing)

@@ -16,6 +16,7 @@ class Stage : public QObject
     Q_PROPERTY(int more MEMBER m_more NOTIFY placed) ///< how many media the slide has beyond these
     Q_PROPERTY(QColor background MEMBER m_background NOTIFY placed)
     Q_PROPERTY(QSizeF size MEMBER m_size WRITE setSize NOTIFY placed)
+    Q_PROPERTY(int jumps MEMBER m_jumps NOTIFY jumped) ///< how often the position was set
     Q_PROPERTY(double zoom MEMBER m_zoom NOTIFY placed) ///< how large a pixel of the message is
 
 public:
@@ -24,13 +25,14 @@ public:
     void setMessage(const SmilSlideshow &show); ///< forgets what it showed
     void setSlide(const SmilSlide &slide, const QList<Part> &parts); ///< keeps of the media those that it shows, too
     void setPosition(double seconds);
+    void jump() { ++m_jumps, Q_EMIT jumped(); }
     void setSize(const QSizeF &size) { m_size = size, place(); }
 
 Q_SIGNALS:
     void seenChanged();
     void heardChanged();
     void placed();
-    void sought(); ///< the position was set
+    void jumped();
     void lengthKnown(int part, double seconds); ///< a player has read that
 
 private:
@@ -40,7 +42,7 @@ private:
     QList<SmilCue> m_cues; // of the slide, 32 at most
     QList<Medium *> m_media; // one for each
     QList<QObject *> m_seen, m_heard;
-    int m_more = 0;
+    int m_more = 0, m_jumps = 0;
     QColor m_background = Qt::white;
     QSizeF m_size;
     double m_zoom = 1;
