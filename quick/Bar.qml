@@ -14,7 +14,7 @@ Rectangle {
         if (stage.more > 0)
             all.push(qsTr("%n more", "", stage.more));
         for (const sound of stage.heard)
-            all.push((sound.part < 0 ? qsTr("Missing sound: %1") : qsTr("Sound: %1")).arg(sound.name));
+            all.push((sound.is.part < 0 ? qsTr("Missing sound: %1") : qsTr("Sound: %1")).arg(sound.is.name));
         return all.join("   ");
     }
 

@@ -9,25 +9,25 @@ Rectangle {
     required property var stage
     required property var medium
     required property real letter
-    readonly property bool isPicture: medium.kind === "image" && medium.source.toString() !== ""
-    readonly property Image picture: medium.moves ? moving : still
+    readonly property bool isPicture: medium.is.kind === "image" && medium.is.source.toString() !== ""
+    readonly property Image picture: medium.is.moves ? moving : still
     readonly property var own: Qt.size(picture.implicitWidth * stage.zoom, picture.implicitHeight * stage.zoom)
     readonly property var fitted: medium.fitted(own, Qt.size(width, height))
-    readonly property bool isShown: medium.kind === "video" ? film.isShown : isPicture && picture.status !== Image.Error
+    readonly property bool isShown: medium.is.kind === "video" ? film.isShown : isPicture && picture.status !== Image.Error
     readonly property var lines: ({
             "text": [qsTr("Text: %1"), qsTr("Missing text: %1")],
             "image": [qsTr("Picture: %1"), qsTr("Missing picture: %1")],
             "video": [qsTr("Film: %1"), qsTr("Missing film: %1")],
             "file": [qsTr("File: %1"), qsTr("Missing file: %1")]
         })
-    readonly property string named: lines[medium.kind][medium.part < 0 ? 1 : 0].arg(medium.name)
-    readonly property string words: medium.text || (medium.part < 0 && medium.kind === "image" && medium.alt) || named
+    readonly property string named: lines[medium.is.kind][medium.is.part < 0 ? 1 : 0].arg(medium.is.name)
+    readonly property string words: medium.text || (medium.is.part < 0 && medium.is.kind === "image" && medium.is.alt) || named
 
     x: medium.area.x
     y: medium.area.y
     width: medium.area.width
     height: medium.area.height
-    color: medium.filled ? medium.paper : "transparent"
+    color: medium.is.filled ? medium.is.paper : "transparent"
     visible: medium.visible
     clip: true
 
@@ -37,14 +37,14 @@ Rectangle {
         width: place.fitted.width
         height: place.fitted.height
         Accessible.role: Accessible.Graphic
-        Accessible.name: place.medium.alt || place.named
+        Accessible.name: place.medium.is.alt || place.named
         Accessible.ignored: !place.isShown
 
         Image {
             id: still
 
             anchors.fill: parent
-            source: place.isPicture && !place.medium.moves ? place.medium.source : ""
+            source: place.isPicture && !place.medium.is.moves ? place.medium.is.source : ""
             sourceSize: Qt.size(1280, 1280) // a larger one is made that small when it is read
             asynchronous: true
             autoTransform: true
@@ -54,7 +54,7 @@ Rectangle {
             id: moving
 
             anchors.fill: parent
-            source: place.isPicture && place.medium.moves ? place.medium.source : ""
+            source: place.isPicture && place.medium.is.moves ? place.medium.is.source : ""
             cache: false
             playing: place.visible
         }
@@ -76,7 +76,7 @@ Rectangle {
 
         Rectangle {
             anchors.fill: text
-            color: place.medium.paper
+            color: place.medium.is.paper
         }
 
         Text {
@@ -87,10 +87,10 @@ Rectangle {
             text: place.words
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
-            color: place.medium.ink
+            color: place.medium.is.ink
             font.pixelSize: place.letter
             Accessible.role: Accessible.StaticText
-            Accessible.name: place.medium.alt || place.words
+            Accessible.name: place.medium.is.alt || place.words
         }
     }
 }

@@ -29,20 +29,20 @@ Item {
 
     function tellLength() {
         if (player.media.duration > 0)
-            stage.lengthKnown(medium.part, player.media.duration / 1000);
+            stage.lengthKnown(medium.is.part, player.media.duration / 1000);
     }
 
     onRunsChanged: follow(false)
     onJumpsChanged: follow(true)
     Component.onCompleted: {
-        if (medium.source.toString() === "" || medium.kind !== "audio" && medium.kind !== "video")
+        if (medium.is.source.toString() === "" || medium.is.kind !== "audio" && medium.is.kind !== "video")
             return;
         const component = Qt.createComponent("Player.qml");
         if (component.status !== Component.Ready)
             return;
         player = component.createObject(playback, {
-                "file": medium.source,
-                "isFilm": medium.kind === "video"
+                "file": medium.is.source,
+                "isFilm": medium.is.kind === "video"
             });
         player.loadedChanged.connect(() => follow(true));
         player.media.durationChanged.connect(tellLength);

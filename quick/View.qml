@@ -52,12 +52,7 @@ Item {
             anchors.fill: parent
 
             TapHandler {
-                onTapped: function (point) {
-                    if (point.position.x < screen.width / 3)
-                        view.slideshow.previous();
-                    else
-                        view.slideshow.next();
-                }
+                onTapped: point => point.position.x < screen.width / 3 ? view.slideshow.previous() : view.slideshow.next()
             }
         }
     }

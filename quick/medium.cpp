@@ -15,19 +15,27 @@ Medium::Medium(const SmilCue &shown, int index, const Part &of, const QColor &ba
     : QObject(parent)
     , cue(shown)
     , part(index)
-    , kind(kindName(shown.ref.type))
-    , name(of.name(shown.ref.src))
-    , alt(shortened(shown.alt, 1024))
-    , source(of.source(shown.ref.type))
-    , moves(of.moves())
-    , filled(opaque(shown.background).isValid())
-    , active(false)
-    , visible(false)
-    , paper(filled ? opaque(shown.background) : background)
-    , begin(0)
+    , is(describe(cue, index, of))
 {
+    const QColor own = opaque(cue.background);
+    const QColor paper = own.isValid() ? own : background;
     const QString colour = cue.params.value(QStringLiteral("color"));
-    ink = legible(opaque(cue.params.value(QStringLiteral("foreground-color"), colour)), paper);
+    is[QStringLiteral("moves")] = of.moves();
+    is[QStringLiteral("filled")] = own.isValid(); // its whole area
+    is[QStringLiteral("paper")] = paper;
+    is[QStringLiteral("ink")] = legible(opaque(cue.params.value(QStringLiteral("foreground-color"), colour)), paper);
+}
+
+QVariantMap describe(const SmilCue &cue, int index, const Part &part)
+{
+    static const char *const kinds[] = {"text", "image", "audio", "video", "file"};
+    QVariantMap map;
+    map[QStringLiteral("kind")] = QLatin1String(kinds[cue.ref.type]);
+    map[QStringLiteral("part")] = index;
+    map[QStringLiteral("name")] = part.name(cue.ref.src);
+    map[QStringLiteral("alt")] = shortened(cue.alt, 1024);
+    map[QStringLiteral("source")] = part.source(cue.ref.type);
+    return map;
 }
 
 QRectF Medium::fitted(const QSizeF &picture, const QSizeF &room) const

@@ -13,15 +13,7 @@
 class Medium : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QString kind MEMBER kind CONSTANT)
-    Q_PROPERTY(QString name MEMBER name CONSTANT)
-    Q_PROPERTY(QString alt MEMBER alt CONSTANT)
-    Q_PROPERTY(int part MEMBER part CONSTANT) ///< -1 when it is missing
-    Q_PROPERTY(QUrl source MEMBER source CONSTANT) ///< of what is shown or played; empty when that must not be
-    Q_PROPERTY(bool moves MEMBER moves CONSTANT)
-    Q_PROPERTY(bool filled MEMBER filled CONSTANT) ///< whether its whole area has a colour
-    Q_PROPERTY(QColor paper MEMBER paper CONSTANT) ///< what is behind it
-    Q_PROPERTY(QColor ink MEMBER ink CONSTANT)
+    Q_PROPERTY(QVariantMap is MEMBER is CONSTANT) ///< describe(), and its colours
     Q_PROPERTY(QString text MEMBER text NOTIFY changed)
     Q_PROPERTY(QRectF area MEMBER area NOTIFY changed)
     Q_PROPERTY(double begin MEMBER begin NOTIFY changed) ///< in seconds
@@ -29,23 +21,24 @@ class Medium : public QObject
     Q_PROPERTY(bool visible MEMBER visible NOTIFY changed) ///< the same, or it stands until the next slide
 
 public:
-    Medium(const SmilCue &cue, int index, const Part &of, const QColor &background, QObject *parent);
+    Medium(const SmilCue &cue, int index, const Part &part, const QColor &background, QObject *parent);
 
     Q_INVOKABLE QRectF fitted(const QSizeF &picture, const QSizeF &room) const; ///< where the picture is in that room
 
     const SmilCue cue;
     const int part;
-    const QString kind;
-    QString name, alt, text;
-    QUrl source;
-    bool moves, filled, active, visible;
-    QColor paper, ink;
+    QVariantMap is;
+    QString text;
     QRectF area;
-    double begin;
+    double begin = 0;
+    bool active = false, visible = false;
 
 Q_SIGNALS:
     void changed();
 };
+
+/** What a medium is, that of part @p index: its "kind", "part", "name", "alt", and the "source" that may be opened. */
+QVariantMap describe(const SmilCue &cue, int index, const Part &part);
 
 /** The colour that @p text says; invalid for what is none, or lets through what is beneath. */
 QColor opaque(const QString &text);

@@ -121,12 +121,6 @@ QUrl Part::source(int as) const
     return mayBe ? m_source : QUrl();
 }
 
-QString kindName(int kind)
-{
-    static const char *const names[] = {"text", "image", "audio", "video", "file"};
-    return QLatin1String(names[kind]);
-}
-
 QString shortened(const QString &text, int length)
 {
     return text.size() > length ? text.left(text.at(length).isLowSurrogate() ? length - 1 : length) : text;

@@ -35,7 +35,6 @@ private:
     QString m_text;
 };
 
-QString kindName(int kind); ///< "text", "image", "audio", "video" or "file"
 QString shortened(const QString &text, int length); ///< cut between two characters
 
 #endif

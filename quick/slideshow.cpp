@@ -5,7 +5,6 @@
 
 #include "stage.h"
 
-#include <QtQml/QJSValue>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
@@ -14,19 +13,6 @@
 #include <tuple>
 
 static const int mostBytes = 1024 * 1024; // of a SMIL; it comes from a stranger
-
-/** A medium as a chat shows it in a list. */
-static QVariantMap summary(const SmilCue &cue, int index, const Part &part)
-{
-    QVariantMap map;
-    map[QStringLiteral("kind")] = kindName(cue.ref.type);
-    map[QStringLiteral("part")] = index;
-    map[QStringLiteral("name")] = part.name(cue.ref.src);
-    map[QStringLiteral("alt")] = shortened(cue.alt, 1024);
-    map[QStringLiteral("text")] = cue.ref.type == SmilRef::Text ? shortened(part.text(), 1024) : QString();
-    map[QStringLiteral("source")] = part.source(cue.ref.type);
-    return map;
-}
 
 Slideshow::Slideshow(QQuickItem *parent)
     : QQuickItem(parent)
@@ -55,10 +41,8 @@ void Slideshow::componentComplete()
 
 void Slideshow::setSmil(const QVariant &smil)
 {
-    const bool isScript = smil.userType() == qMetaTypeId<QJSValue>();
-    const QVariant value = isScript ? smil.value<QJSValue>().toVariant() : smil;
-    if (value != m_smil) {
-        m_smil = value;
+    if (smil != m_smil || smil.userType() != m_smil.userType()) {
+        m_smil = smil;
         open();
         Q_EMIT smilChanged();
     }
@@ -220,7 +204,12 @@ QVariantList Slideshow::slides() const
             const SmilSlide slide = slideAt(i);
             QVariantList media;
             for (int j = 0; j < qMin(32, int(slide.cues.size())); ++j) {
-                media.append(summary(slide.cues.at(j), slide.parts.at(j), m_parts.value(slide.parts.at(j))));
+                const SmilCue &cue = slide.cues.at(j);
+                const Part part = m_parts.value(slide.parts.at(j));
+                QVariantMap medium = describe(cue, slide.parts.at(j), part);
+                medium[QStringLiteral("text")] =
+                    cue.ref.type == SmilRef::Text ? shortened(part.text(), 1024) : QString();
+                media.append(medium);
             }
             m_slides.append(QVariant(media));
         }
