@@ -97,6 +97,20 @@ bool Part::moves() const
     return isPicture(4 * 1024 * 1024) && QImageReader(file()).format() == "gif";
 }
 
+/** Whether it lists what the player would fetch then. Most kinds are "audio", and may hide behind the tag of a song. */
+static bool isPlaylist(const QString &path)
+{
+    QFile file(path);
+    const QByteArray tag = file.open(QIODevice::ReadOnly) ? file.peek(10) : QByteArray();
+    if (tag.size() == 10 && tag.startsWith("ID3")) {
+        const auto digit = [&](int i, int shift) { return (tag.at(i) & 0x7f) << shift; };
+        file.seek(10 + digit(6, 21) + digit(7, 14) + digit(8, 7) + digit(9, 0));
+    }
+    const QMimeType type = QMimeDatabase().mimeTypeForData(&file);
+    const bool isOdd = file.pos() > 0 && (file.peek(3) == "ID3" || tag.at(5) & 0x10);
+    return isOdd || type.inherits(QStringLiteral("text/plain")) || type.inherits(QStringLiteral("application/xml"));
+}
+
 bool Part::isPlayable(bool asFilm) const
 {
     const QString path = m_source.isLocalFile() ? file() : QString();
@@ -105,12 +119,11 @@ bool Part::isPlayable(bool asFilm) const
     if (path.isEmpty() || (asFilm && !films)) {
         return false;
     }
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent);
-    const QString name = type.name();
-    const bool known = name.startsWith(QLatin1String("audio/")) || name == QLatin1String("application/ogg")
-        || (films && name.startsWith(QLatin1String("video/")));
-    // A playlist is "audio" too, and would have the player fetch what it lists.
-    return known && !type.inherits(QStringLiteral("text/plain")) && !type.inherits(QStringLiteral("application/xml"));
+    const QMimeDatabase types;
+    const QString type = types.mimeTypeForFile(path, QMimeDatabase::MatchContent).name();
+    return (type.startsWith(QLatin1String("audio/")) || type == QLatin1String("application/ogg")
+            || (films && type.startsWith(QLatin1String("video/"))))
+        && !isPlaylist(path);
 }
 
 QUrl Part::source(int as) const
