@@ -9,6 +9,8 @@
 #include <QtCore/QVersionNumber>
 #include <QtGui/QImageReader>
 
+#include <algorithm>
+
 /** By a name if one says it, else by the content of the file. */
 static QString findType(const SmilPart &headers, const QUrl &source, const QString &file)
 {
@@ -107,8 +109,11 @@ static bool isPlaylist(const QString &path)
         file.seek(10 + digit(6, 21) + digit(7, 14) + digit(8, 7) + digit(9, 0));
     }
     const QMimeType type = QMimeDatabase().mimeTypeForData(&file);
-    const bool isOdd = file.pos() > 0 && (file.peek(3) == "ID3" || tag.at(5) & 0x10);
-    return isOdd || type.inherits(QStringLiteral("text/plain")) || type.inherits(QStringLiteral("application/xml"));
+    const QStringList lists{QStringLiteral("text/plain"), QStringLiteral("application/xml"),
+                            QStringLiteral("audio/x-scpls"), QStringLiteral("audio/x-ms-asx")};
+    const auto isThat = [&](const QString &list) { return type.inherits(list); };
+    return std::any_of(lists.begin(), lists.end(), isThat)
+        || (file.pos() > 0 && (file.peek(3) == "ID3" || (tag.at(5) & 0x10)));
 }
 
 bool Part::isPlayable(bool asFilm) const

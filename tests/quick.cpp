@@ -404,13 +404,16 @@ void Quick::sounds()
     QVERIFY(server.listen(QHostAddress::LocalHost));
     const QString url = QStringLiteral("http://127.0.0.1:%1/a").arg(server.serverPort());
     write("list.mp3", "#EXTM3U\n" + url.toUtf8());
+    write("list.wma", "[playlist]\nFile1=" + url.toUtf8());
     write("hidden.mp3", QByteArray("ID3\3\0\0\0\0\0\0", 10) + "#EXTM3U\n" + url.toUtf8());
     const QString smil = QStringLiteral(
         "<smil><head/><body><par><audio src='sound.amr' begin='1s'/><text end='2s'/><img src='b.jpg' dur='1s'/>"
-        "<audio src='list.mp3'/><audio src='hidden.mp3'/><audio src='list.wav'/><audio src='text.txt'/>"
+        "<audio src='list.mp3'/><audio src='list.wma'/><audio src='hidden.mp3'/><audio src='list.wav'/><audio "
+        "src='text.txt'/>"
         "<audio src='a.mp3'/></par><video src='film.3gp'/></body></smil>");
     const QVariantList given = parts(
-        QStringLiteral("sound.amr, list.mp3, hidden.mp3, list.wav, text.txt, film.3gp, b.jpg=%1, a.mp3=%1").arg(url));
+        QStringLiteral("sound.amr, list.mp3, list.wma, hidden.mp3, list.wav, text.txt, film.3gp, b.jpg=%1, a.mp3=%1")
+            .arg(url));
     const QString player = folder->filePath(QStringLiteral("QtMultimedia/MediaPlayer.qml"));
     QVERIFY(QFile::rename(player, player + QStringLiteral(".away")));
     {
