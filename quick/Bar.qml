@@ -8,9 +8,7 @@ Rectangle {
     required property var stage
     readonly property var slideshow: stage.slideshow
     readonly property string words: {
-        const all = [];
-        if (slideshow.count > 0)
-            all.push(qsTr("%1 / %2").arg(slideshow.slide + 1).arg(slideshow.count));
+        const all = [qsTr("%1 / %2").arg(slideshow.slide + 1).arg(slideshow.count)];
         if (stage.more > 0)
             all.push(qsTr("%n more", "", stage.more));
         for (const sound of stage.heard)

@@ -7,8 +7,9 @@ Rectangle {
     id: place
 
     required property var stage
-    required property var medium
-    required property real letter
+    required property var modelData
+    readonly property var medium: modelData
+    readonly property real letter: Math.max(8, Math.min(stage.size.width, stage.size.height) / 18)
     readonly property bool isPicture: medium.is.kind === "image" && medium.is.source.toString() !== ""
     readonly property Image picture: medium.is.moves ? moving : still
     readonly property var own: Qt.size(picture.implicitWidth * stage.zoom, picture.implicitHeight * stage.zoom)

@@ -17,8 +17,11 @@ Item {
     function follow(exactly) {
         if (player === null)
             return;
+        const length = player.media.duration;
+        if (length > 0)
+            stage.lengthKnown(medium.is.part, length / 1000);
         const time = 1000 * (stage.slideshow.position - medium.begin);
-        const hasEnded = player.media.duration > 0 && time >= player.media.duration;
+        const hasEnded = length > 0 && time >= length;
         if (medium.active && !hasEnded && (exactly || Math.abs(time - player.media.position) > 500))
             player.seek(time);
         if (runs && !hasEnded)
@@ -27,26 +30,19 @@ Item {
             player.media.pause();
     }
 
-    function tellLength() {
-        if (player.media.duration > 0)
-            stage.lengthKnown(medium.is.part, player.media.duration / 1000);
-    }
-
     onRunsChanged: follow(false)
     onJumpsChanged: follow(true)
     Component.onCompleted: {
-        if (medium.is.source.toString() === "" || medium.is.kind !== "audio" && medium.is.kind !== "video")
+        if (medium.is.kind === "image" || medium.is.source.toString() === "")
             return;
         const component = Qt.createComponent("Player.qml");
         if (component.status !== Component.Ready)
             return;
         player = component.createObject(playback, {
-                "file": medium.is.source,
-                "isFilm": medium.is.kind === "video"
+                "medium": medium
             });
         player.loadedChanged.connect(() => follow(true));
-        player.media.durationChanged.connect(tellLength);
-        tellLength();
+        player.media.durationChanged.connect(() => follow(false));
         follow(true);
     }
 }

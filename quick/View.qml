@@ -7,7 +7,6 @@ Item {
 
     required property var stage
     readonly property var slideshow: stage.slideshow
-    readonly property real letter: Math.max(8, Math.min(width, height) / 18)
 
     anchors.fill: parent
     focus: true
@@ -29,11 +28,7 @@ Item {
             model: view.stage.seen
 
             Medium {
-                required property var modelData
-
-                medium: modelData
                 stage: view.stage
-                letter: view.letter
             }
         }
 

@@ -17,11 +17,10 @@ Medium::Medium(const SmilCue &shown, int index, const Part &of, const QColor &ba
     , part(index)
     , is(describe(cue, index, of))
 {
-    const QColor own = opaque(cue.background);
-    const QColor paper = own.isValid() ? own : background;
+    const QColor paper = opaque(cue.background, background);
     const QString colour = cue.params.value(QStringLiteral("color"));
     is[QStringLiteral("moves")] = of.moves();
-    is[QStringLiteral("filled")] = own.isValid(); // its whole area
+    is[QStringLiteral("filled")] = opaque(cue.background).isValid(); // its whole area
     is[QStringLiteral("paper")] = paper;
     is[QStringLiteral("ink")] = legible(opaque(cue.params.value(QStringLiteral("foreground-color"), colour)), paper);
 }
@@ -43,8 +42,8 @@ QRectF Medium::fitted(const QSizeF &picture, const QSizeF &room) const
     return SmilScreen::fitted(picture, QRectF(QPointF(), room), cue.fit);
 }
 
-QColor opaque(const QString &text)
+QColor opaque(const QString &text, const QColor &otherwise)
 {
     const bool known = text.startsWith(QLatin1Char('#')) || QColor::colorNames().contains(text, Qt::CaseInsensitive);
-    return known && QColor(text).alpha() == 255 ? QColor(text) : QColor();
+    return known && QColor(text).alpha() == 255 ? QColor(text) : otherwise;
 }

@@ -40,7 +40,7 @@ Q_SIGNALS:
 /** What a medium is, that of part @p index: its "kind", "part", "name", "alt", and the "source" that may be opened. */
 QVariantMap describe(const SmilCue &cue, int index, const Part &part);
 
-/** The colour that @p text says; invalid for what is none, or lets through what is beneath. */
-QColor opaque(const QString &text);
+/** The colour that @p text says, unless that is none or lets through what is beneath. */
+QColor opaque(const QString &text, const QColor &otherwise = QColor());
 
 #endif

@@ -15,11 +15,10 @@
 static QString findType(const SmilPart &headers, const QUrl &source, const QString &file)
 {
     const QMimeDatabase types;
-    for (const QString &name : {headers.name, headers.location}) {
-        const QList<QMimeType> found = types.mimeTypesForFileName(name);
-        if (!found.isEmpty()) {
-            return found.first().name();
-        }
+    const QString name = headers.name.isEmpty() ? headers.location : headers.name;
+    const QList<QMimeType> found = types.mimeTypesForFileName(name);
+    if (!found.isEmpty()) {
+        return found.first().name();
     }
     if (source.scheme() == QLatin1String("image")) {
         return QStringLiteral("image/*");
@@ -71,8 +70,8 @@ QByteArray Part::content(int limit) const
 QString Part::text() const
 {
     const int limit = 128 * 1024; // in any charset more than is shown
-    if (hasText()) {
-        return shortened(m_text, limit);
+    if (headers.kind() != SmilRef::Text || hasText()) {
+        return headers.kind() == SmilRef::Text ? shortened(m_text, limit) : QString();
     }
     QByteArray data = content(limit + 1);
     if (data.size() > limit) { // ends within a character, perhaps, and would be no UTF-8 then

@@ -21,7 +21,7 @@ public:
     QString name(const QString &otherwise) const; ///< what a reader knows it by: one line, shortened
     QByteArray content(int limit) const; ///< its first @p limit bytes
     bool hasText() const { return !m_text.isEmpty(); } ///< whether the host has decoded its content
-    QString text() const; ///< as of a text part: its beginning when it is too long to be shown
+    QString text() const; ///< what a text says, or its beginning when it is too long to be shown; null for all else
 
     QUrl source(int as) const; ///< from what it is shown or played as that; empty when it must not be
     bool moves() const; ///< whether it is a picture that does, of a size that may

@@ -10,7 +10,6 @@
 #include <QtQml/QQmlEngine>
 
 #include <algorithm>
-#include <tuple>
 
 static const int mostBytes = 1024 * 1024; // of a SMIL; it comes from a stranger
 
@@ -192,9 +191,8 @@ void Slideshow::setPlaying(bool playing)
 
 QString Slideshow::error() const
 {
-    const QString error = m_show.error();
-    const QString place = QStringLiteral("%1:%2: ").arg(m_show.errorLine()).arg(m_show.errorColumn());
-    return error.isNull() ? error : place + error;
+    const QString text = QStringLiteral("%1:%2: %3").arg(m_show.errorLine()).arg(m_show.errorColumn());
+    return m_show.error().isNull() ? QString() : text.arg(m_show.error());
 }
 
 QVariantList Slideshow::slides() const
@@ -204,11 +202,9 @@ QVariantList Slideshow::slides() const
             const SmilSlide slide = slideAt(i);
             QVariantList media;
             for (int j = 0; j < qMin(32, int(slide.cues.size())); ++j) {
-                const SmilCue &cue = slide.cues.at(j);
                 const Part part = m_parts.value(slide.parts.at(j));
-                QVariantMap medium = describe(cue, slide.parts.at(j), part);
-                medium[QStringLiteral("text")] =
-                    cue.ref.type == SmilRef::Text ? shortened(part.text(), 1024) : QString();
+                QVariantMap medium = describe(slide.cues.at(j), slide.parts.at(j), part);
+                medium[QStringLiteral("text")] = shortened(part.text(), 1024);
                 media.append(medium);
             }
             m_slides.append(QVariant(media));
@@ -219,23 +215,18 @@ QVariantList Slideshow::slides() const
 
 void Slideshow::change(const std::function<void()> &how)
 {
+    static void (Slideshow::*const changed[])() = {
+        &Slideshow::countChanged,   &Slideshow::slideChanged, &Slideshow::positionChanged, &Slideshow::durationChanged,
+        &Slideshow::playingChanged, &Slideshow::atEndChanged, &Slideshow::titleChanged,    &Slideshow::errorChanged};
     const auto state = [this] {
-        return std::make_tuple(count(), m_slide, m_position, duration(), m_playing, isAtEnd(), title(), error());
+        return QVariantList{count(), m_slide, m_position, duration(), m_playing, isAtEnd(), title(), error()};
     };
-    const auto before = state();
+    const QVariantList before = state();
     how();
-    const auto after = state();
-    const auto tell = [&](auto index, void (Slideshow::*signal)()) {
-        if (std::get<index>(before) != std::get<index>(after)) {
-            Q_EMIT(this->*signal)();
+    const QVariantList after = state();
+    for (int i = 0; i < int(after.size()); ++i) {
+        if (after.at(i) != before.at(i)) {
+            Q_EMIT(this->*changed[i])();
         }
-    };
-    tell(std::integral_constant<int, 0>(), &Slideshow::countChanged);
-    tell(std::integral_constant<int, 1>(), &Slideshow::slideChanged);
-    tell(std::integral_constant<int, 2>(), &Slideshow::positionChanged);
-    tell(std::integral_constant<int, 3>(), &Slideshow::durationChanged);
-    tell(std::integral_constant<int, 4>(), &Slideshow::playingChanged);
-    tell(std::integral_constant<int, 5>(), &Slideshow::atEndChanged);
-    tell(std::integral_constant<int, 6>(), &Slideshow::titleChanged);
-    tell(std::integral_constant<int, 7>(), &Slideshow::errorChanged);
+    }
 }

@@ -10,8 +10,6 @@
 #include <QtCore/QTimer>
 #include <QtQuick/QQuickItem>
 
-#include <functional>
-
 class Stage;
 
 /** The type that QML has: a message that plays. */

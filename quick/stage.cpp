@@ -6,25 +6,25 @@
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 
 void Stage::setMessage(const SmilSlideshow &show)
 {
     m_layout = show.layout();
-    const QColor stated = opaque(show.background());
-    m_background = stated.isValid() ? stated : Qt::white;
+    m_background = opaque(show.background(), Qt::white);
     setSlide(SmilSlide(), QList<Part>());
 }
 
 /** Takes the medium that is there already out of @p pool, so that its player goes on; null when there is none. */
 static Medium *take(QList<Medium *> &pool, const SmilCue &cue, int part)
 {
-    const auto isSame = [&](Medium *medium) {
-        return medium->part == part && medium->cue.line == cue.line && medium->cue.ref == cue.ref;
-    };
-    const auto found = std::find_if(pool.begin(), pool.end(), isSame);
-    Medium *const medium = found == pool.end() ? nullptr : *found;
-    pool.removeOne(medium);
-    return medium;
+    for (int i = 0; i < int(pool.size()); ++i) {
+        const Medium &medium = *pool.at(i);
+        if (medium.part == part && medium.cue.line == cue.line && medium.cue.ref == cue.ref) {
+            return pool.takeAt(i);
+        }
+    }
+    return nullptr;
 }
 
 /** How long each text may be, so that those of @p lengths are together short enough to be laid out at once. */
@@ -66,7 +66,7 @@ void Stage::setSlide(const SmilSlide &slide, const QList<Part> &parts)
         }
         m_media.last()->begin = cue.begin;
         (cue.ref.type == SmilRef::Audio ? heard : seen).append(m_media.last());
-        texts += cue.ref.type == SmilRef::Text ? parts.value(part).text() : QString();
+        texts += parts.value(part).text();
         lengths += int(texts.last().size());
     }
     const int length = longest(lengths);
@@ -74,12 +74,10 @@ void Stage::setSlide(const SmilSlide &slide, const QList<Part> &parts)
         m_media.at(i)->text = breakable(shortened(texts.at(i), length));
     }
     place();
-    if (seen != m_seen) {
-        m_seen = seen;
+    if (std::exchange(m_seen, seen) != seen) {
         Q_EMIT seenChanged();
     }
-    if (heard != m_heard) {
-        m_heard = heard;
+    if (std::exchange(m_heard, heard) != heard) {
         Q_EMIT heardChanged();
     }
     for (Medium *const medium : pool) {

@@ -6,18 +6,17 @@ import QtMultimedia 5.15
 VideoOutput {
     id: output
 
-    required property url file
-    required property bool isFilm
+    required property var medium
     readonly property bool loaded: media.status === MediaPlayer.Loaded
     readonly property bool failed: media.error !== MediaPlayer.NoError
     readonly property MediaPlayer media: MediaPlayer {
-        source: output.file
+        source: output.medium.is.source
     }
 
     function seek(milliseconds) {
         media.seek(milliseconds);
     }
 
-    source: isFilm ? media : null
+    source: medium.is.kind === "video" ? media : null
     anchors.fill: parent
 }

@@ -6,13 +6,12 @@ import QtMultimedia
 VideoOutput {
     id: output
 
-    required property url file
-    required property bool isFilm
+    required property var medium
     readonly property bool loaded: media.mediaStatus === MediaPlayer.LoadedMedia
     readonly property bool failed: media.error !== MediaPlayer.NoError
     readonly property MediaPlayer media: MediaPlayer {
-        source: output.file
-        videoOutput: output.isFilm ? output : null
+        source: output.medium.is.source
+        videoOutput: output.medium.is.kind === "video" ? output : null
         audioOutput: AudioOutput {
         }
     }
