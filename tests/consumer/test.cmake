@@ -57,12 +57,13 @@ run("${WORK_DIR}/pkgconfig")
 if(EXISTS "${BUILD_DIR}/qml")
     file(GLOB_RECURSE qmldir "${prefix}/*/Smil/qmldir")
     cmake_path(GET qmldir PARENT_PATH module)
-    cmake_path(GET module PARENT_PATH ENV{QML2_IMPORT_PATH})
+    cmake_path(GET module PARENT_PATH modules)
     run("${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${SOURCE_DIR}/examples/player" -B "${WORK_DIR}/player"
         "-D${qt}_DIR=${QT_DIR}" -DQT_MAJOR_VERSION=${major} "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
     )
     run("${CMAKE_COMMAND}" --build "${WORK_DIR}/player")
-    execute_process(COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen
+    execute_process(COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software
+        "QML2_IMPORT_PATH=${modules}"
         "${WORK_DIR}/player/player" "${SOURCE_DIR}/examples/holiday.smil" "${SOURCE_DIR}/examples/holiday"
         RESULT_VARIABLE status TIMEOUT 3
     )
