@@ -55,7 +55,7 @@ run("${WORK_DIR}/pkgconfig")
 
 # An app on the Qt Quick module, which is not where this Qt looks.
 if(EXISTS "${BUILD_DIR}/qml")
-    file(GLOB_RECURSE qmldir "${prefix}/*/Smil/qmldir")
+    file(GLOB_RECURSE qmldir "${prefix}/qmldir")
     cmake_path(GET qmldir PARENT_PATH module)
     cmake_path(GET module PARENT_PATH modules)
     run("${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${SOURCE_DIR}/examples/player" -B "${WORK_DIR}/player"
