@@ -67,6 +67,25 @@ run("${CXX}" "${CMAKE_CURRENT_LIST_DIR}/main.cpp" -o "${WORK_DIR}/pkgconfig" ${f
 set(ENV{LD_LIBRARY_PATH} "${prefix}/${LIBDIR}")
 run("${WORK_DIR}/pkgconfig")
 
+# An app on the Qt Quick module, which is not where this Qt looks.
+if(EXISTS "${BUILD_DIR}/qml")
+    file(GLOB_RECURSE qmldir "${prefix}/qmldir")
+    cmake_path(GET qmldir PARENT_PATH module)
+    cmake_path(GET module PARENT_PATH modules)
+    run("${CMAKE_COMMAND}" -G "${GENERATOR}" -S "${SOURCE_DIR}/examples/player" -B "${WORK_DIR}/player"
+        "-D${qt}_DIR=${QT_DIR}" -DQT_MAJOR_VERSION=${major} "-DCMAKE_CXX_COMPILER=${CXX}" "-DCMAKE_CXX_FLAGS=${CXX_FLAGS}"
+    )
+    run("${CMAKE_COMMAND}" --build "${WORK_DIR}/player")
+    execute_process(COMMAND "${CMAKE_COMMAND}" -E env QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software
+        "QML2_IMPORT_PATH=${modules}"
+        "${WORK_DIR}/player/player" "${SOURCE_DIR}/examples/holiday.smil" "${SOURCE_DIR}/examples/holiday"
+        RESULT_VARIABLE status TIMEOUT 3
+    )
+    if(NOT status MATCHES "timeout")
+        message(FATAL_ERROR "The player should have played until it was stopped: ${status}")
+    endif()
+endif()
+
 # As a part of the host's project, the library is for the host's Qt and brings nothing that the host could have itself.
 set(ENV{LD_LIBRARY_PATH})
 run(${configure} -B "${WORK_DIR}/part" "-DSOURCE_DIR=${SOURCE_DIR}" -DQT=${major})
