@@ -4,7 +4,7 @@
 #ifndef SMILPARSER_GRAMMAR_H
 #define SMILPARSER_GRAMMAR_H
 
-#include "tests/told.h"
+#include "tests/guardtesthelpers.h"
 
 #include <vector>
 

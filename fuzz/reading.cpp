@@ -4,7 +4,7 @@
 #include "require.h"
 
 #include "tests/messages.h"
-#include "tests/outline.h"
+#include "tests/modeldump.h"
 
 #include <smilparser/smilslideshow.h>
 
@@ -16,7 +16,7 @@ bool MMSLogger::qdebugEnabled = false;
 static QString outline(const SmilDocument &model)
 {
     static const QRegularExpression empty(QStringLiteral("<head( [a-z]+='')*/>| [a-z]+=''"));
-    return Outline::of(model).remove(empty);
+    return ModelDump::of(model).remove(empty);
 }
 
 static QString described(const SmilRef &ref)

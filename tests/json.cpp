@@ -5,7 +5,7 @@
 #include "cases.h"
 #include "commands.h"
 #include "mmsbytes.h"
-#include "outline.h"
+#include "modeldump.h"
 
 #include <smilparser/smilplayback.h>
 
@@ -205,7 +205,7 @@ void JsonOutput::hasAllThatTheLibraryHas()
         const QJsonObject json = shown(message);
         SmilDocument document;
         read(json, document);
-        COMPARE_SEEN(QStringLiteral("reads the JSON"), Outline::of(document), Outline::of(message.document));
+        COMPARE_SEEN(QStringLiteral("reads the JSON"), ModelDump::of(document), ModelDump::of(message.document));
         QVERIFY(document == message.document);
         SmilTimeline timeline;
         read(json[QLatin1String("timeline")], timeline);

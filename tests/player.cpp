@@ -23,8 +23,8 @@ public:
 private Q_SLOTS:
     void slides_data() { addCases("slides.txt"); }
     void slides();
-    void strangers_data() { addCases("strangers.txt"); }
-    void strangers();
+    void untrusted_data() { addCases("untrusted.txt"); }
+    void untrusted();
     void turning();
 };
 
@@ -96,7 +96,7 @@ void Player::slides()
 }
 
 /** A message shows only what is in its folder, and that legibly, or says what is wrong. */
-void Player::strangers()
+void Player::untrusted()
 {
     QFETCH(QString, message);
     QFETCH(QString, seen);
