@@ -5,9 +5,9 @@
 
 The floor of reading is QDomDocument::setContent() alone, and that of writing the same tree built by hand. That of
 showing, which makes the timeline and the screen of a message, is reading it; that of a slideshow, which reads the
-message itself and drops its tree, is doing just that. What a text costs is compared with what it
-costs by way of the tree. Prints Markdown; the exit status is 1 when a bar is passed. script/instructions builds what
-this runs.
+message itself and drops its tree, is doing just that. What a text costs is compared with what it costs by way of the
+tree, and looking up names that were chosen to have one hash with looking up others. Prints Markdown; the exit status is
+1 when a bar is passed. script/instructions builds what this runs.
 """
 
 import argparse

@@ -76,8 +76,7 @@ Message slidesParts(int slides)
     return message;
 }
 
-/** Those for two numbers differ by a multiple of @p factor, as polynomials of bits: by CRC-32 they may have one hash.
- */
+/** A name of 44 pairs of letters, by the bits of the product of @p number and @p factor as polynomials of bits. */
 static QString regionName(int number, quint64 factor, QLatin1String zero)
 {
     quint64 pattern = 0;
@@ -103,7 +102,8 @@ static Message regionsNamed(int regions, quint64 factor, QLatin1String zero)
 
 Message collidingRegions(int regions)
 {
-    // The second one is for processors without an instruction for CRC-32: 31 * 'A' + 'a' is 31 * 'B' + 'B'.
+    // Multiples of this factor, in steps of 32 bits, leave CRC-32 as it is. Where the processor has no instruction for
+    // that, Qt 5 hashes by powers of 31, and 31 * 'A' + 'a' is 31 * 'B' + 'B'.
     return regionsNamed(regions, 0x105ec76f1, QLatin1String("Aa"));
 }
 

@@ -65,7 +65,7 @@ void Storyboard::frames_data()
         "I | ▣ a | over | ¶ b | 1 · 0:00 · 5s | Plays 5s.");
     row("no line free", "<par><img src='a' region='low'/></par>", "1 · 0:00 · 5s | ▣ a in low | Plays 5s.");
     row("several in a region", "<par><img src='a' region='two'/><img src='b' region='two'/></par>",
-        "two | ▣ a | two | ▣ b | 1 · 0:00 · 5s | Plays 5s.");
+        "two | ▣ a | ▣ b | 1 · 0:00 · 5s | Plays 5s.");
     row("too narrow", "<par><img src='twelve.letters' region='thin'/></par>",
         "thin | 1 · 0:00 · 5s | ▣ twelve.letters in thin | Plays 5s.");
     row("sound in a region", "<par><audio src='a' region='I'/></par>", "1 · 0:00 · 5s | ♪ a | Plays 5s.");
@@ -105,14 +105,17 @@ void Storyboard::noPictureIsTooLarge()
     };
     QCOMPARE(board("<root-layout width='1e9' height='0'/>"), board("<root-layout/>"));
     const QTemporaryDir folder;
-    const QString large =
-        QStringLiteral("printf '\\211PNG\\r\\n\\032\\n' >$old; truncate -s 8388608 $old; $tool storyboard --parts '%1' "
-                       "- <<EOF | grep -c '<image'\n"
-                       "<smil><head><layout><region id='1'/><region id='2'/><region id='3'/><region id='4'/><region "
-                       "id='5'/></layout></head>"
-                       "<body><par><img src='old' region='1'/><img src='old' region='2'/><img src='old' region='3'/>"
-                       "<img src='old' region='4'/><img src='old' region='5'/></par></body></smil>\nEOF\n");
-    QCOMPARE(runScript(folder.path(), large.arg(folder.path())).out, QStringLiteral("4\n"));
+    const QString large = QStringLiteral(
+        "printf '\\211PNG\\r\\n\\032\\n' >$old; truncate -s 3670016 $old; $tool storyboard --parts '%1' - -o $board "
+        "<<EOF; echo $?; grep -c '<image' $board\n"
+        "<smil><head><layout><region id='1'/><region id='2'/><region id='3'/></layout></head>"
+        "<body><par><img src='old' region='1'/><img src='old' region='2'/><img src='old' region='3'/></par></body>"
+        "</smil>\nEOF\n");
+    const Outcome drawn = runScript(folder.path(), large.arg(folder.path()));
+    QCOMPARE(drawn.out, QStringLiteral("1\n2\n"));
+    QCOMPARE(drawn.err, folder.path() + QStringLiteral("/old: would be more than 7 MiB with the pictures before it\n"));
+    QCOMPARE(textsIn(readFile(folder.filePath(QStringLiteral("board")))),
+             QString::fromUtf8("▣ old | 1 · 0:00 · 5s | Plays 5s."));
     // No letter fits, and none is halved: the writer would stop there.
     const QString thin = QStringLiteral(
         "printf '\\360\\237\\230\\200' >$old; $tool storyboard --parts '%1' - <<EOF\n<smil><head><layout>"

@@ -19,7 +19,9 @@ private Q_SLOTS:
     void help();
     void otherFilesAreHandled();
     void textFromStrangersIsEscaped();
+    void lostOutputIsAnError_data();
     void lostOutputIsAnError();
+    void closedInputIsAnError();
     void inputIsReadToItsEnd();
     void debugLines();
     void messageAsItIsSent();
@@ -158,40 +160,43 @@ void Tool::badUsage_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<QString>("problem");
-    const auto row = [](const char *arguments, const char *problem) {
-        QTest::newRow(arguments) << QString::fromLatin1(arguments) << QString::fromLatin1(problem);
+    QTest::addColumn<QString>("help");
+    const auto row = [](const QString &arguments, const char *problem, const char *help = "smiltool") {
+        QTest::newRow(qPrintable(arguments)) << arguments << QString::fromLatin1(problem) << QString::fromLatin1(help);
     };
-    row("", "no command given.");
-    row("play holiday.smil", "unknown command 'play'.");
-    row("help play", "unknown command 'play'.");
-    row("show", "no file given.");
-    row("show ''", "the name of a file is empty.");
-    row("storyboard holiday.smil -o ''", "the name of a file is empty.");
-    row("extract -", "no folder given; -d DIR says which.");
-    row("extract - -d ''", "the name of a file is empty.");
-    row("show --loud -", "Unknown option 'loud'.");
-    row("show --keep -", "Unknown option 'keep'.");
+    row(QString(), "no command given.");
+    row(QStringLiteral("play holiday.smil"), "unknown command 'play'.");
+    row(QStringLiteral("help play"), "unknown command 'play'.");
+    row(QStringLiteral("show"), "no file given.", "smiltool show");
+    row(QStringLiteral("show ''"), "the name of a file is empty.", "smiltool show");
+    row(QStringLiteral("storyboard holiday.smil -o ''"), "the name of a file is empty.", "smiltool storyboard");
+    row(QStringLiteral("extract -"), "no folder given; -d DIR says which.", "smiltool extract");
+    row(QStringLiteral("extract - -d ''"), "the name of a file is empty.", "smiltool extract");
+    row(QStringLiteral("show --loud -"), "Unknown option 'loud'.", "smiltool show");
+    row(QStringLiteral("show --keep -"), "Unknown option 'keep'.", "smiltool show");
     for (const char *const size : {"0x480", "320", "1.5x480", "320x480x", "1000000x480"}) {
-        QTest::newRow(size) << QStringLiteral("compose beach.jpg --size=") + QLatin1String(size)
-                            << QStringLiteral("a size is in whole pixels, such as 320x480.");
+        row(QStringLiteral("compose beach.jpg --size=") + QLatin1String(size),
+            "a size is in whole pixels, such as 320x480.", "smiltool compose");
     }
-    for (const char *const seconds : {"0", "-1", "nan", "inf", "1e999", "5s", "''"}) {
-        QTest::newRow(seconds) << QStringLiteral("compose beach.jpg --seconds ") + QLatin1String(seconds)
-                               << QStringLiteral("a slide lasts a number of seconds above 0.");
+    for (const char *const seconds : {"0.0009", "-1", "nan", "999999.1", "1e999", "5s", "''"}) {
+        row(QStringLiteral("compose beach.jpg --seconds ") + QLatin1String(seconds),
+            "a slide lasts a number of seconds from 0.001 to 999999.", "smiltool compose");
     }
-    row("storyboard holiday.smil nested.smil", "a storyboard is of one file.");
-    row("--ignore lost-names check holiday.smil", "no finding is called 'lost-names'.");
+    row(QStringLiteral("storyboard holiday.smil nested.smil"), "a storyboard is of one file.", "smiltool storyboard");
+    row(QStringLiteral("--ignore lost-names check holiday.smil"), "no finding is called 'lost-names'.",
+        "smiltool check");
 }
 
 void Tool::badUsage()
 {
     QFETCH(QString, arguments);
     QFETCH(QString, problem);
+    QFETCH(QString, help);
     QStringList words = arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     words.replaceInStrings(QStringLiteral("''"), QString());
     const Outcome outcome = smiltool(words);
     QCOMPARE(outcome.out, QString());
-    QCOMPARE(outcome.err, QStringLiteral("smiltool: %1\nTry 'smiltool --help'.\n").arg(problem));
+    QCOMPARE(outcome.err, QStringLiteral("smiltool: %1\nTry '%2 --help'.\n").arg(problem, help));
     QCOMPARE(outcome.status, 2);
 }
 
@@ -202,8 +207,9 @@ void Tool::help()
         const bool ofCheck = QByteArray(arguments).contains("check");
         QVERIFY2(outcome.out.contains(QLatin1String("--ignore")) == ofCheck, arguments);
         QVERIFY2(outcome.out.contains(QLatin1String("  storyboard")) != ofCheck, arguments);
-        QVERIFY2(outcome.status == 0 && outcome.err.isEmpty(), arguments);
+        QVERIFY2(outcome.status == 0 && outcome.err.isEmpty() && outcome.out.endsWith(QLatin1String(".\n")), arguments);
     }
+    QVERIFY(!smiltool({QStringLiteral("help"), QStringLiteral("extract")}).out.contains(QLatin1String("SMIL part")));
 }
 
 void Tool::otherFilesAreHandled()
@@ -235,18 +241,49 @@ void Tool::textFromStrangersIsEscaped()
     QVERIFY2(joined.out.contains(expected), qPrintable(joined.out));
 }
 
+/** On a disk or a device that takes nothing, what is there stays as it is, and nothing half is left. */
+void Tool::lostOutputIsAnError_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("problem");
+    for (const char *const words :
+         {"show holiday.smil", "show --json holiday.smil", "render holiday.smil", "check holiday.smil",
+          "storyboard holiday.smil", "compose holiday/beach.txt", "--version", "--help", "help show"}) {
+        QTest::newRow(words) << QStringLiteral("$tool %1 >/dev/full").arg(QLatin1String(words))
+                             << QStringLiteral("smiltool: standard output: No space left on device\n");
+    }
+    QTest::newRow("extract") << QStringLiteral("$tool extract ../fuzz/corpus-message/mixed.mms -d $board >/dev/full")
+                             << QStringLiteral("smiltool: standard output: No space left on device\n");
+    QTest::newRow("a device") << QStringLiteral("$tool storyboard holiday.smil -o /dev/full")
+                              << QStringLiteral("/dev/full: No space left on device\n");
+    QTest::newRow("a descriptor") << QStringLiteral("$tool compose holiday/beach.txt -o /dev/stdout >/dev/full")
+                                  << QStringLiteral("/dev/stdout: No space left on device\n");
+    for (const char *const words : {"storyboard holiday.smil", "compose holiday/beach.txt"}) {
+        QTest::addRow("%s, a file", words) << QStringLiteral("ulimit -f 0; $tool %1 -o $old").arg(QLatin1String(words))
+                                           << QStringLiteral("FOLDER/old: File too large\n");
+    }
+    QTest::newRow("parts") << QStringLiteral("ulimit -f 0; $tool extract ../fuzz/corpus-message/mixed.mms -d $board; "
+                                             "status=$?; ls -A $board; exit $status")
+                           << QStringLiteral("FOLDER/board/a%20b.txt: File too large\n"
+                                             "FOLDER/board/slides: File too large\n");
+}
+
 void Tool::lostOutputIsAnError()
 {
+    QFETCH(QString, script);
     const QTemporaryDir folder;
-    const Outcome outcome = runScript(folder.path(), QStringLiteral("$tool show holiday.smil >/dev/full"));
-    QVERIFY2(outcome.err.startsWith(QLatin1String("smiltool: standard output: ")), qPrintable(outcome.err));
+    Outcome outcome = runScript(folder.path(), script);
+    QTEST(outcome.err.replace(folder.path(), QLatin1String("FOLDER")), "problem");
+    QCOMPARE(outcome.out, QString());
     QCOMPARE(outcome.status, 1);
-    const Outcome drawn =
-        runScript(folder.path(), QStringLiteral("$tool storyboard holiday.smil -o /dev/stdout >/dev/full"));
-    QVERIFY2(drawn.err.startsWith(QLatin1String("/dev/stdout: ")), qPrintable(drawn.err));
-    QCOMPARE(runScript(folder.path(), QStringLiteral("$tool show - <&-")).err,
+    QCOMPARE(readFile(folder.filePath(QStringLiteral("old"))), QStringLiteral("old\n"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("old")));
+}
+
+void Tool::closedInputIsAnError()
+{
+    QCOMPARE(runScript(QTemporaryDir().path(), QStringLiteral("$tool show - <&-")).err,
              QStringLiteral("-: Bad file descriptor\n"));
-    QCOMPARE(drawn.status, 1);
 }
 
 void Tool::inputIsReadToItsEnd()
@@ -306,12 +343,13 @@ void Tool::messageAsItIsSent()
              QStringLiteral("-: the SMIL part is larger than 1 MiB\n"));
     QCOMPARE(smiltool({QStringLiteral("show"), QStringLiteral("-")}, headers.leftJustified(8 * 1024 * 1024 + 1)).err,
              QStringLiteral("-: larger than 8 MiB\n"));
-    const QString longSubject =
-        smiltool({QStringLiteral("show"), QStringLiteral("-")},
-                 QByteArray("\x8C\x84\x96") + QByteArray(70000, 'a') + '\0' + message.mid(message.indexOf("\x84\x1C")))
-            .out;
-    QVERIFY2(longSubject.contains(QString(65535, QLatin1Char('a')) + QStringLiteral("\u2026\"\n")),
-             qPrintable(longSubject.right(200)));
+    const QByteArray longSubject =
+        QByteArray("\x8C\x84\x96") + QByteArray(70000, 'a') + '\0' + message.mid(message.indexOf("\x84\x1C"));
+    for (const QString &option : {QStringLiteral("--plain"), QStringLiteral("--json")}) {
+        const QString shown = smiltool({QStringLiteral("show"), option, QStringLiteral("-")}, longSubject).out;
+        QVERIFY2(shown.contains(QString(65535, QLatin1Char('a')) + QStringLiteral("\u2026\"")),
+                 qPrintable(option + shown.right(200)));
+    }
     const Outcome cut = smiltool({QStringLiteral("show"), QStringLiteral("-")}, message.chopped(1));
     QCOMPARE(cut.err,
              QStringLiteral("-: is cut off in its parts (number 3 of 3), or has a length there that is wrong\n"));

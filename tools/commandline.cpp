@@ -5,8 +5,9 @@
 #include "commands.h"
 #include "findings.h"
 
+#include <smilparser/smilparser_version.h>
+
 #include <QtCore/QCommandLineParser>
-#include <QtCore/qnumeric.h>
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
@@ -101,9 +102,11 @@ static void setUp(QCommandLineParser &parser, const Command *command)
     if (!command) {
         parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."));
     }
+    const bool ofWhole = command && (command->options & IntoFolder);
     parser.addPositionalArgument(
         QStringLiteral("FILE"),
         command && command->together ? QStringLiteral("A picture, a text, a sound or a film.")
+            : ofWhole                ? QStringLiteral("A message as it is sent; - is standard input.")
                                      : QStringLiteral("A SMIL part, or a message as it is sent; - is standard input."),
         command ? QStringLiteral("%1 %2").arg(QLatin1String(command->name), QLatin1String(command->files))
                 : QStringLiteral("FILE..."));
@@ -180,8 +183,9 @@ static QString problemWith(const Command &command, const Arguments &arguments)
     if (arguments.size.isEmpty()) {
         return QStringLiteral("a size is in whole pixels, such as 320x480.");
     }
-    if (!qIsFinite(arguments.seconds) || !(arguments.seconds > 0)) {
-        return QStringLiteral("a slide lasts a number of seconds above 0.");
+    // What is less or more, six digits cannot say, which is what the library writes.
+    if (!(arguments.seconds >= 0.001 && arguments.seconds <= 999999)) {
+        return QStringLiteral("a slide lasts a number of seconds from 0.001 to 999999.");
     }
     for (const QString &name : arguments.ignored) {
         if (!findingNames().contains(name)) {
@@ -206,11 +210,10 @@ QString parse(const QStringList &words, CommandLine &line)
         return parser.errorText();
     }
     line.arguments = argumentsOf(parser, line.command);
-    if (line.arguments.version) {
-        parser.showVersion();
-    }
-    if (help || line.arguments.help) {
-        parser.showHelp();
+    if (help || line.arguments.help || line.arguments.version) {
+        line.answer = line.arguments.version ? QStringLiteral("smiltool " SMILPARSER_VERSION_STRING "\n")
+                                             : parser.helpText().trimmed() + QLatin1Char('\n');
+        return QString();
     }
     return line.command ? problemWith(*line.command, line.arguments) : QStringLiteral("no command given.");
 }

@@ -10,12 +10,10 @@
 struct CommandLine {
     const Command *command = nullptr;
     Arguments arguments;
+    QString answer; ///< to print instead of running the command: what --help, --version or the command "help" asks for
 };
 
-/**
- * Reads the command line; --help, --version and the command "help" are answered at once, and end the program. Returns
- * what is wrong with how the tool is called, or else nothing.
- */
+/** Reads the command line. Returns what is wrong with how the tool is called, or else nothing. */
 QString parse(const QStringList &words, CommandLine &line);
 
 #endif

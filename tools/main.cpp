@@ -5,13 +5,15 @@
 #include "errors.h"
 
 #include <smilparser/mmslogger.h>
-#include <smilparser/smilparser_version.h>
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QFile>
+#include <QtCore/QIODevice>
 
+#include <cerrno>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <fcntl.h>
 #include <langinfo.h>
 #include <unistd.h>
@@ -20,30 +22,49 @@ bool MMSLogger::qdebugEnabled = false;
 
 enum ExitStatus { Success = 0, Failure = 1, BadUsage = 2 };
 
-static int badUsage(const QString &problem)
+namespace
 {
-    complain(QLatin1String("smiltool: ") + problem);
-    complain(QStringLiteral("Try 'smiltool --help'."));
-    return BadUsage;
+/** Standard output, with what went wrong first for its error. */
+class StandardOutput : public QIODevice
+{
+public:
+    StandardOutput() { open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+
+    void flush() { note(std::fflush(stdout) == 0); }
+    bool isWhole() const { return whole; }
+
+private:
+    qint64 readData(char *, qint64) override { return -1; }
+
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        note(std::fwrite(data, 1, size_t(size), stdout) == size_t(size));
+        return size;
+    }
+
+    void note(bool isWritten)
+    {
+        if (whole && !isWritten) {
+            setErrorString(QString::fromLocal8Bit(std::strerror(errno)));
+            whole = false;
+        }
+    }
+
+    bool whole = true;
+};
 }
 
-static int run(const Command &command, const Arguments &arguments)
+static int run(const Command &command, const Arguments &arguments, StandardOutput &out)
 {
     int status = Success;
-    QFile out;
-    bool written = out.open(stdout, QIODevice::WriteOnly);
     const QStringList turns = command.together ? QStringList(QString()) : arguments.files;
     for (const QString &file : turns) {
         const Result result = command.run(file, arguments, out);
+        out.flush(); // before the next file's problems
         for (const QString &problem : result.problems) {
             complain(problem);
         }
         status = result.well ? status : Failure;
-        written = out.flush() && written; // before the next file's problems
-    }
-    if (!written || out.error() != QFileDevice::NoError) {
-        complain(QLatin1String("smiltool: standard output: ") + out.errorString());
-        status = Failure;
     }
     return status;
 }
@@ -83,16 +104,30 @@ int main(int argc, char *argv[])
 {
     keepStandardDescriptors();
     useUtf8();
+    std::signal(SIGXFSZ, SIG_IGN); // a limit on the size of files is an error of the one that is written
     QCoreApplication application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("smiltool"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(SMILPARSER_VERSION_STRING));
 
     CommandLine line;
     const QString problem = parse(QCoreApplication::arguments(), line);
     if (!problem.isEmpty()) {
-        return badUsage(problem);
+        const QString command = line.command ? QLatin1Char(' ') + QLatin1String(line.command->name) : QString();
+        complain(QLatin1String("smiltool: ") + problem);
+        complain(QStringLiteral("Try 'smiltool%1 --help'.").arg(command));
+        return BadUsage;
     }
     qInstallMessageHandler(handleMessage);
     MMSLogger::qdebugEnabled = line.arguments.debug;
-    return run(*line.command, line.arguments);
+    StandardOutput out;
+    int status = Success;
+    if (line.answer.isEmpty()) {
+        status = run(*line.command, line.arguments, out);
+    } else {
+        out.write(line.answer.toUtf8());
+    }
+    out.flush();
+    if (!out.isWhole()) {
+        complain(QLatin1String("smiltool: standard output: ") + out.errorString());
+        return Failure;
+    }
+    return status;
 }

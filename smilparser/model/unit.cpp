@@ -18,12 +18,8 @@ struct Suffix {
 // Looked for in this order, which is also that of the units' numbers: "3pxin" has the unit "in", and its "3px" is no
 // number.
 const Suffix suffixes[] = {
-    {QLatin1String("pt"), SmilUnit::Pt     },
-    {QLatin1String("in"), SmilUnit::In     },
-    {QLatin1String("cm"), SmilUnit::Cm     },
-    {QLatin1String("px"), SmilUnit::Px     },
-    {QLatin1String("%"),  SmilUnit::Percent},
-    {QLatin1String("s"),  SmilUnit::Sec    },
+    {QLatin1String("pt"), SmilUnit::Pt}, {QLatin1String("in"), SmilUnit::In},     {QLatin1String("cm"), SmilUnit::Cm},
+    {QLatin1String("px"), SmilUnit::Px}, {QLatin1String("%"), SmilUnit::Percent}, {QLatin1String("s"), SmilUnit::Sec},
 };
 
 enum class Outcome { Read, NoNumber, Undecided };

@@ -20,41 +20,37 @@ const QString heightAttribute = QStringLiteral("height");
 const QString widthAttribute = QStringLiteral("width");
 
 const Attribute<SmilHeader> headAttributes[] = {
-    {QStringLiteral("id"),    &SmilHeader::id,        nullptr},
-    {QStringLiteral("title"), &SmilHeader::title,     nullptr},
+    {QStringLiteral("id"), &SmilHeader::id, nullptr},
+    {QStringLiteral("title"), &SmilHeader::title, nullptr},
     {QStringLiteral("class"), &SmilHeader::className, nullptr},
 };
 
 const Attribute<SmilMeta> metaAttributes[] = {
-    {QStringLiteral("id"),      &SmilMeta::id,      nullptr},
-    {QStringLiteral("name"),    &SmilMeta::name,    nullptr},
+    {QStringLiteral("id"), &SmilMeta::id, nullptr},
+    {QStringLiteral("name"), &SmilMeta::name, nullptr},
     {QStringLiteral("content"), &SmilMeta::content, nullptr},
 };
 
 const Attribute<SmilRegion> regionAttributes[] = {
-    {QStringLiteral("id"),     &SmilRegion::id,  nullptr            },
-    {QStringLiteral("width"),  nullptr,          &SmilRegion::width },
-    {QStringLiteral("height"), nullptr,          &SmilRegion::height},
-    {QStringLiteral("top"),    nullptr,          &SmilRegion::top   },
-    {QStringLiteral("bottom"), nullptr,          &SmilRegion::bottom},
-    {QStringLiteral("left"),   nullptr,          &SmilRegion::left  },
-    {QStringLiteral("right"),  nullptr,          &SmilRegion::right },
-    {QStringLiteral("fit"),    &SmilRegion::fit, nullptr            },
+    {QStringLiteral("id"), &SmilRegion::id, nullptr},         {QStringLiteral("width"), nullptr, &SmilRegion::width},
+    {QStringLiteral("height"), nullptr, &SmilRegion::height}, {QStringLiteral("top"), nullptr, &SmilRegion::top},
+    {QStringLiteral("bottom"), nullptr, &SmilRegion::bottom}, {QStringLiteral("left"), nullptr, &SmilRegion::left},
+    {QStringLiteral("right"), nullptr, &SmilRegion::right},   {QStringLiteral("fit"), &SmilRegion::fit, nullptr},
 };
 
 const Attribute<SmilRef> refAttributes[] = {
-    {QStringLiteral("src"),    &SmilRef::src,    nullptr},
+    {QStringLiteral("src"), &SmilRef::src, nullptr},
     {QStringLiteral("region"), &SmilRef::region, nullptr},
 };
 
 static const TimelineElement timeline[] = {
-    {QStringLiteral("par"),   TimelineElement::Node, SmilNode::Par },
-    {QStringLiteral("seq"),   TimelineElement::Node, SmilNode::Seq },
-    {QStringLiteral("img"),   TimelineElement::Ref,  SmilRef::Img  },
-    {QStringLiteral("text"),  TimelineElement::Ref,  SmilRef::Text },
-    {QStringLiteral("audio"), TimelineElement::Ref,  SmilRef::Audio},
-    {QStringLiteral("video"), TimelineElement::Ref,  SmilRef::Video},
-    {QStringLiteral("ref"),   TimelineElement::Ref,  SmilRef::Ref  },
+    {QStringLiteral("par"), TimelineElement::Node, SmilNode::Par},
+    {QStringLiteral("seq"), TimelineElement::Node, SmilNode::Seq},
+    {QStringLiteral("img"), TimelineElement::Ref, SmilRef::Img},
+    {QStringLiteral("text"), TimelineElement::Ref, SmilRef::Text},
+    {QStringLiteral("audio"), TimelineElement::Ref, SmilRef::Audio},
+    {QStringLiteral("video"), TimelineElement::Ref, SmilRef::Video},
+    {QStringLiteral("ref"), TimelineElement::Ref, SmilRef::Ref},
 };
 
 const TimelineElement *findElement(const QString &name)

@@ -87,9 +87,9 @@ SmilRef::Type SmilPart::kind() const
 QString SmilPart::text(const QByteArray &data) const
 {
     static const QByteArray marks[][2] = {
-        {QByteArrayLiteral("\xef\xbb\xbf"), QByteArrayLiteral("utf-8")   },
-        {QByteArrayLiteral("\xfe\xff"),     QByteArrayLiteral("utf-16be")},
-        {QByteArrayLiteral("\xff\xfe"),     QByteArrayLiteral("utf-16le")},
+        {QByteArrayLiteral("\xef\xbb\xbf"), QByteArrayLiteral("utf-8")},
+        {QByteArrayLiteral("\xfe\xff"), QByteArrayLiteral("utf-16be")},
+        {QByteArrayLiteral("\xff\xfe"), QByteArrayLiteral("utf-16le")},
     };
     for (const auto &mark : marks) {
         if (data.startsWith(mark[0])) {

@@ -75,7 +75,8 @@ static std::vector<int> partsOf(const QList<SmilCue> &cues, const SmilParts &nam
 static std::vector<int> findLeft(const SmilSlideshowData &show)
 {
     std::vector<bool> shown(show.parts.size());
-    for (const SmilCue &cue : show.timeline.cues()) {
+    const QList<SmilCue> cues = show.timeline.cues();
+    for (const SmilCue &cue : cues) {
         const int part = cue.begin < cue.end ? show.names.find(cue.ref.src) : -1;
         if (part >= 0) {
             shown[part] = true;

@@ -43,7 +43,7 @@ const int frames = 400;
 const int media = 100; ///< in a frame
 const int description = 300; ///< characters that say what is in a frame
 const double screen = 100000; ///< pixels from edge to edge
-const qint64 pictures = 32 * mebibyte; ///< all together
+const qint64 pictures = 7 * mebibyte; ///< all together: in Base64 not 10 MB, which is all that some viewers read
 const int drawn = 1000; ///< parts of which it shows more than the name
 }
 

@@ -64,12 +64,17 @@ QString printableXml(const QString &text)
     });
 }
 
-QByteArray printableJson(const QByteArray &json)
+static QString backslashed(QString text)
+{
+    return text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
+}
+
+QByteArray jsonEscaped(const QString &text)
 {
     const auto unit = [](ushort c) {
         return QLatin1String("\\u") + QString::number(c, 16).rightJustified(4, QLatin1Char('0'));
     };
-    return escape(QString::fromUtf8(json),
+    return escape(backslashed(text),
                   [&unit](uint c) {
                       return QChar::requiresSurrogates(c) ? unit(QChar::highSurrogate(c)) + unit(QChar::lowSurrogate(c))
                                                           : unit(ushort(c));
@@ -79,9 +84,7 @@ QByteArray printableJson(const QByteArray &json)
 
 QString quoted(const QString &text)
 {
-    QString escaped = text;
-    escaped.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
-    return QLatin1Char('"') + printable(escaped) + QLatin1Char('"');
+    return QLatin1Char('"') + printable(backslashed(text)) + QLatin1Char('"');
 }
 
 QString shortened(const QString &text, int most)

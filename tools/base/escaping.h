@@ -18,8 +18,8 @@ QString printable(const QString &text);
 /** The same for XML: as &#xXXXX;, and U+FFFD for what XML does not allow at all. Line feeds stay. */
 QString printableXml(const QString &text);
 
-/** The same for JSON of one line: as \uXXXX. */
-QByteArray printableJson(const QByteArray &json);
+/** The same inside a string of JSON: as \uXXXX, with quotation marks and backslashes escaped. In UTF-8. */
+QByteArray jsonEscaped(const QString &text);
 
 /** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
 QString quoted(const QString &text);

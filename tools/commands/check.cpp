@@ -8,16 +8,17 @@
 #include "escaping.h"
 #include "findings.h"
 
-#include <QtCore/QHash>
 #include <QtCore/QIODevice>
 #include <QtCore/QSet>
+
+#include <map>
 
 namespace
 {
 struct Region {
     QString id;
     int line;
-    bool used;
+    bool used; ///< or nothing more to be said of it
 };
 }
 
@@ -73,15 +74,16 @@ private:
         if (name == QLatin1String("region")) {
             regions.append({element.attribute(QStringLiteral("id")), element.lineNumber(), false});
         }
-        QSet<QString> seen;
+        QStringList seen;
         bool mediaSeen = false;
         bool outOfOrder = false;
         // The library knows the names of the timeline in any letter case.
         const bool anyCase = known.all.contains(QStringLiteral("par"));
         for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
             const QString childName = anyCase ? child.tagName().toLower() : child.tagName();
-            const bool again = known.first.contains(childName) && seen.contains(childName);
-            if (again || !(known.first.contains(childName) || known.all.contains(childName))) {
+            const bool isFirst = known.first.contains(childName);
+            const bool again = isFirst && seen.contains(childName);
+            if (again || !(isFirst || known.all.contains(childName))) {
                 add(Finding::LostElement, child,
                     QStringLiteral("lost when written back: %1 in %2")
                         .arg(again ? QLatin1String("another ") + printable(child.tagName().left(bounds::quotation))
@@ -89,7 +91,9 @@ private:
                              name));
                 continue;
             }
-            seen.insert(childName);
+            if (isFirst) {
+                seen += childName;
+            }
             if (isNode(name) && isNode(childName)) {
                 add(Finding::NestedTimeline, child, QStringLiteral("nested: %1 in %2").arg(childName, name));
             }
@@ -196,32 +200,29 @@ private:
 
     void checkRegions()
     {
-        QHash<QString, int> byId;
-        for (int i = 0; i < regions.size(); ++i) {
-            const Region &region = regions.at(i);
+        std::map<QString, Region *> byId; // in order: strangers can make hashes collide
+        for (Region &region : regions) {
+            region.used = region.id.isEmpty() || !byId.try_emplace(region.id, &region).second;
             if (region.id.isEmpty()) {
                 found.add(Finding::MissingId, region.line, QStringLiteral("region without id"));
-            } else if (byId.contains(region.id)) {
+            } else if (region.used) {
                 found.add(Finding::DuplicateRegion, region.line,
                           QStringLiteral("more than one region: %1").arg(excerpt(region.id)));
-            } else {
-                byId.insert(region.id, i);
             }
         }
         for (const Region &reference : std::as_const(references)) {
-            const int i = byId.value(reference.id, -1);
-            if (i < 0) {
+            const auto region = byId.find(reference.id);
+            if (region == byId.end()) {
                 found.add(Finding::UnknownRegion, reference.line,
                           QStringLiteral("no such region: %1").arg(excerpt(reference.id)));
             } else {
-                regions[i].used = true;
+                region->second->used = true;
             }
         }
         // Phones write both, whether they use them or not.
         const QStringList written{QStringLiteral("Image"), QStringLiteral("Text")};
-        for (int i = 0; i < regions.size(); ++i) {
-            const Region &region = regions.at(i);
-            if (!region.used && !written.contains(region.id) && byId.value(region.id, -1) == i) {
+        for (const Region &region : std::as_const(regions)) {
+            if (!region.used && !written.contains(region.id)) {
                 found.add(Finding::UnusedRegion, region.line,
                           QStringLiteral("nothing plays in region: %1").arg(excerpt(region.id)));
             }

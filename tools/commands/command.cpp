@@ -17,7 +17,7 @@ Result withMessage(const QString &file, const Arguments &arguments, SmilParser::
         return {false, {problem.toString()}};
     }
     Result result = use(message);
-    result.problems += message.parts.problems();
+    result.problems += message.parts.problems(file);
     result.well = result.well && result.problems.isEmpty();
     return result;
 }

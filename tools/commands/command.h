@@ -20,7 +20,7 @@ struct Arguments {
     QString folder; ///< to write files into
     QStringList ignored; ///< names of findings
     QSize size = {320, 480}; ///< of a screen in pixels; empty if what is given is none
-    double seconds = 5; ///< that a slide lasts; not above 0 if what is given is none
+    double seconds = 5; ///< that a slide lasts; 0 if what is given is no number
     QString title;
     bool plain = false;
     bool json = false;

@@ -28,11 +28,8 @@ void show(const Message &message, QIODevice &out);
  */
 void render(Message &message, QIODevice &out);
 
-/**
- * Draws the message as a picture in SVG, with the parts that it has: a frame for each thing that plays by itself.
- * Returns whether all could be written.
- */
-bool storyboard(Message &message, QIODevice &out);
+/** Draws the message as a picture in SVG, with the parts that it has: a frame for each slide. */
+void storyboard(Message &message, QIODevice &out);
 
 /**
  * Writes to @p out what its sender or receiver might want to know of the message, a line each, but for the findings

@@ -87,12 +87,11 @@ static Result run(const QString &, const Arguments &arguments, QIODevice &out)
     SmilDocument message = composer.message();
     message.header.title = arguments.title;
     const QByteArray text = SmilParser(message).toXml() + '\n';
-    const auto write = [&text](QIODevice &device) { return device.write(text) == text.size(); };
     if (!arguments.toFile()) {
-        write(out); // the caller looks whether all was written
+        out.write(text);
         return added;
     }
-    const QString problem = writeFile(arguments.output, write);
+    const QString problem = writeFile(arguments.output, text);
     return problem.isEmpty() ? added : failure(arguments.output, problem);
 }
 

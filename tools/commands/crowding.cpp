@@ -7,6 +7,7 @@
 #include <smilparser/smilplayback.h>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 /**
@@ -45,11 +46,11 @@ void findCrowding(const QDomElement &smil, const SmilLayout &layout, Findings &f
 {
     markLines(smil);
     const SmilScreen screen(layout);
-    const SmilTimeline timeline(smil);
+    const QList<SmilCue> cues = SmilTimeline(smil).cues();
     QList<const SmilCue *> additions;
     // The cues are in the order in which they begin: one comes in addition if any of those before it still plays.
-    QHash<QPair<int, int>, double> ends;
-    for (const SmilCue &cue : timeline.cues()) {
+    std::map<std::pair<int, int>, double> ends;
+    for (const SmilCue &cue : cues) {
         if (cue.begin < cue.end) {
             double &end = ends[{roomOf(cue.ref), screen.regionIndex(cue.ref.region)}];
             if (cue.begin < end) {

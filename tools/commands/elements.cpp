@@ -3,7 +3,7 @@
 
 #include "elements.h"
 
-#include <QtCore/QHash>
+#include <QtCore/QMap>
 
 static QStringList words(const char *text)
 {
@@ -28,9 +28,9 @@ static const struct {
     {"text img audio video ref", "src region",                                "",                      ""      },
 };
 
-static QHash<QString, Element> byName()
+static QMap<QString, Element> byName()
 {
-    QHash<QString, Element> result;
+    QMap<QString, Element> result;
     for (const auto &row : table) {
         const QStringList names = words(row.elements);
         for (const QString &name : names) {
@@ -42,7 +42,7 @@ static QHash<QString, Element> byName()
 
 const Element &elementNamed(const QString &element)
 {
-    static const QHash<QString, Element> known = byName();
+    static const QMap<QString, Element> known = byName();
     static const Element unknown;
     const auto found = known.constFind(element);
     return found == known.constEnd() ? unknown : *found;

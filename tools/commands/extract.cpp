@@ -5,9 +5,13 @@
 #include "commands.h"
 #include "escaping.h"
 #include "filenames.h"
-#include "outputfolder.h"
+#include "outputfile.h"
+#include "plainfile.h"
 
-#include <QtCore/QIODevice>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+#include <set>
 
 static QString lineOf(const QString &name, const MmsPart &part)
 {
@@ -15,29 +19,64 @@ static QString lineOf(const QString &name, const MmsPart &part)
         .arg(quoted(name), printable(shortened(part.type, bounds::header)), QString::number(part.data.size()));
 }
 
-static void write(const Message &message, const QString &path, QIODevice &out, Result &result)
+/** Writes the file, unless it is there already. Returns why that failed, or else nothing. */
+static QString write(const QString &file, const QByteArray &data)
+{
+    const QString problem = createFile(file, data);
+    QFile there;
+    const bool isThere = !problem.isEmpty() && openPlainFile(file, Links::Refused, there).isEmpty()
+        && there.size() == data.size() && there.readAll() == data;
+    return isThere ? QString() : problem;
+}
+
+/** A line for each src that does not find in the folder what it means in the message. */
+static QStringList lost(const Message &message, const QStringList &srcs, const QString &path,
+                        const QVector<QString> &names)
 {
     QString problem;
-    const OutputFolder folder(path, problem);
+    const Parts files(Folder(path, problem), QString());
     if (!problem.isEmpty()) {
-        result.well = false;
-        result.problems.append(path + QLatin1String(": ") + problem);
-        return;
+        return {path + QLatin1String(": ") + problem};
     }
-    const FileNames files = fileNames(message);
-    for (int i = 0; i < int(files.names.size()); ++i) {
-        const MmsPart &part = message.mms.parts.at(i);
-        problem = folder.write(files.names.at(i), part.data);
-        if (problem.isEmpty()) {
-            out.write(lineOf(files.names.at(i), part).toUtf8());
-        } else {
-            result.well = false;
-            result.problems.append(QStringLiteral("%1/%2: %3").arg(path, files.names.at(i), problem));
+    QStringList lines;
+    std::set<QString> told;
+    for (const QString &src : srcs) {
+        const int part = message.parts.find(src);
+        const int file = files.find(src);
+        const QString meant = part < 0 ? QStringLiteral("no part") : names.at(part);
+        const QString found = file < 0 ? QStringLiteral("no file") : files.at(file).name;
+        const bool isSame = part < 0 || file < 0 ? part == file : meant == found;
+        if (!isSame && told.insert(src).second) {
+            lines.append(QStringLiteral("%1: means %2, but finds %3").arg(src, meant, found));
         }
     }
-    for (const auto &[src, name] : files.lost) {
-        result.problems.append(QStringLiteral("%1: written as %2").arg(src, name));
+    return lines;
+}
+
+static void write(const Message &message, const QString &path, QIODevice &out, Result &result)
+{
+    if (!QDir().mkpath(path)) {
+        result.well = false;
+        result.problems.append(path + QLatin1String(": is no folder, and none can be made there"));
+        return;
     }
+    QStringList srcs;
+    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
+    for (const SmilCue &cue : cues) {
+        srcs.append(cue.ref.src);
+    }
+    const QVector<QString> names = fileNames(message, srcs);
+    for (int i = 0; i < int(names.size()); ++i) {
+        const MmsPart &part = message.mms.parts.at(i);
+        const QString problem = write(path + QLatin1Char('/') + names.at(i), part.data);
+        if (problem.isEmpty()) {
+            out.write(lineOf(names.at(i), part).toUtf8());
+        } else {
+            result.well = false;
+            result.problems.append(QStringLiteral("%1/%2: %3").arg(path, names.at(i), problem));
+        }
+    }
+    result.problems += lost(message, srcs, path, names);
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)

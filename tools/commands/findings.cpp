@@ -40,13 +40,11 @@ QString excerpt(const QString &text)
 
 void Findings::add(Finding finding, int line, const QString &subject, const QString &detail)
 {
-    const QPair<int, QString> key(int(finding), subject);
-    auto index = indexes.constFind(key);
-    if (index == indexes.constEnd()) {
-        index = indexes.insert(key, int(entries.size()));
+    const auto [index, isNew] = indexes.try_emplace({finding, subject}, int(entries.size()));
+    if (isNew) {
         entries.append({finding, line, subject, {}, 0});
     }
-    Entry &entry = entries[*index];
+    Entry &entry = entries[index->second];
     ++entry.count;
     if (!detail.isEmpty() && entry.details.size() <= shownDetails && !entry.details.contains(detail)) {
         entry.details.append(detail);

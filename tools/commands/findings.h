@@ -4,8 +4,10 @@
 #ifndef SMILTOOL_FINDINGS_H
 #define SMILTOOL_FINDINGS_H
 
-#include <QtCore/QHash>
 #include <QtCore/QStringList>
+
+#include <map>
+#include <utility>
 
 /** What may be odd in a message. The first ones matter to whom it is shown. */
 enum class Finding {
@@ -61,7 +63,8 @@ private:
     };
 
     QList<Entry> entries;
-    QHash<QPair<int, QString>, int> indexes; ///< by finding and subject
+    std::map<std::pair<Finding, QString>, int>
+        indexes; ///< by subject; in order, as strangers could make hashes collide
 };
 
 #endif

@@ -2,248 +2,246 @@
 // SPDX-License-Identifier: MIT
 
 #include "json.h"
+#include "bounds.h"
 #include "escaping.h"
 
 #include <smilparser/smilplayback.h>
 
 #include <QtCore/QIODevice>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QtCore/QLocale>
+
+#include <cmath>
 
 namespace
 {
-/**
- * The elements of an array, written one by one: there are as many as the message has elements, and all at once they
- * take several hundred times its size.
- */
-class Elements
+/** Writes JSON piece by piece: all of a message at once takes several hundred times its size. */
+class Json
 {
 public:
-    explicit Elements(QIODevice &device)
+    explicit Json(QIODevice &device)
         : out(device)
     {
     }
 
-    void add(const QJsonObject &element);
+    /** An object of what @p fill adds: the value of @p key or, without one, an element of a list, as all that follow.
+     */
+    template<typename Fill>
+    void object(const QByteArray &key, Fill fill)
+    {
+        next(key, "{");
+        isFirst = true;
+        fill();
+        out.putChar('}');
+        isFirst = false;
+    }
+
+    /** A list of what @p each adds for the elements. */
+    template<typename List, typename Each>
+    void list(const QByteArray &key, const List &elements, Each each)
+    {
+        next(key, "[");
+        isFirst = true;
+        for (const auto &element : elements) {
+            each(element);
+        }
+        out.putChar(']');
+        isFirst = false;
+    }
+
+    /** Nothing if the text is null. */
+    void add(const QByteArray &key, const QString &text)
+    {
+        if (!text.isNull()) {
+            next(key, '"' + jsonEscaped(text) + '"');
+        }
+    }
+
+    void add(const QByteArray &key, double number)
+    {
+        const bool isWhole = number == std::trunc(number) && std::fabs(number) < 1e15;
+        next(key,
+             qIsInf(number) ? QByteArray(number > 0 ? "\"inf\"" : "\"-inf\"")
+                 : isWhole  ? QByteArray::number(qint64(number))
+                            : QByteArray::number(number, 'g', QLocale::FloatingPointShortest));
+    }
+
+    void add(const QByteArray &key, const SmilUnit &measure);
 
 private:
+    void next(const QByteArray &key, const QByteArray &value)
+    {
+        out.write(isFirst ? "" : ",");
+        out.write(key.isEmpty() ? key : '"' + key + "\":");
+        out.write(value);
+        isFirst = false;
+    }
+
     QIODevice &out;
     bool isFirst = true;
 };
 }
 
-/** What an object does not take, and so does not hold. */
-static QJsonValue nothing()
-{
-    return QJsonValue(QJsonValue::Undefined);
-}
-
-static QByteArray written(const QJsonObject &object)
-{
-    return printableJson(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-void Elements::add(const QJsonObject &element)
-{
-    out.write(isFirst ? "" : ",");
-    out.write(written(element));
-    isFirst = false;
-}
-
-static QJsonValue toJson(const QString &text)
-{
-    // Half a surrogate pair, which others do not read in JSON, becomes U+FFFD on the way.
-    return text.isNull() ? nothing() : QJsonValue(QString::fromStdU32String(text.toStdU32String()));
-}
-
-static QJsonValue toJson(double number)
-{
-    return qIsInf(number) ? QJsonValue(number > 0 ? QStringLiteral("inf") : QStringLiteral("-inf"))
-                          : QJsonValue(number);
-}
-
-static QJsonValue toJson(const SmilUnit &measure)
+/** Nothing if the measure is not valid. */
+void Json::add(const QByteArray &key, const SmilUnit &measure)
 {
     static const char *const units[] = {"pt", "in", "cm", "px", "%", "s", ""};
-    if (!measure.valid) {
-        return nothing();
-    }
-    return QJsonObject{
-        {QStringLiteral("value"), toJson(measure.value)             },
-        {QStringLiteral("unit"),  QLatin1String(units[measure.unit])},
-        {QStringLiteral("text"),  measure.toString()                }
-    };
-}
-
-static QJsonValue toJson(const SmilMeta &meta)
-{
-    return QJsonObject{
-        {QStringLiteral("id"),      toJson(meta.id)     },
-        {QStringLiteral("name"),    toJson(meta.name)   },
-        {QStringLiteral("content"), toJson(meta.content)}
-    };
-}
-
-static QJsonValue toJson(const SmilRegion &region)
-{
-    return QJsonObject{
-        {QStringLiteral("id"),     toJson(region.id)    },
-        {QStringLiteral("width"),  toJson(region.width) },
-        {QStringLiteral("height"), toJson(region.height)},
-        {QStringLiteral("bottom"), toJson(region.bottom)},
-        {QStringLiteral("top"),    toJson(region.top)   },
-        {QStringLiteral("left"),   toJson(region.left)  },
-        {QStringLiteral("right"),  toJson(region.right) },
-        {QStringLiteral("fit"),    toJson(region.fit)   }
-    };
-}
-
-static QJsonValue toJson(const SmilRef &ref)
-{
-    return QJsonObject{
-        {QStringLiteral("type"),   QLatin1String(mediaKind(ref).element)},
-        {QStringLiteral("src"),    toJson(ref.src)                      },
-        {QStringLiteral("region"), toJson(ref.region)                   }
-    };
-}
-
-static QJsonValue toJson(const QRectF &area)
-{
-    return QJsonObject{
-        {QStringLiteral("x"),      toJson(area.x())     },
-        {QStringLiteral("y"),      toJson(area.y())     },
-        {QStringLiteral("width"),  toJson(area.width()) },
-        {QStringLiteral("height"), toJson(area.height())}
-    };
-}
-
-template<typename List>
-static QJsonArray toArray(const List &list)
-{
-    QJsonArray array;
-    for (const auto &element : list) {
-        array.append(toJson(element));
-    }
-    return array;
-}
-
-static QJsonObject toJson(const SmilHeader &header)
-{
-    const SmilLayout &layout = header.layout;
-    const QJsonObject sizes{
-        {QStringLiteral("rootLayoutWidth"),  toJson(layout.rootLayoutWidth) },
-        {QStringLiteral("rootLayoutHeight"), toJson(layout.rootLayoutHeight)},
-        {QStringLiteral("topLayoutWidth"),   toJson(layout.topLayoutWidth)  },
-        {QStringLiteral("topLayoutHeight"),  toJson(layout.topLayoutHeight) },
-        {QStringLiteral("regions"),          toArray(layout.regions)        }
-    };
-    return {
-        {QStringLiteral("id"),        toJson(header.id)       },
-        {QStringLiteral("className"), toJson(header.className)},
-        {QStringLiteral("title"),     toJson(header.title)    },
-        {QStringLiteral("metas"),     toArray(header.metas)   },
-        {QStringLiteral("layout"),    sizes                   }
-    };
-}
-
-static void addMessage(const Message &message, QJsonObject &object)
-{
-    const MmsMessage &mms = message.mms;
-    QJsonArray parts;
-    for (int i = 0; i < int(mms.parts.size()); ++i) {
-        parts.append(QJsonObject{
-            {QStringLiteral("name"), toJson(message.parts.at(i).name)   },
-            {QStringLiteral("type"), toJson(mms.parts.at(i).type)       },
-            {QStringLiteral("size"), double(mms.parts.at(i).data.size())}
+    if (measure.valid) {
+        object(key, [&] {
+            add("value", measure.value);
+            add("unit", QString(QLatin1String(units[measure.unit])));
+            add("text", measure.toString());
         });
     }
-    object.insert(QStringLiteral("from"), toJson(mms.from));
-    object.insert(QStringLiteral("to"), toArray(mms.to));
-    object.insert(QStringLiteral("subject"), toJson(mms.subject));
-    object.insert(QStringLiteral("date"), mms.date.isValid() ? toJson(mms.date.toString(Qt::ISODate)) : nothing());
-    object.insert(QStringLiteral("parts"), parts);
 }
 
-static void writeNodes(const SmilNode &node, int depth, Elements &nodes)
+static QString header(const QString &text)
 {
-    nodes.add({
-        {QStringLiteral("depth"), depth                                                                     },
-        {QStringLiteral("type"),  node.type == SmilNode::Seq ? QStringLiteral("seq") : QStringLiteral("par")},
-        {QStringLiteral("dur"),   toJson(node.dur)                                                          },
-        {QStringLiteral("refs"),  toArray(node.refs)                                                        }
+    return shortened(text, bounds::header);
+}
+
+static void addMessage(const Message &message, Json &json)
+{
+    const MmsMessage &mms = message.mms;
+    json.add("from", header(mms.from));
+    json.list("to", mms.to, [&](const QString &receiver) { json.add({}, header(receiver)); });
+    json.add("subject", header(mms.subject));
+    json.add("date", mms.date.isValid() ? mms.date.toString(Qt::ISODate) : QString());
+    int i = 0;
+    json.list("parts", mms.parts, [&](const MmsPart &part) {
+        json.object({}, [&] {
+            json.add("name", header(message.parts.at(i++).name));
+            json.add("type", header(part.type));
+            json.add("size", double(part.data.size()));
+        });
+    });
+}
+
+static void addLayout(const SmilLayout &layout, Json &json)
+{
+    json.add("rootLayoutWidth", layout.rootLayoutWidth);
+    json.add("rootLayoutHeight", layout.rootLayoutHeight);
+    json.add("topLayoutWidth", layout.topLayoutWidth);
+    json.add("topLayoutHeight", layout.topLayoutHeight);
+    json.list("regions", layout.regions, [&](const SmilRegion &region) {
+        json.object({}, [&] {
+            json.add("id", region.id);
+            json.add("width", region.width);
+            json.add("height", region.height);
+            json.add("bottom", region.bottom);
+            json.add("top", region.top);
+            json.add("left", region.left);
+            json.add("right", region.right);
+            json.add("fit", region.fit);
+        });
+    });
+}
+
+static void addHeader(const SmilHeader &header, Json &json)
+{
+    json.add("id", header.id);
+    json.add("className", header.className);
+    json.add("title", header.title);
+    json.list("metas", header.metas, [&](const SmilMeta &meta) {
+        json.object({}, [&] {
+            json.add("id", meta.id);
+            json.add("name", meta.name);
+            json.add("content", meta.content);
+        });
+    });
+    json.object("layout", [&] { addLayout(header.layout, json); });
+}
+
+static void addRef(const QByteArray &key, const SmilRef &ref, Json &json)
+{
+    json.object(key, [&] {
+        json.add("type", QString(QLatin1String(mediaKind(ref).element)));
+        json.add("src", ref.src);
+        json.add("region", ref.region);
+    });
+}
+
+static void addNodes(const SmilNode &node, int depth, Json &json)
+{
+    json.object({}, [&] {
+        json.add("depth", depth);
+        json.add("type", node.type == SmilNode::Seq ? QStringLiteral("seq") : QStringLiteral("par"));
+        json.add("dur", node.dur);
+        json.list("refs", node.refs, [&](const SmilRef &ref) { addRef({}, ref, json); });
     });
     for (const SmilNode &child : node.children) {
-        writeNodes(child, depth + 1, nodes);
+        addNodes(child, depth + 1, json);
     }
-}
-
-static QJsonObject paramsOf(const SmilCue &cue)
-{
-    QJsonObject params;
-    for (auto param = cue.params.cbegin(); param != cue.params.cend(); ++param) {
-        params.insert(toJson(param.key()).toString(), toJson(param.value()));
-    }
-    return params;
 }
 
 /** Where a cue is shown when nothing shares the area with it. */
-static QRectF areaOf(const SmilCue &cue, const SmilScreen &screen)
+static void addArea(const SmilCue &cue, const SmilScreen &screen, Json &json)
 {
-    const int region = screen.regionIndex(cue.ref.region);
-    return region < 0 ? QRectF(QPointF(), screen.size()) : screen.regionRects().at(region);
+    const QRectF area =
+        screen.regionRects().value(screen.regionIndex(cue.ref.region), QRectF(QPointF(), screen.size()));
+    json.object("area", [&] {
+        json.add("x", area.x());
+        json.add("y", area.y());
+        json.add("width", area.width());
+        json.add("height", area.height());
+    });
 }
 
-static void writeCues(const Message &message, const SmilTimeline &timeline, Elements &cues)
+static void addCue(const SmilCue &cue, const SmilScreen &screen, int part, Json &json)
+{
+    json.add("begin", cue.begin);
+    json.add("end", cue.end);
+    addRef("ref", cue.ref, json);
+    json.add("alt", cue.alt);
+    json.object("params", [&] {
+        for (auto param = cue.params.cbegin(); param != cue.params.cend(); ++param) {
+            json.add(jsonEscaped(param.key()), param.value());
+        }
+    });
+    if (cue.ref.type != SmilRef::Audio) {
+        addArea(cue, screen, json);
+    }
+    if (part >= 0) {
+        json.add("part", part);
+    }
+}
+
+static void addTimeline(const Message &message, Json &json)
 {
     const SmilScreen screen(message.document.header.layout);
-    for (const SmilCue &cue : timeline.cues()) {
-        const int part = message.parts.find(cue.ref.src);
-        cues.add({
-            {QStringLiteral("begin"),  toJson(cue.begin)                                             },
-            {QStringLiteral("end"),    toJson(cue.end)                                               },
-            {QStringLiteral("ref"),    toJson(cue.ref)                                               },
-            {QStringLiteral("alt"),    toJson(cue.alt)                                               },
-            {QStringLiteral("params"), paramsOf(cue)                                                 },
-            {QStringLiteral("area"),   cue.ref.type == SmilRef::Audio ? nothing() : toJson(areaOf(cue, screen))},
-            {QStringLiteral("part"),                        part < 0 ? nothing() : part                                                                }
-        });
-    }
+    const SmilTimeline timeline(message.dom.documentElement());
+    json.add("duration", timeline.duration());
+    json.list("slides", timeline.slideBegins(), [&](double begin) { json.add({}, begin); });
+    json.list("cues", timeline.cues(), [&](const SmilCue &cue) {
+        json.object({}, [&] { addCue(cue, screen, message.parts.find(cue.ref.src), json); });
+    });
 }
 
 void showJson(const Message &message, QIODevice &out)
 {
-    QJsonObject beginning{
-        {QStringLiteral("file"),   toJson(message.file)           },
-        {QStringLiteral("header"), toJson(message.document.header)}
-    };
-    if (message.parts.areKnown()) {
-        addMessage(message, beginning);
-    }
-    out.write(written(beginning).chopped(1) + ",\"nodes\":[");
-    Elements nodes(out);
-    writeNodes(message.document.body.root, 0, nodes);
-    const SmilTimeline timeline(message.dom.documentElement());
-    out.write("],\"timeline\":"
-              + written({
-                            {QStringLiteral("duration"), toJson(timeline.duration())},
-                            {QStringLiteral("slides"),   toArray(timeline.slideBegins()) }
-    })
-                    .chopped(1)
-              + ",\"cues\":[");
-    Elements cues(out);
-    writeCues(message, timeline, cues);
-    out.write("]}}\n");
+    Json json(out);
+    json.object({}, [&] {
+        json.add("file", message.file);
+        if (message.parts.areKnown()) {
+            addMessage(message, json);
+        }
+        json.object("header", [&] { addHeader(message.document.header, json); });
+        json.list("nodes", QList<SmilNode>{message.document.body.root},
+                  [&](const SmilNode &root) { addNodes(root, 0, json); });
+        json.object("timeline", [&] { addTimeline(message, json); });
+    });
+    out.putChar('\n');
 }
 
 void showJson(const QString &file, const Problem &problem, QIODevice &out)
 {
-    const auto place = [&problem](int number) { return problem.line == 0 ? nothing() : QJsonValue(number); };
-    out.write(written({
-                  {QStringLiteral("file"),   toJson(file)         },
-                  {QStringLiteral("error"),  toJson(problem.text) },
-                  {QStringLiteral("line"),   place(problem.line)  },
-                  {QStringLiteral("column"), place(problem.column)}
-    })
-              + '\n');
+    Json json(out);
+    json.object({}, [&] {
+        json.add("file", file);
+        json.add("error", problem.text);
+        if (problem.line != 0) {
+            json.add("line", problem.line);
+            json.add("column", problem.column);
+        }
+    });
+    out.putChar('\n');
 }

@@ -10,6 +10,8 @@
 #include "svg.h"
 #include "times.h"
 
+#include <QtCore/QBuffer>
+
 #include <algorithm>
 
 // In units of the picture.
@@ -27,7 +29,7 @@ text { fill: currentColor; }
 .number { font-weight: bold; font-size: 13px; }
 .id { font-style: italic; }
 .rtl { direction: rtl; }
-.cross { stroke: currentColor; stroke-width: 0.75; fill: none; }
+.missing { stroke-width: 1.5; stroke-dasharray: 6 4; }
 @media (prefers-color-scheme: dark) {
   svg { color: #e6eaf0; }
   .page { fill: #171b22; }
@@ -42,13 +44,15 @@ static void draw(Svg &svg, Media &media, const Picture &picture, const Screen &s
     svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
     for (const Shown &shown : picture.shown) {
         const QString colour = shown.region < 0 ? QString() : QStringLiteral(" r%1").arg(shown.region % 5);
-        svg.rectangle(shown.area, QLatin1String("region") + colour);
-        media.draw(shown);
+        svg.rectangle(shown.area, QLatin1String("region") + colour + QLatin1String(shown.missing ? " missing" : ""));
+        if (shown.part >= 0) {
+            media.draw(shown);
+        }
     }
     // After all of these, so that none hides a name in another.
     for (const Label &label : picture.labels) {
         svg.beginClip(QRectF(label.area.topLeft(), QSizeF(label.room, lineHeight)));
-        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.isId ? "id" : nullptr);
+        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.region < 0 ? nullptr : "id");
         svg.endGroup();
     }
     const double lines = picture.below.size() + 1.5;
@@ -79,7 +83,7 @@ static SmilTimeline timelineOf(const Message &message)
     return SmilTimeline(message.dom.documentElement());
 }
 
-bool storyboard(Message &message, QIODevice &out)
+void storyboard(Message &message, QIODevice &out)
 {
     const Screen screen(message.document.header.layout);
     const SmilTimeline timeline = timelineOf(message);
@@ -117,7 +121,7 @@ bool storyboard(Message &message, QIODevice &out)
     } else {
         svg.text(QPointF(margin, page.height() - 4), duration + more);
     }
-    return svg.end();
+    svg.end();
 }
 
 /** Whether a file in the folder of the parts is one that the message refers to. */
@@ -142,15 +146,21 @@ static Result drawTo(const QString &name, const QString &folder, Message &messag
     if (isPart(name, folder, message)) {
         return failure(name, QStringLiteral("is a part of the message"));
     }
-    const QString problem = writeFile(name, [&message](QIODevice &out) { return storyboard(message, out); });
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    storyboard(message, picture);
+    const QString problem = writeFile(name, picture.data());
     return problem.isEmpty() ? Result() : failure(name, problem);
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
-        return arguments.toFile() ? drawTo(arguments.output, arguments.parts, message)
-                                  : Result{storyboard(message, out), {}};
+        if (arguments.toFile()) {
+            return drawTo(arguments.output, arguments.parts, message);
+        }
+        storyboard(message, out);
+        return Result();
     });
 }
 

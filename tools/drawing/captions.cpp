@@ -45,7 +45,9 @@ static int freeLine(const QRectF &area, const QList<Label> &labels, int from, do
 static void label(const Shown &shown, const QString &id, Picture &picture)
 {
     const QRectF &area = shown.area;
-    const bool withId = !id.isEmpty() && 2 * lineHeight <= area.height();
+    const auto isNamed = [&shown](const Label &label) { return label.region == shown.region; };
+    const bool withId = !id.isEmpty() && 2 * lineHeight <= area.height()
+        && std::none_of(picture.labels.cbegin(), picture.labels.cend(), isNamed);
     int next = 0;
     for (const QString &line : withId ? QStringList{id, shown.name} : QStringList{shown.name}) {
         const bool isId = withId && next == 0;
@@ -54,7 +56,7 @@ static void label(const Shown &shown, const QString &id, Picture &picture)
         const int free = length <= area.width() ? freeLine(area, picture.labels, next, length) : -1;
         if (free >= 0) {
             const QRectF taken(area.x(), area.y() + free * lineHeight, length, lineHeight);
-            picture.labels.append({taken, area.width(), text, isId});
+            picture.labels.append({taken, area.width(), text, isId ? shown.region : -1});
         } else if (!isId) {
             picture.below.append(lineBelow(line, id.isEmpty() ? id : QLatin1String(" in ") + id));
         }
@@ -78,7 +80,7 @@ void Captions::add(const SmilCue &cue, const QRectF &place, Picture &picture)
     } else {
         const bool drawn = part >= 0 && isDrawn(parts.read(part).content.kind);
         const QString words = wordsFor(cue) + (id.isEmpty() ? id : QLatin1String(" in ") + id);
-        picture.shown.append({place, area, region, name, words, drawn ? part : -1, isMissing});
+        picture.shown.append({place, area, region, name + remark, words, drawn ? part : -1, isMissing});
         if (!drawn) {
             label(picture.shown.last(), id, picture);
         }

@@ -13,7 +13,7 @@ struct Label {
     QRectF area; ///< that it takes, about
     double room; ///< to the edge of the place that it is in
     QString text;
-    bool isId;
+    int region; ///< whose name it is; -1: the name of a medium
 };
 
 /** A medium that can be seen. */
@@ -53,7 +53,7 @@ private:
     const Screen &screen;
     Parts &parts;
     // Each is looked for once, however many frames show it: both its name and the names of parts may be long.
-    QHash<QString, int> found;
+    QMap<QString, int> found;
 };
 
 #endif

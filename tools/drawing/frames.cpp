@@ -27,15 +27,31 @@ QString wordsFor(const SmilCue &cue)
     return cue.alt.isEmpty() ? nameOf(cue.ref) : withSign(cue.ref, cue.alt);
 }
 
+/** Of all that plays in that time, as much as is told apart. The cues are in the order in which they begin. */
+static QList<SmilCue> playing(const QList<SmilCue> &cues, double begin, double end)
+{
+    QList<SmilCue> some;
+    for (const SmilCue &cue : cues) {
+        if (cue.begin >= end || some.size() == bounds::media) {
+            break;
+        }
+        if (cue.end > begin && cue.end > cue.begin) {
+            some.append(cue);
+        }
+    }
+    return some;
+}
+
 QList<Frame> framesOf(const SmilTimeline &timeline)
 {
     QList<Frame> frames;
+    const QList<SmilCue> cues = timeline.cues();
     const QList<double> slides = timeline.slideBegins().mid(0, bounds::frames + 1);
     for (int i = 0; i < qMin(int(slides.size()), bounds::frames); ++i) {
         const double begin = slides.at(i);
         const double length = slides.value(i + 1, timeline.duration()) - begin;
         frames.append({QStringLiteral("%1 \u00b7 %2 \u00b7 %3").arg(i + 1).arg(clockText(begin), lengthText(length)),
-                       timeline.cuesBetween(begin, slides.value(i + 1, qInf())).mid(0, bounds::media)});
+                       playing(cues, begin, slides.value(i + 1, qInf()))});
     }
     return frames;
 }

@@ -21,25 +21,28 @@ void Media::draw(const Shown &shown)
                              .arg(area.height())
         + shown.words;
     const auto before = drawn.constFind(what);
-    if (shown.part < 0) {
-        if (shown.missing) {
-            svg.cross(area);
-        }
-    } else if (before != drawn.constEnd()) {
+    if (before != drawn.constEnd()) {
         svg.reuse(*before);
     } else {
         const QString id = QStringLiteral("p%1").arg(drawn.size() + 1);
         drawn.insert(what, id);
-        draw(parts.read(shown.part), shown, id);
+        draw(shown, id);
     }
 }
 
-void Media::draw(const Parts::Part &part, const Shown &shown, const QString &id)
+void Media::draw(const Shown &shown, const QString &id)
 {
+    const Parts::Part &part = parts.read(shown.part);
     svg.beginClip(shown.area, id);
     svg.title(shown.words);
     const bool isPicture = part.content.kind == PartKind::Picture;
-    if (drawn.size() > bounds::drawn || (isPicture && part.data.size() > left)) {
+    const bool isTooLarge = isPicture && part.data.size() > left;
+    if (isTooLarge) {
+        parts.leaveOut(shown.part,
+                       QStringLiteral("would be more than %1 MiB with the pictures before it")
+                           .arg(bounds::pictures / bounds::mebibyte));
+    }
+    if (isTooLarge || drawn.size() > bounds::drawn) {
         svg.text(QPointF(4, 0.75 * lineHeight), shown.name);
     } else if (isPicture) {
         drawPicture(part, shown);

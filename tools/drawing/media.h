@@ -19,17 +19,18 @@ public:
     {
     }
 
+    /** Draws what has a part. */
     void draw(const Shown &shown);
 
 private:
-    void draw(const Parts::Part &part, const Shown &shown, const QString &id);
+    void draw(const Shown &shown, const QString &id);
     void drawPicture(const Parts::Part &part, const Shown &shown);
     void drawText(const Parts::Part &part, const QSizeF &size);
 
     Svg &svg;
     const Screen &screen;
     Parts &parts;
-    QHash<QString, QString> drawn; ///< the id of each, by all that it depends on
+    QMap<QString, QString> drawn; ///< the id of each, by all that it depends on
     qint64 left = bounds::pictures;
 };
 

@@ -25,11 +25,10 @@ void Svg::begin(const QSizeF &size, const QString &title, const QString &descrip
     writer.writeTextElement(QStringLiteral("style"), QLatin1String(style));
 }
 
-bool Svg::end()
+void Svg::end()
 {
     writer.writeEndElement();
     writer.writeEndDocument();
-    return !writer.hasError();
 }
 
 void Svg::beginGroup(const QPointF &corner)
@@ -75,18 +74,6 @@ void Svg::text(const QPointF &at, const QString &line, const char *kind)
 void Svg::title(const QString &text)
 {
     writer.writeTextElement(QStringLiteral("title"), text);
-}
-
-void Svg::cross(const QRectF &edges)
-{
-    writer.writeEmptyElement(QStringLiteral("path"));
-    writer.writeAttribute(QStringLiteral("d"),
-                          QStringLiteral("M%1 %2 %3 %4M%1 %4 %3 %2")
-                              .arg(edges.left())
-                              .arg(edges.top())
-                              .arg(edges.right())
-                              .arg(edges.bottom()));
-    writer.writeAttribute(QStringLiteral("class"), QStringLiteral("cross"));
 }
 
 void Svg::image(const QString &type, const QByteArray &data, const QRectF &edges, bool distorted)

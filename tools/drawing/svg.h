@@ -15,8 +15,7 @@ public:
 
     /** @p description is for who cannot see the picture. */
     void begin(const QSizeF &size, const QString &title, const QString &description, const char *style);
-    /** Returns whether all could be written. */
-    bool end();
+    void end();
 
     /** Everything up to endGroup() has its origin at @p corner. */
     void beginGroup(const QPointF &corner);
@@ -27,7 +26,6 @@ public:
     /** What a viewer says of the element that this is in. */
     void title(const QString &text);
     void rectangle(const QRectF &area, const QString &kind);
-    void cross(const QRectF &area);
     void text(const QPointF &at, const QString &line, const char *kind = nullptr);
 
     /** A picture of the given type, "image/png" for example; one of another shape is fitted in, or else distorted. */

@@ -55,12 +55,13 @@ const Parts::Part &Parts::read(int index)
     return part;
 }
 
-QStringList Parts::problems() const
+QStringList Parts::problems(const QString &file) const
 {
+    const QString place = m_folder.path().isNull() ? file : m_folder.path();
     QStringList lines;
     for (const Part &part : m_parts) {
         if (!part.problem.isEmpty()) {
-            lines.append(QStringLiteral("%1/%2: %3").arg(m_folder.path(), part.name, part.problem));
+            lines.append(QStringLiteral("%1/%2: %3").arg(place, part.name, part.problem));
         }
     }
     return lines;

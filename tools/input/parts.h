@@ -18,7 +18,7 @@ public:
         QString name;
         QByteArray data;
         Content content;
-        QString problem; ///< why it could not be read (a link by now, too large), to be written after its name
+        QString problem; ///< why it could not be read or shown (a link by now, too large), to be written after its name
     };
 
     /** None, because it is not known which there are. */
@@ -43,8 +43,11 @@ public:
     /** The part with its data and kind, which are looked at when they are first asked for. */
     const Part &read(int part);
 
-    /** A line for each part that could not be read when it was asked for. */
-    QStringList problems() const;
+    /** Gives a part a problem. */
+    void leaveOut(int part, const QString &problem) { m_parts[part].problem = problem; }
+
+    /** A line for each part that has a problem; those of a message are in @p file. */
+    QStringList problems(const QString &file) const;
 
 private:
     void add(const QString &name, const QByteArray &data = QByteArray());

@@ -34,22 +34,50 @@ static int descriptor(const QString &name)
     return int(standard.indexOf(path));
 }
 
-static QString writeTo(const QString &name, const Write &write)
+/** A disk that takes a part of the data says why it takes no more when it is given the rest. */
+static bool writeAll(QFileDevice &out, const QByteArray &data)
+{
+    qint64 written = 0;
+    for (qint64 more = 1; more > 0 && written < data.size(); written += more) {
+        more = out.write(data.constData() + written, data.size() - written);
+    }
+    return written == data.size();
+}
+
+static QString writeTo(const QString &name, const QByteArray &data)
 {
     QFile out(name);
     // Opened again, a file would be written from its beginning, over what its descriptor has written already.
     const int given = descriptor(name);
-    const bool opened = given >= 0 ? out.open(dup(given), QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)
-                                   : out.open(QIODevice::WriteOnly | QIODevice::ExistingOnly);
-    const bool written = opened && write(out) && out.flush() && out.error() == QFileDevice::NoError;
-    return written ? QString() : out.errorString();
+    const QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
+    const bool opened = given >= 0 ? out.open(dup(given), mode, QFileDevice::AutoCloseHandle)
+                                   : out.open(mode | QIODevice::ExistingOnly);
+    return opened && writeAll(out, data) ? QString() : out.errorString();
 }
 
-static QString replace(const QString &name, const Write &write)
+static QString replace(const QString &name, const QByteArray &data)
 {
     QSaveFile out(name);
-    const bool written = out.open(QIODevice::WriteOnly) && write(out) && out.commit();
-    return written ? QString() : out.errorString();
+    // What a buffer loses in the end, commit() does not report.
+    const bool opened = out.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    return opened && writeAll(out, data) && out.commit() ? QString() : out.errorString();
+}
+
+QString createFile(const QString &name, const QByteArray &data)
+{
+    QFile out(name);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
+        return out.errorString();
+    }
+    QString problem = writeAll(out, data) ? QString() : out.errorString();
+    out.close();
+    if (problem.isEmpty() && out.error() != QFileDevice::NoError) {
+        problem = out.errorString();
+    }
+    if (!problem.isEmpty()) {
+        out.remove();
+    }
+    return problem;
 }
 
 bool isSameFile(const QString &input, const QString &output)
@@ -60,9 +88,9 @@ bool isSameFile(const QString &input, const QString &output)
         && read.st_dev == written.st_dev && read.st_ino == written.st_ino;
 }
 
-QString writeFile(const QString &name, const Write &write)
+QString writeFile(const QString &name, const QByteArray &data)
 {
     struct stat status;
     const bool isThere = stat(QFile::encodeName(name).constData(), &status) == 0;
-    return isThere && (!S_ISREG(status.st_mode) || descriptor(name) >= 0) ? writeTo(name, write) : replace(name, write);
+    return isThere && (!S_ISREG(status.st_mode) || descriptor(name) >= 0) ? writeTo(name, data) : replace(name, data);
 }

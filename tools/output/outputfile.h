@@ -6,18 +6,17 @@
 
 #include <QtCore/QString>
 
-#include <functional>
-
-class QIODevice;
-
-/** Writes to the device, and returns whether all could be written. */
-using Write = std::function<bool(QIODevice &)>;
+/**
+ * Writes the file @p name. A file is replaced as a whole or not at all; a device, a pipe or a descriptor (/dev/stdout)
+ * is written to. Returns why that failed, to be written after its name, or else nothing.
+ */
+QString writeFile(const QString &name, const QByteArray &data);
 
 /**
- * Calls @p write with the file @p name. A file is replaced as a whole or not at all; a device, a pipe or a descriptor
- * (/dev/stdout) is written to. Returns why that failed, to be written after its name, or else nothing.
+ * Writes a file that is not there yet, all of it or none. It takes the place of nothing, and follows no link. Returns
+ * why that failed, as writeFile().
  */
-QString writeFile(const QString &name, const Write &write);
+QString createFile(const QString &name, const QByteArray &data);
 
 /** Whether both are one regular file, by whatever names; as @p input, "-" is standard input. */
 bool isSameFile(const QString &input, const QString &output);

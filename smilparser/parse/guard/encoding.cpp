@@ -15,12 +15,12 @@ static QByteArray detectEncoding(const QByteArray &bytes)
     static const QByteArray signatures[][2] = {
         {QByteArrayLiteral("\xff\xfe\0\0"), QByteArrayLiteral("UTF-32LE")},
         {QByteArrayLiteral("\0\0\xfe\xff"), QByteArrayLiteral("UTF-32BE")},
-        {QByteArrayLiteral("<\0\0\0"),      QByteArrayLiteral("UTF-32LE")},
-        {QByteArrayLiteral("\0\0\0<"),      QByteArrayLiteral("UTF-32BE")},
-        {QByteArrayLiteral("\xff\xfe"),     QByteArrayLiteral("UTF-16LE")},
-        {QByteArrayLiteral("\xfe\xff"),     QByteArrayLiteral("UTF-16BE")},
-        {QByteArrayLiteral("<\0"),          QByteArrayLiteral("UTF-16LE")},
-        {QByteArrayLiteral("\0<"),          QByteArrayLiteral("UTF-16BE")},
+        {QByteArrayLiteral("<\0\0\0"), QByteArrayLiteral("UTF-32LE")},
+        {QByteArrayLiteral("\0\0\0<"), QByteArrayLiteral("UTF-32BE")},
+        {QByteArrayLiteral("\xff\xfe"), QByteArrayLiteral("UTF-16LE")},
+        {QByteArrayLiteral("\xfe\xff"), QByteArrayLiteral("UTF-16BE")},
+        {QByteArrayLiteral("<\0"), QByteArrayLiteral("UTF-16LE")},
+        {QByteArrayLiteral("\0<"), QByteArrayLiteral("UTF-16BE")},
     };
     for (const auto &signature : signatures) {
         if (bytes.startsWith(signature[0])) {
