@@ -114,6 +114,7 @@ void Measures::equal()
     QVERIFY(model != SmilDocument());
     QVERIFY(SmilUnit(5, SmilUnit::Px) == SmilUnit(QStringLiteral("5px")));
     QVERIFY(SmilUnit(5, SmilUnit::NoUnit) != SmilUnit(5, SmilUnit::Px));
+    QVERIFY(SmilUnit(nan, SmilUnit::Px) != SmilUnit(5, SmilUnit::Px));
     SmilUnit invalid(0, SmilUnit::NoUnit);
     invalid.valid = false;
     QVERIFY(invalid == SmilUnit() && invalid != SmilUnit(0, SmilUnit::NoUnit));
