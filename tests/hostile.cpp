@@ -89,21 +89,15 @@ void Hostile::documents_data()
     };
 
     cut("open", times(512, "<a>"), times(349000, "<a>"));
-    cut("closed", times(512, "<a>"), times(130000, "<a>") + times(130512, "</a>"));
-    cut("in the head", "<smil><head>" + times(510, "<meta>"), times(150000, "<meta>"));
     cut("in the body", "<smil>\n<head/><body>" + times(510, "<x>\n"), times(200000, "<x>\n"));
     cut("second root", head + tail + times(512, "<x>"), times(200000, "<x>"));
     odd("levels", head + times(510, "<x>"), "", "<x/>", times(510, "</x>") + tail);
-    odd("level of a long tag", head + times(510, "<x>"), "", "<x a='" + times(300, "y") + "'/>",
-        times(510, "</x>") + tail);
     cut("in and out", head + times(509, "<x>") + times(300, "<x></x><x/>") + "<x>", "<x>");
     const QByteArray longTag = "<x a='" + times(300, "y") + '\'';
     cut("in and out of long tags",
         head + times(509, "<x>") + times(3, longTag + "></x" + times(300, " ") + '>' + longTag + "/>") + "<x>", "<x>");
     whole("wide", head + times(250000, "<x/>") + tail);
     whole("more ends than levels", "<smil><head/></smil></smil></x" + times(300, " ") + '>' + times(600, "<x>"));
-    odd("deep on average", head + times(100, "<x>") + times(40500, "t"), times(500, "t"), "",
-        times(100, "</x>") + tail);
     cut("deep on average, to the last byte", head + times(61, "<x>") + times(66480, "t") + "</x>",
         times(60, "</x>") + tail);
     cut("deep in short tags", head + times(100, "<x>") + times(10242, "<x/>"), times(10000, "<x/>"));
@@ -111,24 +105,20 @@ void Hostile::documents_data()
         times(200, "<x a='" + times(392, "y") + "'/>"));
     cut("deep references", head + times(100, "<x>") + times(10242, "&lt;"), times(10000, "&lt;"));
     whole("deep and long", head + times(29, "<x>") + times(100000, "<x/>") + times(29, "</x>") + tail);
-    cut("too deep and long", head + times(40, "<x>") + times(400000, "t"), times(40, "</x>") + tail);
     cut("too deep and long for 32 bits", head + times(500, "<x>") + times(4300000, "t"), times(500, "</x>") + tail);
 
     const QByteArray full = "<x" + numbered(64, " a#=''"); // as many attributes as there may be
     odd("attributes", head + full, " b='", "'", "/>" + tail);
-    cut("attributes without end", head + full + " b='", '\'' + times(90000, " b#=''") + "/>" + tail);
     cut("one attribute often", head + "<x" + times(64, " a=''") + " a='", '\'' + times(200000, " a=''") + "/>" + tail);
     cut("attributes without blanks", head + "<x " + numbered(63, "a#=''") + "a=''b='", "'/>" + tail);
     cut("attributes after a quoted end", head + "<x a='>'" + numbered(63, " a#=''") + " b='",
         '\'' + times(200000, " b=''") + "/>" + tail);
     cut("attributes after a reference", head + "<x a='&lt;'" + numbered(63, " a#=''") + " b=\"", "\"/>" + tail);
-    cut("attribute too many in a short tag", head + "<x " + times(64, "a=''") + "a='", "'/><x/>" + tail);
     whole("attributes of short tags", head + numbered(600, "<x a#='' b='/'/>") + tail);
 
     whole("quoted ends of tags", head + times(600, "<x a='>' b=''/>") + tail);
     cut("quoted ends of empty tags", head + times(510, "<x a='/>' b=''>"), times(600, "<x a='/>' b=''>"));
     whole("quoted ends of end tags", head + times(100, "<x a='</x>' b=''>") + tail);
-    whole("quoted tags", head + times(600, "<x a='<y>'/>") + tail);
     whole("tags in tags", head + times(600, "<x <y/>") + tail);
     whole("plain comments and instructions", head + times(600, "<!--x--><?p x?><x/>") + tail);
     whole("tags in other markup", head + times(600, "<!-- <x> --><?p <x>?><![CDATA[<x>]]>") + tail);
@@ -142,7 +132,6 @@ void Hostile::documents_data()
     whole("markup without end", head + "<!--" + times(600, "<x>"));
     whole("declaration of no kind", head + "<![CDAT/A[x]]>" + tail);
 
-    cut("document type", "<!DOCTYPE smil>" + head + times(510, "<x>"), "<x>");
     cut("document type with identifiers", "<!DOCTYPE smil PUBLIC \"[p]>\" '>[u'>" + head + times(510, "<x>"), "<x>");
     whole("document type with a bracket in an identifier", "<!DOCTYPE smil SYSTEM '[u'>" + head + tail);
     whole("document type without end", "<!DOCTYPE smil SYSTEM 'u" + times(600, "<x>"));
@@ -154,13 +143,11 @@ void Hostile::documents_data()
     whole("other declaration", "<!doctype smil []><smil/>");
 
     odd("name", head + '<', "", "n", times(4096, "n") + "/>" + tail);
-    odd("name in two bytes", head + '<', "", "\u00e9", times(4096, "\u00e9") + "/>" + tail);
     odd("name of an attribute", head + "<x ", "", "n", times(4096, "n") + "=''/>" + tail);
     odd("name of an instruction", head + "<?", "", "n", times(4096, "n") + "?>" + tail);
     odd("name of the document type", "<!DOCTYPE ", "", "n", times(4096, "n") + '>' + head + tail);
     cut("name of an end tag", head + "</", 'n' + times(4096, "n") + '>');
     cut("name of a reference", head + '&', 'n' + times(4096, "n") + ';' + tail);
-    cut("long name", head + '<', times(1000000, "n"));
     whole("long value", "<smil><head title='" + times(90000, "n") + "'/><body/></smil>");
     whole("name in three bytes", head + "<x " + times(4096, "\u4e00") + "=''/>" + tail);
     cut("name in three bytes, too long", head + "<x ", times(4096, "\u4e00") + "a\" =''/>" + tail);
@@ -174,11 +161,9 @@ void Hostile::documents_data()
     odd("reference that is no name", typed, "&", "@;", tail);
     cut("reference that begins with a digit", typed + '&', "1;" + tail);
     odd("reference with a sign", head, "&", "a\u00d7;", tail);
-    whole("reference without a name", head + "&;" + tail);
     cut("reference outside", head + tail + '&', "@;");
     whole("reference that does not end", head + "&1 " + tail);
     whole("reference in a reference", head + "&a&b;" + tail);
-    whole("tag in a reference", head + "&a<b;" + tail);
     whole("ampersands elsewhere",
           "<!DOCTYPE smil SYSTEM '&@;'>" + head + "<!-- &@; --><![CDATA[&@;]]><?p &@;?>" + tail);
     whole("ampersand", head + times(100000, "& ") + tail);

@@ -236,25 +236,22 @@ void Playback::moments()
     const SmilTimeline timeline =
         timelineOf(QStringLiteral("<body><par><img src='a' dur='5s'/><img src='never' begin='3s' end='0s'/></par>"
                                   "<img src='b' dur='3s' begin='1s'/></body>"));
-    const QString a = QStringLiteral("0-5 img a");
-    const QString b = QStringLiteral("6-9 img b");
-    const QString none = QStringLiteral("nothing");
-    QCOMPARE(shown(timeline.cuesAt(-1)), none);
-    QCOMPARE(shown(timeline.cuesAt(0)), a);
-    QCOMPARE(shown(timeline.cuesAt(3)), a);
-    QCOMPARE(shown(timeline.cuesAt(5)), none);
-    QCOMPARE(shown(timeline.cuesAt(6)), b);
-    QCOMPARE(shown(timeline.cuesAt(qInf())), none);
-    QCOMPARE(shown(timeline.cuesAt(qQNaN())), none);
-    QCOMPARE(shown(timeline.cuesBetween(0, 6)), a);
-    QCOMPARE(shown(timeline.cuesBetween(4, 7)), a + QLatin1String("; ") + b);
-    QCOMPARE(shown(timeline.cuesBetween(5, qInf())), b);
-    QCOMPARE(shown(timeline.cuesBetween(5, 6)), none);
-    QCOMPARE(shown(timeline.cuesBetween(qQNaN(), 6)), none);
-    QCOMPARE(shown(timeline.cuesOnSlide(0)), a);
-    QCOMPARE(shown(timeline.cuesOnSlide(1)), b);
-    QCOMPARE(shown(timeline.cuesOnSlide(-1)), none);
-    QCOMPARE(shown(timeline.cuesOnSlide(2)), none);
+    QStringList playing;
+    for (const double second : {-1.0, 0.0, 3.0, 5.0, 6.0, qInf(), qQNaN()}) {
+        playing << shown(timeline.cuesAt(second));
+    }
+    QCOMPARE(playing.join(u'|'), QStringLiteral("nothing|0-5 img a|0-5 img a|nothing|6-9 img b|nothing|nothing"));
+    playing.clear();
+    for (const QPointF &times :
+         {QPointF(0, 6), QPointF(4, 7), QPointF(5, qInf()), QPointF(5, 6), QPointF(qQNaN(), 6)}) {
+        playing << shown(timeline.cuesBetween(times.x(), times.y()));
+    }
+    QCOMPARE(playing.join(u'|'), QStringLiteral("0-5 img a|0-5 img a; 6-9 img b|6-9 img b|nothing|nothing"));
+    playing.clear();
+    for (const int slide : {-1, 0, 1, 2}) {
+        playing << shown(timeline.cuesOnSlide(slide));
+    }
+    QCOMPARE(playing.join(u'|'), QStringLiteral("nothing|0-5 img a|6-9 img b|nothing"));
     const QList<double> changes = {timeline.nextChange(-qInf()), timeline.nextChange(0), timeline.nextChange(5),
                                    timeline.nextChange(6),       timeline.nextChange(9), timeline.nextChange(qQNaN())};
     QCOMPARE(shown(changes), QStringLiteral("0 5 6 9 inf inf"));
@@ -315,6 +312,7 @@ void Playback::oddMeasures()
         return shown(SmilScreen(layout).regionRects().first());
     };
     QCOMPARE(areaOf(), QStringLiteral("50,0 50x100"));
+    QVERIFY(SmilScreen().size() == QSizeF(0, 0) && SmilScreen().regionIndex(QString()) == -1);
     const QString whole = QStringLiteral("0,0 100x100");
     odd.valid = false;
     QCOMPARE(areaOf(), whole);

@@ -173,7 +173,12 @@ void Reading::deepDurations()
 {
     uint kibibytes = 512;
 #if defined(__x86_64__) && QT_VERSION < QT_VERSION_CHECK(6, 5, 0) // where it was measured
-    kibibytes = QT_VERSION < QT_VERSION_CHECK(6, 0, 0) ? 224 : 128;
+#ifdef __OPTIMIZE__
+    const uint ofQt6 = 128;
+#else
+    const uint ofQt6 = 176;
+#endif
+    kibibytes = QT_VERSION < QT_VERSION_CHECK(6, 0, 0) ? 224 : ofQt6;
 #endif
     QString text = QStringLiteral("<smil><head/><body>");
     QString expected;
@@ -310,36 +315,35 @@ void Reading::walks_data()
     QTest::addColumn<QString>("says"); // the outcome whose messages come
     QTest::addColumn<QString>("model");
     const auto row = [](const char *name, const QByteArrayList &elements, bool returns, const char *says,
-                        const QString &model) {
+                        const QByteArray &model) {
         QTest::newRow(name) << QString::fromLatin1(elements.join(';')).split(u';') << returns
-                            << QString::fromLatin1(says) << model;
+                            << QString::fromLatin1(says) << QString::fromLatin1(model);
     };
-    const auto model = [](const char *text) { return QString::fromLatin1(text); };
-    row("head twice", {"<head id='a' title='t'><meta id='1'/></head>", "<head id='b'><meta id='2'/></head>"}, true, "",
-        model("<head id='b'><meta id='1'/><meta id='2'/></head><body/>"));
-    row("null head", {"<head title='t'><meta/></head>", "head"}, true, "", model("<head><meta/></head><body/>"));
+    const auto pars = [](int levels, const QByteArray &inside = QByteArray()) {
+        return QByteArray("<par>").repeated(levels) + inside + QByteArray("</par>").repeated(levels);
+    };
     const char *const layout = "<layout><root-layout width='1'/><topLayout height='2'/><region/></layout>";
+    row("head twice", {"<head id='a' title='t'><meta id='1'/></head>", "<head id='b'><meta id='2'/></head>"}, true, "",
+        "<head id='b'><meta id='1'/><meta id='2'/></head><body/>");
+    row("null head", {"<head title='t'><meta/></head>", "head"}, true, "", "<head><meta/></head><body/>");
     row("layout without sizes", {layout, "<layout><region id='b'/></layout>"}, true, "",
-        model("<head><layout><root-layout width='1px'/><topLayout height='2px'/><region/><region id='b'/></layout>"
-              "</head><body/>"));
+        "<head><layout><root-layout width='1px'/><topLayout height='2px'/><region/><region "
+        "id='b'/></layout></head><body/>");
     row("layout with other sizes", {layout, "<layout><root-layout/><topLayout width='3'/></layout>"}, true, "",
-        model("<head><layout><topLayout width='3px'/><region/></layout></head><body/>"));
+        "<head><layout><topLayout width='3px'/><region/></layout></head><body/>");
     row("null layout", {layout, "layout"}, true, "",
-        model("<head><layout><root-layout width='1px'/><topLayout height='2px'/><region/></layout></head><body/>"));
+        "<head><layout><root-layout width='1px'/><topLayout height='2px'/><region/></layout></head><body/>");
     row("body twice", {"<body dur='1s'><par/><img/></body>", "<body><seq/><img/></body>"}, true, "",
-        model("<body><par/><seq/><img/><img/></body>"));
-    row("null body", {"<body dur='1s'><par/></body>", "body"}, true, "", model("<body><par/></body>"));
-    row("deepest body", {"<body>" + QByteArray("<par>").repeated(512) + QByteArray("</par>").repeated(512) + "</body>"},
-        true, "", model("<body>") + times(511, "<par>") + model("<par/>") + times(511, "</par>") + model("</body>"));
-    row("body too deep",
-        {"<x><head title='t'/><body dur='1s'>" + QByteArray("<par>").repeated(513) + QByteArray("</par>").repeated(513)
-         + "</body></x>"},
-        false, "body refused", model("<head title='t'/><body dur='1s'/>"));
+        "<body><par/><seq/><img/><img/></body>");
+    row("null body", {"<body dur='1s'><par/></body>", "body"}, true, "", "<body><par/></body>");
+    row("deepest body", {"<body>" + pars(512) + "</body>"}, true, "", "<body>" + pars(511, "<par/>") + "</body>");
+    row("body too deep", {"<x><head title='t'/><body dur='1s'>" + pars(513) + "</body></x>"}, false, "body refused",
+        "<head title='t'/><body dur='1s'/>");
     row("root under another name", {"<x><head title='t'/><body dur='1s'/></x>"}, true, "complete",
-        model("<head title='t'/><body dur='1s'/>"));
-    row("root without a head", {"<body dur='1s'/>", "<x><body/></x>"}, false, "no head", model("<body dur='1s'/>"));
-    row("root without a body", {"<x><head title='t'/></x>"}, false, "no body", model("<head title='t'/><body/>"));
-    row("null root", {"x"}, false, "no head", model("<body/>"));
+        "<head title='t'/><body dur='1s'/>");
+    row("root without a head", {"<body dur='1s'/>", "<x><body/></x>"}, false, "no head", "<body dur='1s'/>");
+    row("root without a body", {"<x><head title='t'/></x>"}, false, "no body", "<head title='t'/><body/>");
+    row("null root", {"x"}, false, "no head", "<body/>");
 }
 
 /** Each element goes to the walk for its name. */
