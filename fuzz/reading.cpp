@@ -12,8 +12,8 @@
 
 bool MMSLogger::qdebugEnabled = false;
 
-/** The outline without empty texts, which are not written, and without a head that held no more. */
-static QString outline(const SmilDocument &model)
+/** The dump without empty texts, which are not written, and without a head that held no more. */
+static QString dump(const SmilDocument &model)
 {
     static const QRegularExpression empty(QStringLiteral("<head( [a-z]+='')*/>| [a-z]+=''"));
     return ModelDump::of(model).remove(empty);
@@ -156,6 +156,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     SmilLayout &layout = model.header.layout;
     layout.rootLayoutWidth = std::exchange(layout.topLayoutWidth, SmilUnit());
     layout.rootLayoutHeight = std::exchange(layout.topLayoutHeight, SmilUnit());
-    require(outline(again) == outline(model), "it is the same when read again");
+    require(dump(again) == dump(model), "it is the same when read again");
     return 0;
 }

@@ -209,10 +209,10 @@ void Reading::trees()
     QDomDocument copy;
     QString seen;
     const auto look = [&](const char *step, const QDomDocument &dom) {
-        const auto outline = [](const QDomDocument &tree) {
+        const auto dump = [](const QDomDocument &tree) {
             return tree.isNull() ? QStringLiteral("null") : QLatin1Char('"') + ModelDump::of(tree) + QLatin1Char('"');
         };
-        seen += QStringLiteral("%1: %2, copy %3\n").arg(QLatin1String(step), outline(dom), outline(copy));
+        seen += QStringLiteral("%1: %2, copy %3\n").arg(QLatin1String(step), dump(dom), dump(copy));
     };
     {
         SmilParser parser(QByteArray("<smil><head/><body><img alt='A'/></body></smil>"));

@@ -55,7 +55,7 @@ static void checkWhole(const SmilDocument &model, const QString &expected)
                  shared.arg(true).arg(true).arg(true));
 }
 
-/** The outline of what was rendered, which the host may attach where it likes. */
+/** What was rendered, which the host may attach where it likes. */
 static QString piece(const QDomElement &element)
 {
     return element.parentNode().isNull() ? ModelDump::of(element)
