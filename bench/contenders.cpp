@@ -3,7 +3,7 @@
 
 #include "contenders.h"
 
-#include "outline.h"
+#include "modeldump.h"
 #include "readeralone.h"
 #include "xmlstream.h"
 
@@ -106,7 +106,7 @@ static QString treeOf(const SmilDocument &model)
 {
     QDomDocument dom;
     buildDom(dom, model);
-    return Outline::of(dom);
+    return ModelDump::of(dom);
 }
 
 bool contendersAgree(int slides)
@@ -136,7 +136,7 @@ bool contendersAgree(int slides)
         SmilLayout &layout = made.model.header.layout;
         layout.topLayoutWidth = layout.rootLayoutWidth; // the model states the size twice, the text once
         layout.topLayoutHeight = layout.rootLayoutHeight;
-        if (made.dom.isNull() ? made.model != model : Outline::of(made.dom) != tree) {
+        if (made.dom.isNull() ? made.model != model : ModelDump::of(made.dom) != tree) {
             std::fprintf(stderr, "%s comes to something else for %d slides\n", contender.name, slides);
             return false;
         }

@@ -4,7 +4,7 @@
 #ifndef SMILPARSER_GRAMMAR_H
 #define SMILPARSER_GRAMMAR_H
 
-#include "tests/told.h"
+#include "tests/guardtesthelpers.h"
 
 #include <vector>
 
@@ -100,9 +100,7 @@ inline QByteArray documentOf(const uint8_t *data, size_t size, int longest)
         int place;
         int level;
     };
-    std::vector<Start> starts = {
-        {int(text.size()), 0}
-    };
+    std::vector<Start> starts = {{int(text.size()), 0}};
     for (size_t i = 3; i < size; ++i) {
         const uint8_t byte = data[i];
         const int next = i + 1 < size ? data[i + 1] : 0;

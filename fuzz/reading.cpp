@@ -4,7 +4,7 @@
 #include "require.h"
 
 #include "tests/messages.h"
-#include "tests/outline.h"
+#include "tests/modeldump.h"
 
 #include <smilparser/smilslideshow.h>
 
@@ -12,11 +12,11 @@
 
 bool MMSLogger::qdebugEnabled = false;
 
-/** The outline without empty texts, which are not written, and without a head that held no more. */
-static QString outline(const SmilDocument &model)
+/** The dump without empty texts, which are not written, and without a head that held no more. */
+static QString dump(const SmilDocument &model)
 {
     static const QRegularExpression empty(QStringLiteral("<head( [a-z]+='')*/>| [a-z]+=''"));
-    return Outline::of(model).remove(empty);
+    return ModelDump::of(model).remove(empty);
 }
 
 static QString described(const SmilRef &ref)
@@ -156,6 +156,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     SmilLayout &layout = model.header.layout;
     layout.rootLayoutWidth = std::exchange(layout.topLayoutWidth, SmilUnit());
     layout.rootLayoutHeight = std::exchange(layout.topLayoutHeight, SmilUnit());
-    require(outline(again) == outline(model), "it is the same when read again");
+    require(dump(again) == dump(model), "it is the same when read again");
     return 0;
 }

@@ -14,13 +14,11 @@
 
 #include <QtCore/QBuffer>
 
-#include <limits>
-
 bool MMSLogger::qdebugEnabled = false;
 
 namespace
 {
-/** A fuzzer's bytes, one after another; behind the last one there are zeros. */
+/** A fuzzer's bytes, one after another; after the last one there are zeros. */
 class Bytes
 {
 public:
@@ -33,14 +31,7 @@ public:
     int next(int count) { return at == end ? 0 : *at++ % count; }
     double number()
     {
-        static const double odd[] = {0,
-                                     1e300,
-                                     5e-324,
-                                     -1,
-                                     33.33333333,
-                                     0.00001,
-                                     std::numeric_limits<double>::infinity(),
-                                     std::numeric_limits<double>::quiet_NaN()};
+        static const double odd[] = {0, 1e300, 5e-324, -1, 33.33333333, 0.00001, qInf(), qQNaN()};
         const int chosen = next(256);
         return chosen < 8 ? odd[chosen] : chosen * 1.25;
     }

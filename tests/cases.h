@@ -30,32 +30,40 @@ inline QString expanded(QString text)
 
 /**
  * Makes the columns and rows of the table cases/@p name. Its first line names the columns. Each other has a name and a
- * text for each column, divided by " | ": "~" is null, "\n" ends a line, and the rest is expanded(). The last line is
- * "end": without it, the file is cut off. A line with "#" in front is for the reader.
+ * text for each column, divided by "|"; "\n" ends a line in it, and the rest is expanded(). What is indented belongs to
+ * the line before. The last line is "end": without it, the file is cut off. A line with "#" in front is for the reader.
  */
 inline void addCases(const char *name)
 {
     QFile file(QFINDTESTDATA("cases/") + QLatin1String(name));
     QVERIFY2(file.open(QIODevice::ReadOnly), name);
-    const QString table = QString::fromUtf8(file.readAll());
+    const QString table = QString::fromUtf8(file.readAll()).replace(QLatin1String("\n    "), QLatin1String(" "));
     QVERIFY2(table.endsWith(QLatin1String("\nend\n")), name + QByteArray(" is cut off: its last line is not \"end\""));
-    static const QRegularExpression notForTheReader(QStringLiteral("^[^#]"));
-    QStringList lines = table.chopped(5).split(QLatin1Char('\n')).filter(notForTheReader);
     static QByteArrayList columns; // QTest does not copy their names
-    columns = lines.takeFirst().replace(QLatin1String(" | "), QLatin1String("|")).toLatin1().split('|').mid(1);
-    for (const QByteArray &column : std::as_const(columns)) {
-        QTest::addColumn<QString>(column.constData());
-    }
+    columns.clear();
     QSet<QString> names;
-    for (const QString &line : std::as_const(lines)) {
-        QStringList texts = line.split(QLatin1String(" | "));
-        QVERIFY2(texts.size() == columns.size() + 1, "not a name and a text for each column: " + line.toUtf8());
-        QVERIFY2(!names.contains(texts.first()), "two rows of one name: " + line.toUtf8());
-        names.insert(texts.first());
-        QTestData &row = QTest::newRow(texts.takeFirst().toUtf8().constData());
-        for (QString &text : texts) {
-            text.replace(QLatin1String("\\n"), QLatin1String("\n"));
-            row << (text == QLatin1String("~") ? QString() : expanded(text));
+    for (const QString &line : table.chopped(5).split(QLatin1Char('\n'))) {
+        QStringList texts;
+        for (const QString &text : line.split(QLatin1Char('|'))) {
+            texts << expanded(text.trimmed().replace(QLatin1String("\\n"), QLatin1String("\n")));
+        }
+        const QString first = texts.takeFirst();
+        if (line.startsWith(QLatin1Char('#'))) {
+            continue;
+        }
+        if (columns.isEmpty()) {
+            columns = texts.join(QLatin1Char('|')).toLatin1().split('|');
+            for (const QByteArray &column : std::as_const(columns)) {
+                QTest::addColumn<QString>(column.constData());
+            }
+            continue;
+        }
+        QVERIFY2(texts.size() == columns.size(), "not a name and a text for each column: " + line.toUtf8());
+        QVERIFY2(!names.contains(first), "two rows of one name: " + line.toUtf8());
+        names.insert(first);
+        QTestData &row = QTest::newRow(first.toUtf8().constData());
+        for (const QString &text : std::as_const(texts)) {
+            row << text;
         }
     }
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "cases.h"
-#include "told.h"
+#include "guardtesthelpers.h"
 
 #include <smilparser/smilplayback.h>
 
@@ -13,23 +13,23 @@ class Playback : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void timelines_data() { addCases("timelines.txt"); }
+    void timelines_data();
     void timelines();
     void otherElements();
     void slideDurations();
     void askedForLengths();
-    void words();
-    void styles();
-    void backgrounds();
+    void cues_data() { addCases("cues.txt"); }
+    void cues();
+    void rendered();
     void otherCues();
     void moments();
     void depth();
     void screens_data() { addCases("screens.txt"); }
     void screens();
     void oddMeasures();
-    void fits_data() { addCases("fits.txt"); }
+    void fits_data();
     void fits();
-    void parts_data() { addCases("parts.txt"); }
+    void parts_data();
     void parts();
 };
 
@@ -99,7 +99,40 @@ static SmilTimeline timelineOf(const QString &elements, double slideDuration = 5
 
 static double lengthOf(const SmilRef &ref)
 {
-    return ref.src.section(QLatin1Char('@'), 1).toDouble();
+    return ref.src.section(QStringLiteral("-takes-"), 1).toDouble();
+}
+
+void Playback::timelines_data()
+{
+    addCases("timelines.txt");
+    QString together;
+    QStringList early;
+    QStringList late;
+    for (int i = 0; i < 500; ++i) {
+        together += QStringLiteral("<img src='late %1' begin='1s' dur='1s'/><img src='early %1'/>").arg(i);
+        early << QStringLiteral("img early %1").arg(i);
+        late << QStringLiteral("img late %1").arg(i);
+    }
+    QTest::newRow("many that begin together")
+        << QStringLiteral("<body><par>") + together + QStringLiteral("</par></body>")
+        << QStringLiteral("0-5 ") + early.join(QStringLiteral(", ")) + QStringLiteral("; 1-2 ")
+            + late.join(QStringLiteral(", "))
+        << "0"
+        << "5";
+    const QString zeros(400, u'0');
+    QTest::newRow("end of the infinite")
+        << QStringLiteral("<body><seq begin='1%1s'><par begin='1%1s' dur='1s'><img src='a'/></par></seq></body>")
+               .arg(zeros.left(308))
+        << "inf-inf img a"
+        << ""
+        << "inf";
+    QTest::newRow("zero of a number")
+        << QStringLiteral(
+               "<body><img src='a' dur='1e-400s'/><img src='b' dur='0.%1s'/><img src='c' begin='0.%1s'/></body>")
+               .arg(zeros + u'1')
+        << "0-5 img a; 5-10 img b; 10-15 img c"
+        << "0 5 10"
+        << "15";
 }
 
 void Playback::timelines()
@@ -145,59 +178,39 @@ void Playback::askedForLengths()
     QCOMPARE(asked.join(QLatin1Char(' ')), QStringLiteral("a e"));
 }
 
-void Playback::words()
+void Playback::cues()
 {
-    const SmilTimeline timeline = timelineOf(QStringLiteral(
-        "<body><img SRC='a' src='' ALT='b'><PARAM name='a' value='b'/></img>"
-        "<text alt='words' region='T'><x><param name='x' value='y'/></x><param value='nameless'/><param name=''/>"
-        "<param name='color' value='#fff'/><param name='color' value='#000'/><param name='size'/></text></body>"));
-    const SmilCue &picture = timeline.cues().at(0);
-    QVERIFY(picture.params.isEmpty() && picture.alt.isNull() && picture.ref.region.isNull());
-    QVERIFY(picture.ref.src.isEmpty() && !picture.ref.src.isNull());
-    const SmilCue &text = timeline.cues().at(1);
-    QCOMPARE(text.alt, QStringLiteral("words"));
-    QCOMPARE(text.params.keys().join(QLatin1Char(' ')), QStringLiteral("color size"));
-    QCOMPARE(text.params.first(), QStringLiteral("#fff"));
+    QFETCH(QString, elements);
+    QFETCH(QString, sees);
+    const SmilTimeline timeline = timelineOf(elements);
+    QString seen = timeline.background();
+    for (const SmilCue &cue : timeline.cues()) {
+        seen += u'<' + QLatin1String(kinds[cue.ref.type]);
+        const auto add = [&](const QString &name, const QString &value) {
+            seen += value.isNull() ? value : QStringLiteral(" %1='%2'").arg(name, value);
+        };
+        add(QStringLiteral("src"), cue.ref.src);
+        add(QStringLiteral("region"), cue.ref.region);
+        add(QStringLiteral("alt"), cue.alt);
+        add(QStringLiteral("background"), cue.background);
+        add(QStringLiteral("fit"), cue.fit);
+        for (auto param = cue.params.begin(); param != cue.params.end(); ++param) {
+            add(param.key(), QLatin1String("") + param.value());
+        }
+        add(QStringLiteral("line"), QString::number(cue.line));
+        seen += QStringLiteral("/>");
+    }
+    COMPARE_SEEN(QStringLiteral("looks at ") + elements, seen, sees);
 }
 
-/** Colours and fits are those of the first region of that name, in what is a layout to parse(). */
-void Playback::styles()
+/** What was rendered stands on no line. */
+void Playback::rendered()
 {
-    QDomDocument dom;
-    const SmilTimeline timeline(elementOf(dom, QStringLiteral(R"(<smil><head><layout><region background-color="none"/>
-<region id="A" background-color="red" backgroundColor="no" fit="fill"/><region id="A" background-color="no" fit="no"/>
-<region id="B" background-color="" backgroundColor="green"/></layout><layout><region id="C" fit="no"/></layout></head>
-<body><img region="A"/><img region="B"><param name="background-color" value="blue"/></img>
-<img region="B"><param name="background-color" value=""/></img><img region="C"/><img region=""/></body></smil>)")));
-    const auto seen = [](const SmilCue &cue) {
-        return QStringLiteral("%1 %2 %3").arg(cue.background, cue.fit).arg(cue.line);
-    };
-    QStringList all;
-    for (const SmilCue &cue : timeline.cues()) {
-        all << seen(cue);
-    }
-    QCOMPARE(all.join(u','), QStringLiteral("red fill 4,blue  4,green  5,  5,  5"));
-    QVERIFY(timeline.cues().last().background.isNull() && timeline.cues().last().fit.isNull());
     SmilDocument model;
     model.body.root.children.append(SmilNode());
     model.body.root.children.first().refs.append(SmilRef(SmilRef::Img));
     SmilParser writer(model);
     QCOMPARE(SmilTimeline(writer.getContent().documentElement()).cues().first().line, -1);
-}
-
-void Playback::backgrounds()
-{
-    const auto background = [](const char *layout) {
-        QDomDocument dom;
-        const QString text = QStringLiteral("<smil><head><layout>%1</layout></head></smil>").arg(QLatin1String(layout));
-        return SmilTimeline(elementOf(dom, text)).background();
-    };
-    QCOMPARE(background("<topLayout background-color='no'/><root-layout backgroundColor='red'/>"),
-             QStringLiteral("red"));
-    QCOMPARE(background("<root-layout background-color=''/><topLayout backgroundColor='no' background-color='red'/>"
-                        "<topLayout background-color='no'/>"),
-             QStringLiteral("red"));
-    QVERIFY(background("<root-layout/><root-layout background-color='no'/>").isNull());
 }
 
 void Playback::otherCues()
@@ -223,25 +236,22 @@ void Playback::moments()
     const SmilTimeline timeline =
         timelineOf(QStringLiteral("<body><par><img src='a' dur='5s'/><img src='never' begin='3s' end='0s'/></par>"
                                   "<img src='b' dur='3s' begin='1s'/></body>"));
-    const QString a = QStringLiteral("0-5 img a");
-    const QString b = QStringLiteral("6-9 img b");
-    const QString none = QStringLiteral("nothing");
-    QCOMPARE(shown(timeline.cuesAt(-1)), none);
-    QCOMPARE(shown(timeline.cuesAt(0)), a);
-    QCOMPARE(shown(timeline.cuesAt(3)), a);
-    QCOMPARE(shown(timeline.cuesAt(5)), none);
-    QCOMPARE(shown(timeline.cuesAt(6)), b);
-    QCOMPARE(shown(timeline.cuesAt(qInf())), none);
-    QCOMPARE(shown(timeline.cuesAt(qQNaN())), none);
-    QCOMPARE(shown(timeline.cuesBetween(0, 6)), a);
-    QCOMPARE(shown(timeline.cuesBetween(4, 7)), a + QLatin1String("; ") + b);
-    QCOMPARE(shown(timeline.cuesBetween(5, qInf())), b);
-    QCOMPARE(shown(timeline.cuesBetween(5, 6)), none);
-    QCOMPARE(shown(timeline.cuesBetween(qQNaN(), 6)), none);
-    QCOMPARE(shown(timeline.cuesOnSlide(0)), a);
-    QCOMPARE(shown(timeline.cuesOnSlide(1)), b);
-    QCOMPARE(shown(timeline.cuesOnSlide(-1)), none);
-    QCOMPARE(shown(timeline.cuesOnSlide(2)), none);
+    QStringList playing;
+    for (const double second : {-1.0, 0.0, 3.0, 5.0, 6.0, qInf(), qQNaN()}) {
+        playing << shown(timeline.cuesAt(second));
+    }
+    QCOMPARE(playing.join(u'|'), QStringLiteral("nothing|0-5 img a|0-5 img a|nothing|6-9 img b|nothing|nothing"));
+    playing.clear();
+    for (const QPointF &times :
+         {QPointF(0, 6), QPointF(4, 7), QPointF(5, qInf()), QPointF(5, 6), QPointF(qQNaN(), 6)}) {
+        playing << shown(timeline.cuesBetween(times.x(), times.y()));
+    }
+    QCOMPARE(playing.join(u'|'), QStringLiteral("0-5 img a|0-5 img a; 6-9 img b|6-9 img b|nothing|nothing"));
+    playing.clear();
+    for (const int slide : {-1, 0, 1, 2}) {
+        playing << shown(timeline.cuesOnSlide(slide));
+    }
+    QCOMPARE(playing.join(u'|'), QStringLiteral("nothing|0-5 img a|6-9 img b|nothing"));
     const QList<double> changes = {timeline.nextChange(-qInf()), timeline.nextChange(0), timeline.nextChange(5),
                                    timeline.nextChange(6),       timeline.nextChange(9), timeline.nextChange(qQNaN())};
     QCOMPARE(shown(changes), QStringLiteral("0 5 6 9 inf inf"));
@@ -302,6 +312,7 @@ void Playback::oddMeasures()
         return shown(SmilScreen(layout).regionRects().first());
     };
     QCOMPARE(areaOf(), QStringLiteral("50,0 50x100"));
+    QVERIFY(SmilScreen().size() == QSizeF(0, 0) && SmilScreen().regionIndex(QString()) == -1);
     const QString whole = QStringLiteral("0,0 100x100");
     odd.valid = false;
     QCOMPARE(areaOf(), whole);
@@ -317,19 +328,43 @@ void Playback::oddMeasures()
     }
 }
 
+void Playback::fits_data()
+{
+    QTest::addColumn<QSizeF>("picture");
+    QTest::addColumn<QString>("fit");
+    QTest::addColumn<QRectF>("takes");
+    const auto rows = [](const char *name, const QList<QSizeF> &pictures, const char *fits, const QRectF &takes) {
+        for (const QSizeF &picture : pictures) {
+            for (const QString &fit : QString::fromLatin1(fits).split(u' ')) {
+                QTest::addRow("%s: %gx%g, %s", name, picture.width(), picture.height(), qPrintable(fit))
+                    << picture << fit << takes;
+            }
+        }
+    };
+    rows("meet", {{400, 400}, {50, 50}}, "meet Fill HIDDEN ", {60, 20, 100, 100});
+    rows("meet a wide one", {{800, 200}, {4, 1}}, "meet", {10, 45, 200, 50});
+    rows("fill", {{800, 200}, {1, 1}, {200, 100}}, "fill", {10, 20, 200, 100});
+    rows("slice", {{400, 400}, {50, 50}}, "slice", {10, -30, 200, 200});
+    rows("slice a wide one", {{800, 200}, {4, 1}}, "slice", {-90, 20, 400, 100});
+    rows("own size", {{50, 20}}, "hidden scroll meetBest", {85, 60, 50, 20});
+    rows("own size is too large", {{400, 400}, {150, 150}}, "hidden scroll meetBest", {60, 20, 100, 100});
+    rows("empty", {{0, 50}, {50, 0}, {-1, 5}, {qQNaN(), 5}, {5, qInf()}}, "fill hidden meet meetBest slice ",
+         {110, 70, 0, 0});
+}
+
+/** In an area of 200x100 at 10,20. */
 void Playback::fits()
 {
-    QFETCH(QString, pictures);
-    QFETCH(QString, fits);
-    QFETCH(QString, takes);
-    for (const QString &picture : pictures.split(QLatin1Char(' '))) {
-        for (const QString &fit : fits.split(QLatin1Char(' '))) {
-            COMPARE_SEEN(QStringLiteral("shows %1 by %2").arg(picture, fit),
-                         shown(SmilScreen::fitted(sizeOf(picture), QRectF(10, 20, 200, 100),
-                                                  fit == QLatin1String("-") ? QString() : fit)),
-                         takes);
-        }
-    }
+    QFETCH(QSizeF, picture);
+    QFETCH(QString, fit);
+    QFETCH(QRectF, takes);
+    QCOMPARE(SmilScreen::fitted(picture, QRectF(10, 20, 200, 100), fit), takes);
+}
+
+void Playback::parts_data()
+{
+    addCases("parts.txt");
+    QTest::newRow("empty") << "0=\"\" 1=cid:<> 2=" << QString() << "-1";
 }
 
 void Playback::parts()
@@ -339,8 +374,7 @@ void Playback::parts()
     QFETCH(QString, part);
     SmilParts parts;
     for (const QString &name : names.split(QLatin1Char(' '))) {
-        const QString text = name.section(QLatin1Char('='), 1);
-        parts.add(name.section(QLatin1Char('='), 0, 0).toInt(), text == QLatin1String("~") ? QString() : text);
+        parts.add(name.section(u'=', 0, 0).toInt(), name.section(u'=', 1));
     }
     COMPARE_SEEN(QStringLiteral("looks for %1 among %2").arg(src, names), QString::number(parts.find(src)), part);
 }

@@ -80,7 +80,8 @@ void Showing::slides_data()
 
     row("no SMIL, no parts", "", {}, "");
     row("no SMIL", "", {photo, words, sound}, "0-5 img a.jpg is 0, text b.txt is 1, audio c.amr is 2");
-    row("no SMIL, two pictures", "", {words, photo, photo}, "0-5 text b.txt is 0, img a.jpg is 1; 5-10 img a.jpg is 2");
+    row("no SMIL, two pictures", "", {photo, words, photo, words},
+        "0-5 img a.jpg is 0, text b.txt is 1; 5-10 img a.jpg is 2, text b.txt is 3");
     row("sounds come last", "", {sound, photo}, "0-5 img a.jpg is 1, audio c.amr is 0");
     row("a film has a sound", "", {film, sound, words}, "0-5 video d.3gp is 0; 5-10 text b.txt is 2, audio c.amr is 1");
     row("a sound of no known length", "", {sound}, "0-5 audio c.amr is 0");
@@ -153,6 +154,8 @@ void Showing::lengths()
              QStringLiteral("0-8 audio a is 0; 8-10 audio missing missing; 10-11 audio b is 1; "
                             "11-13 img c is 2, text d is 3"));
     QCOMPARE(asked, QList<int>({0, 2, 3}));
+    QCOMPARE(seen(SmilSlideshow(QByteArray(), parts.mid(0, 2), SmilParser::AsWritten, 2, length)),
+             QStringLiteral("0-8 audio a is 0; 8-8.5 audio b is 1"));
     for (const double none : {0.0, -1.0, qInf(), qQNaN()}) {
         QCOMPARE(SmilSlideshow(QByteArray(), parts.mid(2), SmilParser::AsWritten, none).duration(), 5.0);
     }
@@ -186,6 +189,7 @@ void Showing::outcomes()
     const SmilSlideshow none(QByteArray(), {});
     QCOMPARE(messages.take(), QString()); // no SMIL is nothing to warn of
     QVERIFY(none.outcome() == SmilParser::NotWellFormed && none.error().isNull() && none == SmilSlideshow());
+    QVERIFY(none.errorLine() == 0 && none.errorColumn() == 0);
     const QByteArray head = "<layout><root-layout width='9' height='9' background-color='red'/></layout>";
     const SmilSlideshow whole(smil("<img/>", head), {}, SmilParser::KeepRootSize);
     QVERIFY(whole.outcome() == SmilParser::Complete && whole.error().isNull() && whole.errorLine() == 0);
@@ -212,13 +216,10 @@ void Showing::texts_data()
     row("a mark decides", "text/plain; charset=iso-8859-1", "\xef\xbb\xbf\xe2\x82\xac", euro);
     row("a mark of UTF-16", "text/plain; charset=utf-8", "\xff\xfe\xac\x20", euro);
     row("a mark, big-endian", "", QByteArray("\xfe\xff\x20\xac\0a", 6), euro + u'a');
-    row("as stated", "text/plain; charset=windows-1252", "\x80", euro);
+    row("as stated", "text/plain;charset=windows-1252", "\x80", euro);
+    row("after a name with a semicolon", "text/plain; name=\"a;charset=utf-16\"; charset=windows-1252", "\x80", euro);
     row("in quotation marks", "text/plain;name=\"; charset=utf-16\" ; Charset = \"Windows-1252\"", "\x80", euro);
-    row("as stated, whole", "text/plain; charset=utf-16le",
-        QByteArray("a\0\0\xd8"
-                   "b\0",
-                   6),
-        u'a' + bad + u'b');
+    row("as stated, whole", "text/plain; charset=utf-16le", QByteArray::fromHex("610000d86200"), u'a' + bad + u'b');
     row("UTF-16", "text/plain; charset=UTF-16", "\x20\xac", euro);
     row("UCS-2", "text/plain; charset=iso-10646-ucs-2", "\x20\xac", euro);
     row("no such charset", "text/plain; charset=x-none", "\xe2\x82\xac", euro);
@@ -261,7 +262,7 @@ void Showing::equality()
     const QByteArray bytes = smil("<par><img src='a.jpg'/></par>");
     const Parts parts = {part("image/jpeg", "a.jpg"), part("text/plain", "b.txt")};
     const SmilSlideshow show(bytes, parts);
-    QVERIFY(show == SmilSlideshow(bytes, parts));
+    QVERIFY(show == SmilSlideshow(bytes, parts) && show == SmilSlideshow(show));
     QVERIFY(show == SmilSlideshow("<!-- -->\n" + bytes, parts)); // the same is shown
     for (const QByteArray &other :
          {smil("<par><img src='a.jpg' alt='x'/></par>"), smil("<par dur='3s'><img src='a.jpg'/></par>"),
@@ -271,6 +272,15 @@ void Showing::equality()
     }
     QVERIFY(show != SmilSlideshow(bytes, {parts.at(1), parts.at(0)}));
     QVERIFY(show != SmilSlideshow(bytes, parts.mid(0, 1)));
+    const SmilSlide slide = show.slide(0);
+    QVERIFY(slide == show.slide(0) && !(slide != show.slide(0)));
+    for (const auto &change :
+         {+[](SmilSlide &other) { other.begin = 1; }, +[](SmilSlide &other) { other.end = 1; },
+          +[](SmilSlide &other) { other.cues.clear(); }, +[](SmilSlide &other) { other.parts.clear(); }}) {
+        SmilSlide other = slide;
+        change(other);
+        QVERIFY(other != slide);
+    }
     QVERIFY(parts.at(0) == part("image/jpeg", "a.jpg"));
     for (QString SmilPart::*const field :
          {&SmilPart::contentId, &SmilPart::location, &SmilPart::name, &SmilPart::type}) {
@@ -288,7 +298,9 @@ void Showing::manyParts()
     }
     const SmilSlideshow show(smil("<par dur='1s'><img src='a.jpg'/></par>"), parts);
     QCOMPARE(show.count(), 1000);
-    QCOMPARE(show.slide(999).parts, QList<int>({999}));
+    const SmilSlide last = show.slide(999);
+    QCOMPARE(last.parts, QList<int>({999}));
+    QVERIFY(last.cues.first().begin == last.begin && last.cues.first().end == last.end);
 }
 
 QTEST_GUILESS_MAIN(Showing)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "outline.h"
+#include "modeldump.h"
 
 #include <QtTest/QtTest>
 
@@ -25,8 +25,8 @@ static QString readAndWrite(int number)
         + QByteArray("<PAR dur='" + dur + "'><img/></PAR>").repeated(number) + "</body></smil>";
     SmilParser parser(text.left(number % 3 ? text.size() : text.size() / 2));
     QString error;
-    const QString model = Outline::of(parser.parse(&error));
-    return model + error + Outline::of(parser.getContent());
+    const QString model = ModelDump::of(parser.parse(&error));
+    return model + error + ModelDump::of(parser.getContent());
 }
 
 void Threads::differentMessages()

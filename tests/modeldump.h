@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILPARSER_OUTLINE_H
-#define SMILPARSER_OUTLINE_H
+#ifndef SMILPARSER_MODELDUMP_H
+#define SMILPARSER_MODELDUMP_H
 
 #include <smilparser/smilparser.h>
 
@@ -11,7 +11,7 @@
  * the model holds and leaves out what is absent: null texts, invalid measures, and the head and the layouts when they
  * hold nothing. Nodes stand before media, because a model does not tell how they were mixed.
  */
-class Outline
+class ModelDump
 {
 public:
     static QString of(const SmilDocument &model)

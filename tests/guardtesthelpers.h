@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILPARSER_TOLD_H
-#define SMILPARSER_TOLD_H
+#ifndef SMILPARSER_GUARDTESTHELPERS_H
+#define SMILPARSER_GUARDTESTHELPERS_H
 
 #include "messages.h"
-#include "outline.h"
+#include "modeldump.h"
 #include "readeralone.h"
 
 #include <QtCore/QThread>
@@ -31,7 +31,7 @@ inline QString toldByLibrary(const QByteArray &input, SmilParser::ReadOptions op
 {
     Messages messages(0);
     SmilParser parser(input);
-    const QString model = Outline::of(parser.parse(options));
+    const QString model = ModelDump::of(parser.parse(options));
     parser.getContent();
     parser.toXml();
     return messages.take() + model;
@@ -61,7 +61,7 @@ inline QString toldByReaderAlone(QByteArray input)
         parser.parseSmilDocument(smil);
     }
     const QString told = messages.take();
-    return told + Outline::of(parser.parse()); // finds no input, so that the model stays
+    return told + ModelDump::of(parser.parse()); // finds no input, so that the model stays
 }
 
 inline bool isRefused(const QString &told)
