@@ -281,14 +281,14 @@ bool check(Message &message, bool plain, const QStringList &ignored, QIODevice &
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
-        return Result{!check(message, arguments.plain, arguments.ignored, out), {}};
+    return withMessage(file, arguments, [&](Message &message) {
+        return Result{!check(message, false, arguments.ignored, out), {}};
     });
 }
 
 const Command checkCommand = {"check",
                               "FILE...",
-                              Plain | PartsFolder | Ignore,
+                              "parts ignore",
                               "Tells what is odd in each message, or lost on writing.",
                               "smiltool check --ignore lost message.smil",
                               run};

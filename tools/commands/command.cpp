@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "command.h"
+#include "commands/command.h"
 
 Result failure(const QString &file, const QString &problem)
 {
     return {false, {file + QLatin1String(": ") + problem}};
 }
 
-Result withMessage(const QString &file, const Arguments &arguments, SmilParser::ReadOptions options,
-                   const std::function<Result(Message &)> &use)
+Result withMessage(const QString &file, const Arguments &arguments, const std::function<Result(Message &)> &use,
+                   SmilParser::ReadOptions options)
 {
     Message message;
     const Problem problem = readMessage(file, arguments.parts, options, message);
@@ -18,6 +18,6 @@ Result withMessage(const QString &file, const Arguments &arguments, SmilParser::
     }
     Result result = use(message);
     result.problems += message.parts.problems(file);
-    result.well = result.well && result.problems.isEmpty();
+    result.ok = result.ok && result.problems.isEmpty();
     return result;
 }

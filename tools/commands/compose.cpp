@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "outputfile.h"
-#include "plainfile.h"
+#include "base/bounds.h"
+#include "commands/commands.h"
+#include "output/outputfile.h"
+#include "input/plainfile.h"
 
 #include <smilparser/smilcomposer.h>
 
@@ -61,7 +61,7 @@ static Result add(const QStringList &files, const QString &output, SmilComposer 
         const QString problem =
             isSameFile(file, output) ? QStringLiteral("is the output itself") : recognise(file, type);
         if (!problem.isEmpty()) {
-            result.well = false;
+            result.ok = false;
             result.problems += failure(file, problem).problems;
             continue;
         }
@@ -70,7 +70,7 @@ static Result add(const QStringList &files, const QString &output, SmilComposer 
             renamed.append(QStringLiteral("%1: to be sent as %2").arg(file, src));
         }
     }
-    if (result.well) {
+    if (result.ok) {
         result.problems = renamed;
     }
     return result;
@@ -81,7 +81,7 @@ static Result run(const QString &, const Arguments &arguments, QIODevice &out)
     SmilComposer composer(arguments.size, arguments.seconds);
     const Result added =
         add(arguments.files, arguments.toFile() ? arguments.output : QStringLiteral("/dev/stdout"), composer);
-    if (!added.well) {
+    if (!added.ok) {
         return added;
     }
     SmilDocument message = composer.message();
@@ -97,7 +97,7 @@ static Result run(const QString &, const Arguments &arguments, QIODevice &out)
 
 const Command composeCommand = {"compose",
                                 "FILE...",
-                                Output | Size | Seconds | Title,
+                                "output size seconds title",
                                 "Makes a message of pictures, texts, sounds and films.",
                                 "smiltool compose beach.jpg hello.txt -o message.smil",
                                 run,

@@ -56,7 +56,7 @@ static QStringList lost(const Message &message, const QStringList &srcs, const Q
 static void write(const Message &message, const QString &path, QIODevice &out, Result &result)
 {
     if (!QDir().mkpath(path)) {
-        result.well = false;
+        result.ok = false;
         result.problems.append(path + QLatin1String(": is no folder, and none can be made there"));
         return;
     }
@@ -72,7 +72,7 @@ static void write(const Message &message, const QString &path, QIODevice &out, R
         if (problem.isEmpty()) {
             out.write(lineOf(names.at(i), part).toUtf8());
         } else {
-            result.well = false;
+            result.ok = false;
             result.problems.append(QStringLiteral("%1/%2: %3").arg(path, names.at(i), problem));
         }
     }
@@ -97,7 +97,7 @@ static Result run(const QString &file, const Arguments &arguments, QIODevice &ou
 
 const Command extractCommand = {"extract",
                                 "FILE...",
-                                IntoFolder,
+                                "directory",
                                 "Writes the parts of each whole message as files.",
                                 "smiltool extract message.mms -d pictures",
                                 run};

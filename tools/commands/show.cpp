@@ -5,7 +5,7 @@
 #include "commands.h"
 #include "escaping.h"
 #include "json.h"
-#include "times.h"
+#include "timetext.h"
 
 #include <smilparser/smilplayback.h>
 
@@ -156,7 +156,7 @@ static Result run(const QString &file, const Arguments &arguments, QIODevice &ou
 {
     Message message;
     const Problem problem =
-        readMessage(file, QString(), arguments.plain ? SmilParser::AsWritten : SmilParser::ClockDurations, message);
+        readMessage(file, QString(), SmilParser::ClockDurations, message);
     if (problem.isNone()) {
         arguments.json ? showJson(message, out) : show(message, out);
         return Result();
@@ -168,4 +168,4 @@ static Result run(const QString &file, const Arguments &arguments, QIODevice &ou
 }
 
 const Command showCommand = {
-    "show", "FILE...", Plain | Json, "Prints an outline of each message.", "smiltool show message.smil", run};
+    "show", "FILE...", "json", "Prints an outline of each message.", "smiltool show message.smil", run};

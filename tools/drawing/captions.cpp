@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "captions.h"
-#include "bounds.h"
-#include "escaping.h"
-#include "typesetting.h"
+#include "drawing/captions.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "drawing/typesetting.h"
 
 #include <algorithm>
 

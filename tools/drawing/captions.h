@@ -4,9 +4,9 @@
 #ifndef SMILTOOL_CAPTIONS_H
 #define SMILTOOL_CAPTIONS_H
 
-#include "frames.h"
-#include "parts.h"
-#include "screen.h"
+#include "drawing/frames.h"
+#include "drawing/scaledscreen.h"
+#include "input/parts.h"
 
 /** A text on the screen. */
 struct Label {
@@ -38,7 +38,7 @@ struct Picture {
 class Captions
 {
 public:
-    Captions(const Screen &layout, Parts &of)
+    Captions(const ScaledScreen &layout, Parts &of)
         : screen(layout)
         , parts(of)
     {
@@ -50,7 +50,7 @@ private:
     int find(const QString &src);
     void add(const SmilCue &cue, const QRectF &place, Picture &picture);
 
-    const Screen &screen;
+    const ScaledScreen &screen;
     Parts &parts;
     // Each is looked for once, however many frames show it: both its name and the names of parts may be long.
     QMap<QString, int> found;

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "frames.h"
-#include "bounds.h"
-#include "escaping.h"
-#include "mediakind.h"
-#include "times.h"
+#include "drawing/frames.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "input/mediakind.h"
+#include "base/timetext.h"
 
 #include <QtCore/qnumeric.h>
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "media.h"
-#include "charset.h"
-#include "escaping.h"
-#include "picturesize.h"
-#include "typesetting.h"
+#include "drawing/media.h"
+#include "input/charset.h"
+#include "base/escaping.h"
+#include "drawing/picturesize.h"
+#include "drawing/typesetting.h"
 
 #include <QtCore/QRegularExpression>
 
