@@ -3,33 +3,14 @@
 
 #include "base/bounds.h"
 #include "commands/commands.h"
-#include "output/outputfile.h"
 #include "input/plainfile.h"
+#include "output/outputfile.h"
 
 #include <smilparser/smilcomposer.h>
+#include <smilparser/smilslideshow.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-
-#include <optional>
-
-/** What plays a part of that kind, if phones show such a thing. */
-static std::optional<SmilRef::Type> typeOf(PartKind kind)
-{
-    switch (kind) {
-    case PartKind::Picture:
-    case PartKind::OtherPicture:
-        return SmilRef::Img;
-    case PartKind::Text:
-        return SmilRef::Text;
-    case PartKind::Audio:
-        return SmilRef::Audio;
-    case PartKind::Video:
-        return SmilRef::Video;
-    default:
-        return std::nullopt;
-    }
-}
 
 /** Finds out what plays the file. Returns why it cannot be in a message, or else nothing. */
 static QString recognise(const QString &name, SmilRef::Type &type)
@@ -46,9 +27,11 @@ static QString recognise(const QString &name, SmilRef::Type &type)
     if (file.error() != QFileDevice::NoError) {
         return file.errorString();
     }
-    const std::optional<SmilRef::Type> found = typeOf(content.kind);
-    type = found.value_or(SmilRef::Ref);
-    return found ? QString() : QStringLiteral("is no picture, text, sound or film, but %1").arg(content.type);
+    SmilPart part;
+    part.type = content.kind == PartKind::Text ? QStringLiteral("text/plain") : content.type;
+    type = part.kind();
+    return type != SmilRef::Ref ? QString()
+                                : QStringLiteral("is no picture, text, sound or film, but %1").arg(content.type);
 }
 
 /** Adds the files in their order, and a line for each that is to be sent under another name, or else all problems. */
