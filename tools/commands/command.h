@@ -65,11 +65,11 @@ struct Command {
 };
 
 /**
- * Reads the file and, if that is possible, does something with the message. The result says also which of the message's
- * parts could not be read.
+ * Reads the file and does something with the message, if its SMIL can be read or its parts are known. The result says
+ * also what is wrong with the SMIL, and which of the parts could not be read.
  */
-Result withMessage(const QString &file, const Arguments &arguments, SmilParser::ReadOptions options,
-                   const std::function<Result(Message &)> &use);
+Result withMessage(const QString &file, const Arguments &arguments, const std::function<Result(Message &)> &use,
+                   SmilParser::ReadOptions options = SmilParser::ClockDurations);
 
 /** A failure because of a file, "FILE: problem". */
 Result failure(const QString &file, const QString &problem);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands.h"
-#include "elements.h"
+#include "elementtable.h"
 #include "escaping.h"
 
 #include <QtCore/QXmlStreamWriter>
@@ -40,11 +40,17 @@ void render(Message &message, QIODevice &out)
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    const SmilParser::ReadOptions all = SmilParser::ClockDurations | SmilParser::KeepRootSize;
-    return withMessage(file, arguments, arguments.keep ? all : SmilParser::AsWritten, [&out](Message &message) {
-        render(message, out);
+    const auto use = [&](Message &message) {
+        if (message.smil.isEmpty()) {
+            return failure(file, QStringLiteral("has no SMIL part"));
+        }
+        if (message.outcome == SmilParser::Complete) {
+            render(message, out);
+        }
         return Result();
-    });
+    };
+    const SmilParser::ReadOptions all = SmilParser::ClockDurations | SmilParser::KeepRootSize;
+    return withMessage(file, arguments, use, arguments.keep ? all : SmilParser::AsWritten);
 }
 
 const Command renderCommand = {"render",

@@ -155,7 +155,7 @@ static Result drawTo(const QString &name, const QString &folder, Message &messag
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
+    return withMessage(file, arguments, [&](Message &message) {
         if (arguments.toFile()) {
             return drawTo(arguments.output, arguments.parts, message);
         }

@@ -5,7 +5,7 @@
 #define SMILTOOL_CAPTIONS_H
 
 #include "frames.h"
-#include "parts.h"
+#include "messageparts.h"
 #include "screen.h"
 
 /** A text on the screen. */
@@ -38,7 +38,7 @@ struct Picture {
 class Captions
 {
 public:
-    Captions(const Screen &layout, Parts &of)
+    Captions(const Screen &layout, MessageParts &of)
         : screen(layout)
         , parts(of)
     {
@@ -51,7 +51,7 @@ private:
     void add(const SmilCue &cue, const QRectF &place, Picture &picture);
 
     const Screen &screen;
-    Parts &parts;
+    MessageParts &parts;
     // Each is looked for once, however many frames show it: both its name and the names of parts may be long.
     QMap<QString, int> found;
 };

@@ -4,16 +4,17 @@
 #include "frames.h"
 #include "bounds.h"
 #include "escaping.h"
-#include "mediakind.h"
 #include "times.h"
 
 #include <QtCore/qnumeric.h>
+
+static const char16_t signs[] = {u'\u00b6', u'\u25a3', u'\u266a', u'\u25b6', u'\u25c6'}; // by SmilRef::Type
 
 static QString withSign(const SmilRef &ref, const QString &text)
 {
     // The end of a long name has its extension.
     const bool isLong = text.size() > bounds::name;
-    return QChar(mediaKind(ref).sign) + QLatin1Char(' ')
+    return QChar(signs[ref.type]) + QLatin1Char(' ')
         + printable(isLong ? shortened(text, bounds::name - 10) + text.right(10) : text);
 }
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "media.h"
-#include "charset.h"
 #include "escaping.h"
 #include "picturesize.h"
 #include "typesetting.h"
@@ -32,7 +31,7 @@ void Media::draw(const Shown &shown)
 
 void Media::draw(const Shown &shown, const QString &id)
 {
-    const Parts::Part &part = parts.read(shown.part);
+    const MessageParts::Part &part = parts.read(shown.part);
     svg.beginClip(shown.area, id);
     svg.title(shown.words);
     const bool isPicture = part.content.kind == PartKind::Picture;
@@ -47,12 +46,12 @@ void Media::draw(const Shown &shown, const QString &id)
     } else if (isPicture) {
         drawPicture(part, shown);
     } else {
-        drawText(part, shown.area.size());
+        drawText(shown.part, shown.area.size());
     }
     svg.endGroup();
 }
 
-void Media::drawPicture(const Parts::Part &part, const Shown &shown)
+void Media::drawPicture(const MessageParts::Part &part, const Shown &shown)
 {
     // A place may reach as far as numbers do, where a viewer finds nothing.
     const QRectF near(-bounds::screen, -bounds::screen, 3 * bounds::screen, 3 * bounds::screen);
@@ -64,11 +63,11 @@ void Media::drawPicture(const Parts::Part &part, const Shown &shown)
     left -= part.data.size();
 }
 
-void Media::drawText(const Parts::Part &part, const QSizeF &size)
+void Media::drawText(int part, const QSizeF &size)
 {
     const int count = qMax(1, int(size.height() / lineHeight));
     const int enough = count * (int(size.width() / narrowestLetter) + 2);
-    const QString text = withoutFormat(decodedBeginning(part.data, enough));
+    const QString text = withoutFormat(parts.beginning(part, enough));
     const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
     QStringList printed;
     for (const QString &paragraph : paragraphs) {

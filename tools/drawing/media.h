@@ -12,7 +12,7 @@
 class Media
 {
 public:
-    Media(Svg &picture, const Screen &layout, Parts &of)
+    Media(Svg &picture, const Screen &layout, MessageParts &of)
         : svg(picture)
         , screen(layout)
         , parts(of)
@@ -24,12 +24,12 @@ public:
 
 private:
     void draw(const Shown &shown, const QString &id);
-    void drawPicture(const Parts::Part &part, const Shown &shown);
-    void drawText(const Parts::Part &part, const QSizeF &size);
+    void drawPicture(const MessageParts::Part &part, const Shown &shown);
+    void drawText(int part, const QSizeF &size);
 
     Svg &svg;
     const Screen &screen;
-    Parts &parts;
+    MessageParts &parts;
     QMap<QString, QString> drawn; ///< the id of each, by all that it depends on
     qint64 left = bounds::pictures;
 };
