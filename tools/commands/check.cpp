@@ -4,7 +4,7 @@
 #include "bounds.h"
 #include "commands.h"
 #include "crowding.h"
-#include "elements.h"
+#include "elementtable.h"
 #include "escaping.h"
 #include "findings.h"
 
@@ -28,6 +28,25 @@ static const QStringList sizes{QStringLiteral("dur"), QStringLiteral("width"), Q
 static bool isNode(const QString &name)
 {
     return name == QLatin1String("par") || name == QLatin1String("seq");
+}
+
+/** Whether an element of that name may play such a part; any may play what is not known to be something else. */
+static bool mayPlay(const QString &element, PartKind kind)
+{
+    switch (kind) {
+    case PartKind::Picture:
+    case PartKind::OtherPicture:
+        return element == QLatin1String("img") || element == QLatin1String("ref");
+    case PartKind::Text:
+    case PartKind::Xml:
+        return element == QLatin1String("text") || element == QLatin1String("ref");
+    case PartKind::Audio:
+        return element == QLatin1String("audio") || element == QLatin1String("ref");
+    case PartKind::Video: // the container of a film may also have nothing but sound
+        return element != QLatin1String("text") && element != QLatin1String("img");
+    default:
+        return true;
+    }
 }
 
 namespace
@@ -237,8 +256,8 @@ private:
             return;
         }
         usedParts.insert(part);
-        const Parts::Part &read = message.parts.read(part);
-        if (const MediaKind *const media = mediaKind(name); media && !media->mayPlay(read.content.kind)) {
+        const MessageParts::Part &read = message.parts.read(part);
+        if (!mayPlay(name, read.content.kind)) {
             add(Finding::WrongKind, element, QStringLiteral("the part of %1 is %2:").arg(name, read.content.type),
                 excerpt(src));
         }
@@ -247,18 +266,11 @@ private:
     void checkParts(int line)
     {
         for (int i = 0; i < message.parts.size(); ++i) {
-            if (!usedParts.contains(i) && !isPresentation(i)) {
+            if (!usedParts.contains(i) && !message.parts.headers().at(i).isSmil()) {
                 found.add(Finding::UnusedPart, line, QStringLiteral("nothing refers to the part"),
                           excerpt(message.parts.at(i).name));
             }
         }
-    }
-
-    /** Whether the part is the SMIL itself, or a copy of what came from elsewhere, such as standard input. */
-    bool isPresentation(int part)
-    {
-        const int smil = message.parts.smil();
-        return part == smil || (smil < 0 && message.parts.read(part).data == message.bytes);
     }
 
     Message &message;

@@ -11,12 +11,11 @@ Result failure(const QString &file, const QString &problem)
 Result withMessage(const QString &file, const Arguments &arguments, const std::function<Result(Message &)> &use,
                    SmilParser::ReadOptions options)
 {
-    Message message;
-    const Problem problem = readMessage(file, arguments.parts, options, message);
-    if (!problem.isNone()) {
-        return {false, {problem.toString()}};
+    Message message = readMessage(file, arguments.parts, options);
+    Result result = message.isReadable() ? use(message) : Result();
+    if (!message.problem.isNone()) {
+        result.problems.prepend(message.problem.toString());
     }
-    Result result = use(message);
     result.problems += message.parts.problems(file);
     result.ok = result.ok && result.problems.isEmpty();
     return result;

@@ -47,8 +47,8 @@ struct Command {
 };
 
 /**
- * Reads the file and, if that is possible, does something with the message. The result says also which of the message's
- * parts could not be read.
+ * Reads the file and does something with the message, if its SMIL can be read or its parts are known. The result says
+ * also what is wrong with the SMIL, and which of the parts could not be read.
  */
 Result withMessage(const QString &file, const Arguments &arguments, const std::function<Result(Message &)> &use,
                    SmilParser::ReadOptions options = SmilParser::ClockDurations);

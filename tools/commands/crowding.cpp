@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "crowding.h"
-#include "elements.h"
+#include "elementtable.h"
 
 #include <smilparser/smilplayback.h>
 

@@ -2,13 +2,21 @@
 // SPDX-License-Identifier: MIT
 
 #include "filenames.h"
-#include "contentid.h"
 #include "safename.h"
 
 #include <QtCore/QMimeDatabase>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 #include <set>
+
+/** The name without what may stand around it, which no file is called for. */
+static QString bare(QString name)
+{
+    static const QRegularExpression around(QStringLiteral("^\"?(cid:)?<?|>?\"?$"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return name.remove(around);
+}
 
 /** "." and the extension of a type, or nothing. */
 static QString extensionOf(const QString &type)
@@ -29,8 +37,11 @@ static QString extensionOf(const QString &type)
 
 static QString nameOf(int part, const Message &message)
 {
-    const QString safe = safeName(message.parts.at(part).name);
-    return safe.isEmpty() ? safeName(QString::number(part + 1) + extensionOf(message.mms.parts.at(part).type)) : safe;
+    const QString safe = safeName(bare(message.parts.at(part).name));
+    return safe.isEmpty()
+        ? safeName(QString::number(part + 1)
+                   + extensionOf(message.mms.parts.at(part).type.section(QLatin1Char(';'), 0, 0).trimmed()))
+        : safe;
 }
 
 QVector<QString> fileNames(const Message &message, const QStringList &srcs)
@@ -44,7 +55,7 @@ QVector<QString> fileNames(const Message &message, const QStringList &srcs)
     };
     for (const QString &src : srcs) {
         const int part = message.parts.find(src);
-        const QString name = bareId(src);
+        const QString name = bare(src);
         if (part >= 0 && names.at(part).isEmpty() && !name.isEmpty() && safeName(name) == name) {
             give(part, name);
         }

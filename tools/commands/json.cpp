@@ -3,6 +3,7 @@
 
 #include "json.h"
 #include "bounds.h"
+#include "elementtable.h"
 #include "escaping.h"
 
 #include <smilparser/smilplayback.h>
@@ -67,6 +68,8 @@ public:
 
     void add(const QByteArray &key, const SmilUnit &measure);
 
+    void addFlag(const QByteArray &key, bool flag) { next(key, flag ? "true" : "false"); }
+
 private:
     void next(const QByteArray &key, const QByteArray &value)
     {
@@ -107,11 +110,14 @@ static void addMessage(const Message &message, Json &json)
     json.add("subject", header(mms.subject));
     json.add("date", mms.date.isValid() ? mms.date.toString(Qt::ISODate) : QString());
     int i = 0;
-    json.list("parts", mms.parts, [&](const MmsPart &part) {
+    json.list("parts", mms.parts, [&](const SmilPart &part) {
         json.object({}, [&] {
-            json.add("name", header(message.parts.at(i++).name));
+            json.add("name", header(part.name));
+            json.add("contentId", header(part.contentId));
+            json.add("location", header(part.location));
             json.add("type", header(part.type));
-            json.add("size", double(part.data.size()));
+            json.addFlag("smil", part.isSmil());
+            json.add("size", double(mms.data.at(i++).size()));
         });
     });
 }
@@ -154,7 +160,7 @@ static void addHeader(const SmilHeader &header, Json &json)
 static void addRef(const QByteArray &key, const SmilRef &ref, Json &json)
 {
     json.object(key, [&] {
-        json.add("type", QString(QLatin1String(mediaKind(ref).element)));
+        json.add("type", elementName(ref));
         json.add("src", ref.src);
         json.add("region", ref.region);
     });
@@ -210,10 +216,30 @@ static void addTimeline(const Message &message, Json &json)
     const SmilScreen screen(message.document.header.layout);
     const SmilTimeline timeline(message.dom.documentElement());
     json.add("duration", timeline.duration());
-    json.list("slides", timeline.slideBegins(), [&](double begin) { json.add({}, begin); });
     json.list("cues", timeline.cues(), [&](const SmilCue &cue) {
         json.object({}, [&] { addCue(cue, screen, message.parts.find(cue.ref.src), json); });
     });
+}
+
+static void addSlides(const SmilSlideshow &show, Json &json)
+{
+    json.add("duration", show.duration());
+    json.list("slides", firstSlides(show), [&](const SmilSlide &slide) {
+        json.object({}, [&] {
+            json.add("begin", slide.begin);
+            json.add("end", slide.end);
+            json.list("parts", slide.parts, [&](int part) { json.add({}, part); });
+        });
+    });
+}
+
+static void addProblem(const Problem &problem, Json &json)
+{
+    json.add("error", problem.text);
+    if (problem.line != 0) {
+        json.add("line", problem.line);
+        json.add("column", problem.column);
+    }
 }
 
 void showJson(const Message &message, QIODevice &out)
@@ -221,26 +247,20 @@ void showJson(const Message &message, QIODevice &out)
     Json json(out);
     json.object({}, [&] {
         json.add("file", message.file);
+        if (!message.problem.isNone()) {
+            addProblem(message.problem, json);
+        }
         if (message.parts.areKnown()) {
             addMessage(message, json);
         }
-        json.object("header", [&] { addHeader(message.document.header, json); });
-        json.list("nodes", QList<SmilNode>{message.document.body.root},
-                  [&](const SmilNode &root) { addNodes(root, 0, json); });
-        json.object("timeline", [&] { addTimeline(message, json); });
-    });
-    out.putChar('\n');
-}
-
-void showJson(const QString &file, const Problem &problem, QIODevice &out)
-{
-    Json json(out);
-    json.object({}, [&] {
-        json.add("file", file);
-        json.add("error", problem.text);
-        if (problem.line != 0) {
-            json.add("line", problem.line);
-            json.add("column", problem.column);
+        if (message.outcome == SmilParser::Complete) {
+            json.object("header", [&] { addHeader(message.document.header, json); });
+            json.list("nodes", QList<SmilNode>{message.document.body.root},
+                      [&](const SmilNode &root) { addNodes(root, 0, json); });
+            json.object("timeline", [&] { addTimeline(message, json); });
+        }
+        if (message.isReadable()) {
+            addSlides(message.slideshow(), json);
         }
     });
     out.putChar('\n');

@@ -8,10 +8,8 @@
 
 class QIODevice;
 
-/** Writes what show() does, and what plays when and where, as a line of JSON. */
+/** Writes what show() does, what plays when and where, and why the message or its SMIL cannot be read: a line of JSON.
+ */
 void showJson(const Message &message, QIODevice &out);
-
-/** Writes why @p file could not be read, as a line of JSON. */
-void showJson(const QString &file, const Problem &problem, QIODevice &out);
 
 #endif

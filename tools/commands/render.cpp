@@ -13,8 +13,13 @@ void render(const Message &message, QIODevice &out)
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    const auto use = [&out](const Message &message) {
-        render(message, out);
+    const auto use = [&](Message &message) {
+        if (message.smil.isEmpty()) {
+            return failure(file, QStringLiteral("has no SMIL part"));
+        }
+        if (message.outcome == SmilParser::Complete) {
+            render(message, out);
+        }
         return Result();
     };
     const SmilParser::ReadOptions all = SmilParser::ClockDurations | SmilParser::KeepRootSize;

@@ -3,6 +3,7 @@
 
 #include "bounds.h"
 #include "commands.h"
+#include "elementtable.h"
 #include "escaping.h"
 #include "json.h"
 #include "timetext.h"
@@ -72,7 +73,7 @@ static QString describe(const SmilRegion &region)
 
 static QString describe(const SmilRef &ref)
 {
-    QString text = QLatin1String(mediaKind(ref).element) + QLatin1Char(' ') + quoted(ref.src);
+    QString text = elementName(ref) + QLatin1Char(' ') + quoted(ref.src);
     if (!ref.region.isEmpty()) {
         text += QLatin1String(" in ") + quoted(ref.region);
     }
@@ -120,22 +121,51 @@ static QString header(const QString &text)
     return shortened(text, bounds::header);
 }
 
-static void showMessage(Outline &outline, const MmsMessage &message, const Parts &parts)
+static void showMessage(Outline &outline, const Message &message)
 {
-    outline.text(1, QLatin1String("from"), header(message.from));
-    for (const QString &receiver : message.to) {
+    const MmsMessage &mms = message.mms;
+    outline.text(1, QLatin1String("from"), header(mms.from));
+    for (const QString &receiver : mms.to) {
         outline.text(1, QLatin1String("to"), header(receiver));
     }
-    outline.text(1, QLatin1String("subject"), header(message.subject));
-    if (message.date.isValid()) {
-        outline.line(1, QLatin1String("date ") + message.date.toString(Qt::ISODate));
+    outline.text(1, QLatin1String("subject"), header(mms.subject));
+    if (mms.date.isValid()) {
+        outline.line(1, QLatin1String("date ") + mms.date.toString(Qt::ISODate));
     }
-    for (int i = 0; i < int(message.parts.size()); ++i) {
-        const MmsPart &part = message.parts.at(i);
+    for (int i = 0; i < int(mms.parts.size()); ++i) {
         outline.line(1,
                      QStringLiteral("part %1, %2, %3 bytes")
-                         .arg(quoted(header(parts.at(i).name)), printable(header(part.type)),
-                              QString::number(part.data.size())));
+                         .arg(quoted(header(message.parts.at(i).name)), printable(header(mms.parts.at(i).type)),
+                              QString::number(mms.data.at(i).size())));
+    }
+}
+
+static void showSmil(Outline &outline, const SmilDocument &document)
+{
+    showHeader(outline, document.header);
+    showLayout(outline, document.header.layout);
+    const SmilNode &body = document.body.root;
+    outline.line(1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
+    showContents(outline, 2, body);
+}
+
+static void showSlides(Outline &outline, const SmilSlideshow &show, const MessageParts &parts)
+{
+    int number = 0;
+    const QList<SmilSlide> slides = firstSlides(show);
+    for (const SmilSlide &slide : slides) {
+        outline.line(1,
+                     QStringLiteral("slide %1, %2, %3")
+                         .arg(++number)
+                         .arg(clockText(slide.begin), lengthText(slide.end - slide.begin)));
+        for (int i = 0; i < int(slide.cues.size()); ++i) {
+            const SmilRef &ref = slide.cues.at(i).ref;
+            const int part = slide.parts.at(i);
+            outline.line(
+                2,
+                elementName(ref) + QLatin1Char(' ')
+                    + (part < 0 ? quoted(ref.src) + QLatin1String(", missing") : quoted(header(parts.at(part).name))));
+        }
     }
 }
 
@@ -143,28 +173,26 @@ void show(const Message &message, QIODevice &out)
 {
     Outline outline(out);
     outline.line(0, printable(message.file));
-    showMessage(outline, message.mms, message.parts);
-    showHeader(outline, message.document.header);
-    showLayout(outline, message.document.header.layout);
-    const SmilNode &body = message.document.body.root;
-    outline.line(1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
-    showContents(outline, 2, body);
-    outline.line(1, QLatin1String("plays ") + lengthText(SmilTimeline(message.dom.documentElement()).duration()));
+    showMessage(outline, message);
+    if (message.outcome == SmilParser::Complete) {
+        showSmil(outline, message.document);
+    }
+    const SmilSlideshow slideshow = message.slideshow();
+    if (message.parts.areKnown()) {
+        showSlides(outline, slideshow, message.parts);
+    }
+    outline.line(1, QLatin1String("plays ") + lengthText(slideshow.duration()));
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    Message message;
-    const Problem problem =
-        readMessage(file, QString(), SmilParser::ClockDurations, message);
-    if (problem.isNone()) {
-        arguments.json ? showJson(message, out) : show(message, out);
-        return Result();
-    }
+    const Message message = readMessage(file, QString());
     if (arguments.json) {
-        showJson(file, problem, out);
+        showJson(message, out);
+    } else if (message.isReadable()) {
+        show(message, out);
     }
-    return {false, {problem.toString()}};
+    return message.problem.isNone() ? Result() : Result{false, {message.problem.toString()}};
 }
 
 const Command showCommand = {

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_ELEMENTS_H
-#define SMILTOOL_ELEMENTS_H
+#ifndef SMILTOOL_ELEMENTTABLE_H
+#define SMILTOOL_ELEMENTTABLE_H
+
+#include <smilparser/smilparser.h>
 
 #include <QtCore/QStringList>
 
@@ -15,6 +17,9 @@ struct Element {
 
 /** That of the element with this name, in lower case in the timeline; empty for one that the library does not know. */
 const Element &elementNamed(const QString &element);
+
+/** The name of the element that plays it. */
+QString elementName(const SmilRef &ref);
 
 /** Whether the attribute is a size, a position or a duration, whatever its element. */
 bool isMeasure(const QString &attribute);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "elements.h"
+#include "elementtable.h"
 
 #include <QtCore/QMap>
 
@@ -18,14 +18,14 @@ static const struct {
     const char *first;
     const char *all;
 } table[] = {
-    {"smil",                     "",                                          "head body",             ""      },
-    {"head",                     "id title class",                            "layout",                "meta"  },
-    {"meta",                     "id name content",                           "",                      ""      },
-    {"layout",                   "",                                          "root-layout topLayout", "region"},
-    {"root-layout topLayout",    "width height",                              "",                      ""      },
-    {"region",                   "id width height top bottom left right fit", "",                      ""      },
-    {"body par seq",             "dur",                                       "",                      timeline},
-    {"text img audio video ref", "src region",                                "",                      ""      },
+    {"smil", "", "head body", ""},
+    {"head", "id title class", "layout", "meta"},
+    {"meta", "id name content", "", ""},
+    {"layout", "", "root-layout topLayout", "region"},
+    {"root-layout topLayout", "width height", "", ""},
+    {"region", "id width height top bottom left right fit", "", ""},
+    {"body par seq", "dur", "", timeline},
+    {"text img audio video ref", "src region", "", ""},
 };
 
 static QMap<QString, Element> byName()
@@ -46,6 +46,12 @@ const Element &elementNamed(const QString &element)
     static const Element unknown;
     const auto found = known.constFind(element);
     return found == known.constEnd() ? unknown : *found;
+}
+
+QString elementName(const SmilRef &ref)
+{
+    static const char *const names[] = {"text", "img", "audio", "video", "ref"};
+    return QLatin1String(names[ref.type]);
 }
 
 bool isMeasure(const QString &attribute)

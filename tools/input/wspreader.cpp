@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "wsp.h"
+#include "wspreader.h"
 
 #include <cstring>
 
-Bytes Bytes::take(quint64 length, Kind as)
+WspReader WspReader::take(quint64 length, Kind as)
 {
     static const char nothing = 0;
     bad = bad || length > quint64(end - at);
@@ -16,7 +16,7 @@ Bytes Bytes::take(quint64 length, Kind as)
     return {at - length, at, as};
 }
 
-quint64 Bytes::uintvar()
+quint64 WspReader::uintvar()
 {
     quint64 result = 0;
     uchar digits = 0x80;
@@ -28,7 +28,7 @@ quint64 Bytes::uintvar()
     return result;
 }
 
-Bytes Bytes::value()
+WspReader WspReader::value()
 {
     const uchar first = peek();
     if (first >= 0x80) {
@@ -39,12 +39,12 @@ Bytes Bytes::value()
         return take(first < 31 ? first : uintvar());
     }
     take(first == 0x7F ? 1 : 0); // goes before a text that begins with 0x80 or more
-    const Bytes text = take(strnlen(at, size_t(end - at)), Text);
+    const WspReader text = take(strnlen(at, size_t(end - at)), Text);
     byte();
     return text;
 }
 
-quint64 Bytes::number() const
+quint64 WspReader::number() const
 {
     quint64 result = 0;
     for (const char *digit = at; digit != end; ++digit) {
@@ -53,7 +53,7 @@ quint64 Bytes::number() const
     return kind == Number ? result & 0x7F : result;
 }
 
-bool Bytes::is(quint64 assigned, const char *name) const
+bool WspReader::is(quint64 assigned, const char *name) const
 {
     return kind == Number ? number() == assigned : kind == Text && qstrnicmp(at, end - at, name) == 0;
 }

@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_WSP_H
-#define SMILTOOL_WSP_H
+#ifndef SMILTOOL_WSPREADER_H
+#define SMILTOOL_WSPREADER_H
 
 #include <QtCore/QByteArray>
 
 /**
- * Bytes of a message in the encoding of its headers, read from the front. What is not there reads as nothing, and makes
- * them bad for good. See WAP-230-WSP section 8.
+ * WspReader of a message in the encoding of its headers, read from the front. What is not there reads as nothing, and
+ * makes them bad for good. See WAP-230-WSP section 8.
  */
-struct Bytes {
+struct WspReader {
     enum Kind { Number, Text, Data };
     const char *at;
     const char *end;
@@ -22,13 +22,13 @@ struct Bytes {
     uchar byte() { return uchar(*take(1).at); }
     QByteArray all() const { return QByteArray(at, QByteArray::size_type(end - at)); }
 
-    Bytes take(quint64 length, Kind as = Data);
+    WspReader take(quint64 length, Kind as = Data);
 
     /** A number in up to five bytes of seven bits; the highest bit says that another byte follows. */
     quint64 uintvar();
 
     /** The first byte of a value says where it ends, whatever it is the value of. */
-    Bytes value();
+    WspReader value();
 
     /** That which this is as a value, the first byte's highest bit left out if it is of one byte. */
     quint64 number() const;

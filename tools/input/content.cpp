@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "mediakind.h"
+#include "content.h"
 #include "bounds.h"
 
 #include <QtCore/QMimeDatabase>
 
 #include <algorithm>
-#include <iterator>
 
 static PartKind kindOf(const QMimeType &type)
 {
@@ -53,38 +52,4 @@ Content recognised(const QByteArray &bytes)
         return {QStringLiteral("text/plain"), PartKind::Text};
     }
     return {type.name(), kind};
-}
-
-template<typename... Kinds>
-static constexpr quint32 bits(Kinds... kinds)
-{
-    return ((1u << unsigned(kinds)) | ...);
-}
-
-static constexpr quint32 unknown = bits(PartKind::Unread, PartKind::Other);
-static constexpr quint32 pictures = bits(PartKind::Picture, PartKind::OtherPicture);
-static constexpr quint32 texts = bits(PartKind::Text, PartKind::Xml);
-static constexpr quint32 sounds = bits(PartKind::Audio, PartKind::Video); // in a container that is also a film's
-static constexpr quint32 films = bits(PartKind::Video);
-
-// In the order of SmilRef::Type.
-static const MediaKind kinds[] = {
-    {"text",  u'\u00b6', unknown | texts                            },
-    {"img",   u'\u25a3', unknown | pictures                         },
-    {"audio", u'\u266a', unknown | sounds                           },
-    {"video", u'\u25b6', unknown | films                            },
-    {"ref",   u'\u25c6', unknown | texts | pictures | sounds | films},
-};
-
-const MediaKind &mediaKind(const SmilRef &ref)
-{
-    return kinds[ref.type];
-}
-
-const MediaKind *mediaKind(const QString &element)
-{
-    const auto found = std::find_if(std::begin(kinds), std::end(kinds), [&element](const MediaKind &kind) {
-        return element == QLatin1String(kind.element);
-    });
-    return found == std::end(kinds) ? nullptr : found;
 }
