@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "cases.h"
-#include "commands.h"
+#include "commands/commands.h"
 #include "mmsbytes.h"
 
 #include <sys/stat.h>
@@ -110,7 +110,7 @@ void Extracting::names()
         const Result result = extract(folder, bytes);
         COMPARE_SEEN(QLatin1String(time), filesIn(path), files);
         QCOMPARE(result.problems.join(QLatin1Char(';')), said);
-        QVERIFY(result.well);
+        QVERIFY(result.ok);
     }
     QFile smil(path + QLatin1String("/smil"));
     QVERIFY(smil.open(QIODevice::ReadOnly));
@@ -125,7 +125,7 @@ void Extracting::withoutSmil()
     QByteArray lines;
     const Result result = extract(folder, message("\xB3", 1, part("\x83", "Hello")), &lines);
     QCOMPARE(result.problems.join(QLatin1Char(';')), QString());
-    QVERIFY(result.well);
+    QVERIFY(result.ok);
     QCOMPARE(lines, QByteArray("\"1.txt\", text/plain, 5 bytes\n"));
     QCOMPARE(showCommand.run(folder.filePath(QStringLiteral("message.mms")), Arguments(), *std::make_unique<QBuffer>())
                  .problems.value(0)
@@ -139,7 +139,7 @@ void Extracting::brokenSmil()
     const Result result = extract(
         folder, messageOf(QStringLiteral("smil,,,application/smil;a,,,x/y"), QString()).replace("</body>", "</boby>"));
     QCOMPARE(result.problems.size(), 1);
-    QVERIFY(!result.well);
+    QVERIFY(!result.ok);
     QCOMPARE(filesIn(folder.filePath(QStringLiteral("new/parts"))), QStringLiteral("a=1"));
 }
 
@@ -167,7 +167,7 @@ void Extracting::whatIsThereStays()
     QCOMPARE(left.join(QLatin1Char(';')),
              QStringLiteral("folder: File exists;other: File exists;link: File exists;link-to-same: File exists;"
                             "pipe: File exists"));
-    QVERIFY(!result.well);
+    QVERIFY(!result.ok);
 }
 
 QTEST_APPLESS_MAIN(Extracting)

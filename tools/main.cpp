@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "base/escaping.h"
 #include "commandline.h"
-#include "errors.h"
 
 #include <smilparser/mmslogger.h>
 
@@ -57,25 +57,20 @@ private:
 static int run(const Command &command, const Arguments &arguments, StandardOutput &out)
 {
     int status = Success;
-    const QStringList turns = command.together ? QStringList(QString()) : arguments.files;
+    const QStringList turns = command.takesAllFiles ? QStringList(QString()) : arguments.files;
     for (const QString &file : turns) {
         const Result result = command.run(file, arguments, out);
         out.flush(); // before the next file's problems
         for (const QString &problem : result.problems) {
-            complain(problem);
+            printError(problem);
         }
-        status = result.well ? status : Failure;
+        status = result.ok ? status : Failure;
     }
     return status;
 }
 
-/** What the library warns of is told by its outcome. */
-static void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    if (type == QtDebugMsg) {
-        complain(text.trimmed());
-    }
-}
+/** What the library warns of, its outcome says too. */
+static void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 /** All names and all output are UTF-8. Where the locale is of another encoding, Qt 6 says so in four lines at every
  * start. */
@@ -111,12 +106,11 @@ int main(int argc, char *argv[])
     const QString problem = parse(QCoreApplication::arguments(), line);
     if (!problem.isEmpty()) {
         const QString command = line.command ? QLatin1Char(' ') + QLatin1String(line.command->name) : QString();
-        complain(QLatin1String("smiltool: ") + problem);
-        complain(QStringLiteral("Try 'smiltool%1 --help'.").arg(command));
+        printError(QLatin1String("smiltool: ") + problem);
+        printError(QStringLiteral("Try 'smiltool%1 --help'.").arg(command));
         return BadUsage;
     }
-    qInstallMessageHandler(handleMessage);
-    MMSLogger::qdebugEnabled = line.arguments.debug;
+    qInstallMessageHandler(ignoreMessage);
     StandardOutput out;
     int status = Success;
     if (line.answer.isEmpty()) {
@@ -126,7 +120,7 @@ int main(int argc, char *argv[])
     }
     out.flush();
     if (!out.isWhole()) {
-        complain(QLatin1String("smiltool: standard output: ") + out.errorString());
+        printError(QLatin1String("smiltool: standard output: ") + out.errorString());
         return Failure;
     }
     return status;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "command.h"
+#include "commands/command.h"
 
 Result failure(const QString &file, const QString &problem)
 {
@@ -17,6 +17,6 @@ Result withMessage(const QString &file, const Arguments &arguments, const std::f
         result.problems.prepend(message.problem.toString());
     }
     result.problems += message.parts.problems(file);
-    result.well = result.well && result.problems.isEmpty();
+    result.ok = result.ok && result.problems.isEmpty();
     return result;
 }

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "escaping.h"
-#include "filenames.h"
-#include "outputfile.h"
-#include "plainfile.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "commands/commands.h"
+#include "input/plainfile.h"
+#include "output/filenames.h"
+#include "output/outputfile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -56,7 +56,7 @@ static QStringList lost(const Message &message, const QStringList &srcs, const Q
 static void write(const Message &message, const QString &path, QIODevice &out, Result &result)
 {
     if (!QDir().mkpath(path)) {
-        result.well = false;
+        result.ok = false;
         result.problems.append(path + QLatin1String(": is no folder, and none can be made there"));
         return;
     }
@@ -72,7 +72,7 @@ static void write(const Message &message, const QString &path, QIODevice &out, R
         if (problem.isEmpty()) {
             out.write(lineOf(names.at(i), message.mms.parts.at(i).type, data).toUtf8());
         } else {
-            result.well = false;
+            result.ok = false;
             result.problems.append(QStringLiteral("%1/%2: %3").arg(path, names.at(i), problem));
         }
     }
@@ -93,7 +93,7 @@ static Result run(const QString &file, const Arguments &arguments, QIODevice &ou
 
 const Command extractCommand = {"extract",
                                 "FILE...",
-                                IntoFolder,
+                                "directory",
                                 "Writes the parts of each whole message as files.",
                                 "smiltool extract message.mms -d pictures",
                                 run};

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "captions.h"
-#include "commands.h"
-#include "escaping.h"
-#include "media.h"
-#include "outputfile.h"
-#include "svg.h"
-#include "times.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "base/timetext.h"
+#include "commands/commands.h"
+#include "drawing/captions.h"
+#include "drawing/media.h"
+#include "drawing/svg.h"
+#include "output/outputfile.h"
 
 #include <QtCore/QBuffer>
 
@@ -39,7 +39,7 @@ text { fill: currentColor; }
 }
 )";
 
-static void draw(Svg &svg, Media &media, const Picture &picture, const Screen &screen, const QString &heading)
+static void draw(Svg &svg, Media &media, const Picture &picture, const ScaledScreen &screen, const QString &heading)
 {
     svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
     for (const Shown &shown : picture.shown) {
@@ -85,7 +85,7 @@ static SmilTimeline timelineOf(const Message &message)
 
 void storyboard(Message &message, QIODevice &out)
 {
-    const Screen screen(message.document.header.layout);
+    const ScaledScreen screen(message.document.header.layout);
     const SmilTimeline timeline = timelineOf(message);
     const QList<Frame> frames = framesOf(timeline);
     Captions captions(screen, message.parts);
@@ -166,7 +166,7 @@ static Result run(const QString &file, const Arguments &arguments, QIODevice &ou
 
 const Command storyboardCommand = {"storyboard",
                                    "FILE",
-                                   Output | PartsFolder,
+                                   "output parts",
                                    "Draws a message as a picture, in SVG.",
                                    "smiltool storyboard message.smil -o board.svg",
                                    run};

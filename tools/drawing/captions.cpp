@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "captions.h"
-#include "bounds.h"
-#include "escaping.h"
-#include "typesetting.h"
+#include "drawing/captions.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "drawing/typesetting.h"
 
 #include <algorithm>
 
@@ -17,9 +17,16 @@ static QString lineBelow(const QString &name, const QString &remark)
     return elided(name, frameWidth - width(remark)) + remark;
 }
 
-static bool isDrawn(PartKind kind)
+bool isPicture(const QString &type)
 {
-    return kind == PartKind::Picture || kind == PartKind::Text || kind == PartKind::Xml;
+    static const QStringList types{QStringLiteral("image/png"), QStringLiteral("image/jpeg"),
+                                   QStringLiteral("image/gif"), QStringLiteral("image/webp")};
+    return types.contains(type);
+}
+
+static bool isDrawn(const QString &type)
+{
+    return isPicture(type) || type == QLatin1String("text/plain");
 }
 
 int Captions::find(const QString &src)
@@ -78,7 +85,7 @@ void Captions::add(const SmilCue &cue, const QRectF &place, Picture &picture)
     } else if (area.isEmpty()) {
         picture.below.append(lineBelow(name, remark + QLatin1String(", off screen in ") + quoted(id)));
     } else {
-        const bool drawn = part >= 0 && isDrawn(parts.read(part).content.kind);
+        const bool drawn = part >= 0 && isDrawn(parts.read(part).type);
         const QString words = wordsFor(cue) + (id.isEmpty() ? id : QLatin1String(" in ") + id);
         picture.shown.append({place, area, region, name + remark, words, drawn ? part : -1, isMissing});
         if (!drawn) {

@@ -4,9 +4,9 @@
 #ifndef SMILTOOL_CAPTIONS_H
 #define SMILTOOL_CAPTIONS_H
 
-#include "frames.h"
-#include "messageparts.h"
-#include "screen.h"
+#include "drawing/frames.h"
+#include "drawing/scaledscreen.h"
+#include "input/messageparts.h"
 
 /** A text on the screen. */
 struct Label {
@@ -34,11 +34,14 @@ struct Picture {
     QStringList below; ///< what has no place on the screen, or no room there
 };
 
+/** Whether content of that type is a picture that a viewer can draw. */
+bool isPicture(const QString &type);
+
 /** Says what plays in frames, and where there is room to say it. */
 class Captions
 {
 public:
-    Captions(const Screen &layout, MessageParts &of)
+    Captions(const ScaledScreen &layout, MessageParts &of)
         : screen(layout)
         , parts(of)
     {
@@ -50,7 +53,7 @@ private:
     int find(const QString &src);
     void add(const SmilCue &cue, const QRectF &place, Picture &picture);
 
-    const Screen &screen;
+    const ScaledScreen &screen;
     MessageParts &parts;
     // Each is looked for once, however many frames show it: both its name and the names of parts may be long.
     QMap<QString, int> found;

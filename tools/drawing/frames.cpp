@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "frames.h"
-#include "bounds.h"
-#include "escaping.h"
-#include "times.h"
+#include "drawing/frames.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "base/timetext.h"
 
 #include <QtCore/qnumeric.h>
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "media.h"
-#include "escaping.h"
-#include "picturesize.h"
-#include "typesetting.h"
+#include "drawing/media.h"
+#include "base/escaping.h"
+#include "drawing/picturesize.h"
+#include "drawing/typesetting.h"
 
 #include <QtCore/QRegularExpression>
 
@@ -34,8 +34,8 @@ void Media::draw(const Shown &shown, const QString &id)
     const MessageParts::Part &part = parts.read(shown.part);
     svg.beginClip(shown.area, id);
     svg.title(shown.words);
-    const bool isPicture = part.content.kind == PartKind::Picture;
-    const bool isTooLarge = isPicture && part.data.size() > left;
+    const bool pictured = isPicture(part.type);
+    const bool isTooLarge = pictured && part.data.size() > left;
     if (isTooLarge) {
         parts.leaveOut(shown.part,
                        QStringLiteral("would be more than %1 MiB with the pictures before it")
@@ -43,7 +43,7 @@ void Media::draw(const Shown &shown, const QString &id)
     }
     if (isTooLarge || drawn.size() > bounds::drawn) {
         svg.text(QPointF(4, 0.75 * lineHeight), shown.name);
-    } else if (isPicture) {
+    } else if (pictured) {
         drawPicture(part, shown);
     } else {
         drawText(shown.part, shown.area.size());
@@ -59,7 +59,7 @@ void Media::drawPicture(const MessageParts::Part &part, const Shown &shown)
     const QString fit = screen.fitOf(shown.region);
     const QSizeF size = pictureSize(part.data);
     const QRectF fitted = scaled(size.isEmpty() ? place : SmilScreen::fitted(size, place, fit), screen.scale);
-    svg.image(part.content.type, part.data, fitted.translated(-shown.area.topLeft()), fit == QLatin1String("fill"));
+    svg.image(part.type, part.data, fitted.translated(-shown.area.topLeft()), fit == QLatin1String("fill"));
     left -= part.data.size();
 }
 

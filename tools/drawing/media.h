@@ -4,15 +4,15 @@
 #ifndef SMILTOOL_MEDIA_H
 #define SMILTOOL_MEDIA_H
 
-#include "bounds.h"
-#include "captions.h"
-#include "svg.h"
+#include "base/bounds.h"
+#include "drawing/captions.h"
+#include "drawing/svg.h"
 
 /** Draws the parts, each only once in a place: where other frames show it again, they refer to the first. */
 class Media
 {
 public:
-    Media(Svg &picture, const Screen &layout, MessageParts &of)
+    Media(Svg &picture, const ScaledScreen &layout, MessageParts &of)
         : svg(picture)
         , screen(layout)
         , parts(of)
@@ -28,7 +28,7 @@ private:
     void drawText(int part, const QSizeF &size);
 
     Svg &svg;
-    const Screen &screen;
+    const ScaledScreen &screen;
     MessageParts &parts;
     QMap<QString, QString> drawn; ///< the id of each, by all that it depends on
     qint64 left = bounds::pictures;

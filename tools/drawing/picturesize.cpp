@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "picturesize.h"
+#include "drawing/picturesize.h"
 
 #include <QtCore/QDataStream>
 

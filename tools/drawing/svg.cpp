@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "svg.h"
+#include "drawing/svg.h"
 
 Svg::Svg(QIODevice &device)
     : writer(&device)

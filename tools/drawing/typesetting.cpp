@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "typesetting.h"
+#include "drawing/typesetting.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTextBoundaryFinder>

@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_MESSAGE_H
 #define SMILTOOL_MESSAGE_H
 
-#include "messageparts.h"
+#include "input/messageparts.h"
 
 /** Why a file or the SMIL in it cannot be read. */
 struct Problem {

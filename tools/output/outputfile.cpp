@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "outputfile.h"
+#include "output/outputfile.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
-#include <QtCore/QStringList>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,22 +15,6 @@ static bool status(const QString &input, struct stat &status)
 {
     return input == QLatin1String("-") ? fstat(STDIN_FILENO, &status) == 0
                                        : stat(QFile::encodeName(input).constData(), &status) == 0;
-}
-
-/** The descriptor that the name stands for, such as that of /dev/stdout; -1 when it is a file's name. */
-static int descriptor(const QString &name)
-{
-    const QString path = QFileInfo(name).absoluteFilePath();
-    static const QStringList standard{QStringLiteral("/dev/stdin"), QStringLiteral("/dev/stdout"),
-                                      QStringLiteral("/dev/stderr")};
-    for (const QLatin1String folder : {QLatin1String("/dev/fd/"), QLatin1String("/proc/self/fd/")}) {
-        bool isNumber = false;
-        const int number = path.mid(folder.size()).toInt(&isNumber);
-        if (isNumber && path.startsWith(folder)) {
-            return number;
-        }
-    }
-    return int(standard.indexOf(path));
 }
 
 /** A disk that takes a part of the data says why it takes no more when it is given the rest. */
@@ -47,11 +30,7 @@ static bool writeAll(QFileDevice &out, const QByteArray &data)
 static QString writeTo(const QString &name, const QByteArray &data)
 {
     QFile out(name);
-    // Opened again, a file would be written from its beginning, over what its descriptor has written already.
-    const int given = descriptor(name);
-    const QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Unbuffered;
-    const bool opened = given >= 0 ? out.open(dup(given), mode, QFileDevice::AutoCloseHandle)
-                                   : out.open(mode | QIODevice::ExistingOnly);
+    const bool opened = out.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered);
     return opened && writeAll(out, data) ? QString() : out.errorString();
 }
 
@@ -92,5 +71,5 @@ QString writeFile(const QString &name, const QByteArray &data)
 {
     struct stat status;
     const bool isThere = stat(QFile::encodeName(name).constData(), &status) == 0;
-    return isThere && (!S_ISREG(status.st_mode) || descriptor(name) >= 0) ? writeTo(name, data) : replace(name, data);
+    return isThere && !S_ISREG(status.st_mode) ? writeTo(name, data) : replace(name, data);
 }

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "safename.h"
-#include "bounds.h"
-#include "escaping.h"
+#include "output/safename.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
 
 #include <string>
 
@@ -32,7 +32,7 @@ QString safeName(const QString &name)
         const bool begins = c != '.' && c != '-' && !QChar::isSpace(c);
         if (c == '/' || c == '\\') {
             kept.clear();
-        } else if (!isObeyedOrHidden(c) && (begins || !kept.empty())) {
+        } else if (!needsEscaping(c) && (begins || !kept.empty())) {
             kept += c;
         }
     }

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "screen.h"
-#include "bounds.h"
-#include "escaping.h"
-#include "typesetting.h"
+#include "drawing/scaledscreen.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "drawing/typesetting.h"
 
 static bool canBeDrawn(double side)
 {
@@ -28,7 +28,7 @@ QRectF scaled(const QRectF &rectangle, double scale)
     return QRectF(rectangle.topLeft() * scale, rectangle.size() * scale);
 }
 
-Screen::Screen(const SmilLayout &layout)
+ScaledScreen::ScaledScreen(const SmilLayout &layout)
     : regions(layout.regions)
     , pixels(screenOf(layout))
     , scale(qMin(frameWidth / pixels.size().width(), frameHeight / pixels.size().height()))
@@ -36,12 +36,12 @@ Screen::Screen(const SmilLayout &layout)
 {
 }
 
-QRectF Screen::visible(const QRectF &place) const
+QRectF ScaledScreen::visible(const QRectF &place) const
 {
     return scaled(place.intersected(QRectF(QPointF(), pixels.size())), scale);
 }
 
-QString Screen::idOf(int region) const
+QString ScaledScreen::idOf(int region) const
 {
     return elided(printable(shortened(regions.value(region).id, bounds::quotation)), frameWidth / 2);
 }

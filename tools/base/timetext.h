@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_TIMES_H
-#define SMILTOOL_TIMES_H
+#ifndef SMILTOOL_TIMETEXT_H
+#define SMILTOOL_TIMETEXT_H
 
 #include <QtCore/QString>
 

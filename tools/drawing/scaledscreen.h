@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_SCREEN_H
-#define SMILTOOL_SCREEN_H
+#ifndef SMILTOOL_SCALEDSCREEN_H
+#define SMILTOOL_SCALEDSCREEN_H
 
 #include <smilparser/smilplayback.h>
 
@@ -12,8 +12,8 @@ const double frameHeight = 220;
 const double lineHeight = 15;
 
 /** The screen of the message, and how large it is drawn. */
-struct Screen {
-    explicit Screen(const SmilLayout &layout);
+struct ScaledScreen {
+    explicit ScaledScreen(const SmilLayout &layout);
 
     /** What of a place on the message's screen can be seen, in units of the picture; empty when nothing can. */
     QRectF visible(const QRectF &place) const;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "times.h"
+#include "base/timetext.h"
 
 #include <QtCore/qnumeric.h>
 
