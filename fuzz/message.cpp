@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "commands.h"
-#include "escaping.h"
-#include "filenames.h"
-#include "json.h"
+#include "commands/commands.h"
+#include "base/escaping.h"
+#include "output/filenames.h"
+#include "json/json.h"
 #include "require.h"
-#include "safename.h"
+#include "output/safename.h"
 
 #include <smilparser/mmslogger.h>
 

@@ -4,7 +4,7 @@
 // Makes a model and a list of media out of bytes. What is written of either can be read, and is the same then; of what
 // is composed, each part is found, and there is nothing to be told.
 
-#include "commands.h"
+#include "commands/commands.h"
 #include "require.h"
 
 #include "tests/messages.h"

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "cases.h"
-#include "commands.h"
+#include "commands/commands.h"
 #include "mmsbytes.h"
 
 #include <sys/stat.h>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "json.h"
+#include "json/json.h"
 #include "cases.h"
-#include "commands.h"
+#include "commands/commands.h"
 #include "mmsbytes.h"
 
 class JsonOutput : public QObject

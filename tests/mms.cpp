@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "mms.h"
+#include "input/mms.h"
 #include "mmsbytes.h"
 
 #include <QtTest/QtTest>

@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "crowding.h"
-#include "elementtable.h"
-#include "escaping.h"
-#include "findings.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "check/crowding.h"
+#include "check/elementtable.h"
+#include "check/findings.h"
+#include "commands/commands.h"
+#include "input/content.h"
 
 #include <QtCore/QIODevice>
 #include <QtCore/QSet>
@@ -30,23 +31,12 @@ static bool isNode(const QString &name)
     return name == QLatin1String("par") || name == QLatin1String("seq");
 }
 
-/** Whether an element of that name may play such a part; any may play what is not known to be something else. */
-static bool mayPlay(const QString &element, PartKind kind)
+/** Whether an element of that name may play such content; any may play what is not known to be something else. */
+static bool mayPlay(const QString &element, SmilRef::Type content)
 {
-    switch (kind) {
-    case PartKind::Picture:
-    case PartKind::OtherPicture:
-        return element == QLatin1String("img") || element == QLatin1String("ref");
-    case PartKind::Text:
-    case PartKind::Xml:
-        return element == QLatin1String("text") || element == QLatin1String("ref");
-    case PartKind::Audio:
-        return element == QLatin1String("audio") || element == QLatin1String("ref");
-    case PartKind::Video: // the container of a film may also have nothing but sound
-        return element != QLatin1String("text") && element != QLatin1String("img");
-    default:
-        return true;
-    }
+    // The container of a film may also have nothing but sound.
+    return content == SmilRef::Ref || element == QLatin1String("ref") || element == elementName(content)
+        || (content == SmilRef::Video && element == QLatin1String("audio"));
 }
 
 namespace
@@ -257,8 +247,8 @@ private:
         }
         usedParts.insert(part);
         const MessageParts::Part &read = message.parts.read(part);
-        if (!mayPlay(name, read.content.kind)) {
-            add(Finding::WrongKind, element, QStringLiteral("the part of %1 is %2:").arg(name, read.content.type),
+        if (!mayPlay(name, kindOfType(read.type))) {
+            add(Finding::WrongKind, element, QStringLiteral("the part of %1 is %2:").arg(name, read.type),
                 excerpt(src));
         }
     }

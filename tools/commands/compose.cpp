@@ -3,6 +3,7 @@
 
 #include "base/bounds.h"
 #include "commands/commands.h"
+#include "input/content.h"
 #include "input/plainfile.h"
 #include "output/outputfile.h"
 
@@ -23,15 +24,13 @@ static QString recognise(const QString &name, SmilRef::Type &type)
     if (!problem.isEmpty()) {
         return problem;
     }
-    const Content content = recognised(file.read(bounds::recognised));
+    const QString recognised = recognisedType(file.read(bounds::recognised));
     if (file.error() != QFileDevice::NoError) {
         return file.errorString();
     }
-    SmilPart part;
-    part.type = content.kind == PartKind::Text ? QStringLiteral("text/plain") : content.type;
-    type = part.kind();
-    return type != SmilRef::Ref ? QString()
-                                : QStringLiteral("is no picture, text, sound or film, but %1").arg(content.type);
+    type = kindOfType(recognised);
+    return type == SmilRef::Ref ? QStringLiteral("is no picture, text, sound or film, but %1").arg(recognised)
+                                : QString();
 }
 
 /** Adds the files in their order, and a line for each that is to be sent under another name, or else all problems. */

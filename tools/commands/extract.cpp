@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "escaping.h"
-#include "filenames.h"
-#include "outputfile.h"
-#include "plainfile.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "commands/commands.h"
+#include "input/plainfile.h"
+#include "output/filenames.h"
+#include "output/outputfile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

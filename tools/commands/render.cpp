@@ -13,7 +13,7 @@ void render(const Message &message, QIODevice &out)
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    const auto use = [&](Message &message) {
+    const auto use = [&](const Message &message) {
         if (message.smil.isEmpty()) {
             return failure(file, QStringLiteral("has no SMIL part"));
         }

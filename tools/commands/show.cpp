@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "elementtable.h"
-#include "escaping.h"
-#include "json.h"
-#include "timetext.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "base/timetext.h"
+#include "commands/commands.h"
+#include "input/content.h"
+#include "json/json.h"
 
 #include <smilparser/smilplayback.h>
 
@@ -73,7 +73,7 @@ static QString describe(const SmilRegion &region)
 
 static QString describe(const SmilRef &ref)
 {
-    QString text = elementName(ref) + QLatin1Char(' ') + quoted(ref.src);
+    QString text = elementName(ref.type) + QLatin1Char(' ') + quoted(ref.src);
     if (!ref.region.isEmpty()) {
         text += QLatin1String(" in ") + quoted(ref.region);
     }
@@ -163,7 +163,7 @@ static void showSlides(Outline &outline, const SmilSlideshow &show, const Messag
             const int part = slide.parts.at(i);
             outline.line(
                 2,
-                elementName(ref) + QLatin1Char(' ')
+                elementName(ref.type) + QLatin1Char(' ')
                     + (part < 0 ? quoted(ref.src) + QLatin1String(", missing") : quoted(header(parts.at(part).name))));
         }
     }

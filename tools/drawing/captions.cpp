@@ -28,9 +28,16 @@ static QString lineBelow(const QString &name, const QString &remark)
     return elided(name, frameWidth - width(remark)) + remark;
 }
 
-static bool isDrawn(PartKind kind)
+bool isPicture(const QString &type)
 {
-    return kind == PartKind::Picture || kind == PartKind::Text || kind == PartKind::Xml;
+    static const QStringList types{QStringLiteral("image/png"), QStringLiteral("image/jpeg"),
+                                   QStringLiteral("image/gif"), QStringLiteral("image/webp")};
+    return types.contains(type);
+}
+
+static bool isDrawn(const QString &type)
+{
+    return isPicture(type) || type == QLatin1String("text/plain");
 }
 
 /** The first line of the area, from @p from on, that no other label takes; -1 when there is none. */
@@ -88,7 +95,7 @@ static void add(const SmilCue &cue, int part, const QRectF &place, const ScaledS
     } else if (area.isEmpty()) {
         picture.below.append(lineBelow(name, remark + QLatin1String(", off screen in ") + quoted(id)));
     } else {
-        const bool drawn = part >= 0 && isDrawn(parts.read(part).content.kind);
+        const bool drawn = part >= 0 && isDrawn(parts.read(part).type);
         picture.shown.append({place, area, cue.fit, region, name + remark,
                               words + (id.isEmpty() ? id : QLatin1String(" in ") + id), drawn ? part : -1, isMissing});
         if (!drawn) {

@@ -36,6 +36,9 @@ struct Picture {
     QStringList below; ///< what has no place on the screen, or no room there
 };
 
+/** Whether content of that type is a picture that a viewer can draw. */
+bool isPicture(const QString &type);
+
 /** Says what the slide of that number shows, and finds the room to say it. */
 Picture pictureOf(int number, const SmilSlide &slide, const ScaledScreen &screen, MessageParts &parts);
 

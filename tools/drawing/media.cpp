@@ -22,8 +22,8 @@ void Media::draw(const Shown &shown)
     const MessageParts::Part &part = parts.read(shown.part);
     svg.beginClip(shown.area, id);
     svg.title(shown.words);
-    const bool isPicture = part.content.kind == PartKind::Picture;
-    const bool isTooLarge = isPicture && part.data.size() > left;
+    const bool pictured = isPicture(part.type);
+    const bool isTooLarge = pictured && part.data.size() > left;
     if (isTooLarge) {
         parts.leaveOut(shown.part,
                        QStringLiteral("would be more than %1 MiB with the pictures before it")
@@ -31,7 +31,7 @@ void Media::draw(const Shown &shown)
     }
     if (isTooLarge || drawn.size() > bounds::drawn) {
         svg.text(QPointF(4, 0.75 * lineHeight), shown.name);
-    } else if (isPicture) {
+    } else if (pictured) {
         drawPicture(part, shown);
     } else {
         drawText(shown.part, shown.area.size());
@@ -46,7 +46,7 @@ void Media::drawPicture(const MessageParts::Part &part, const Shown &shown)
     const QRectF place = shown.place.intersected(near);
     const QSizeF size = pictureSize(part.data);
     const QRectF fitted = size.isEmpty() ? place : SmilScreen::fitted(size, place, shown.fit);
-    svg.image(part.content.type, part.data, scaled(fitted, scale).translated(-shown.area.topLeft()),
+    svg.image(part.type, part.data, scaled(fitted, scale).translated(-shown.area.topLeft()),
               shown.fit == QLatin1String("fill"));
     left -= part.data.size();
 }

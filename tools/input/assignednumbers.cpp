@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "assignednumbers.h"
+#include "input/assignednumbers.h"
 
 // Of the public lists of assigned numbers, what messages are made of.
 static const struct {

@@ -4,26 +4,18 @@
 #ifndef SMILTOOL_CONTENT_H
 #define SMILTOOL_CONTENT_H
 
-#include <QtCore/QString>
+#include <smilparser/smilparser.h>
 
-/** What the content of a part is, whatever its name and its type say. */
-enum class PartKind {
-    Unread,
-    Picture, ///< PNG, JPEG, GIF or WebP
-    OtherPicture,
-    Text,
-    Xml, ///< such as SMIL
-    Audio,
-    Video,
-    Other
-};
+/**
+ * The type of what the bytes are, whatever their name says, as the system tells it from their beginning, such as
+ * "image/png". It is "text/plain" for every text except XML, and also when there are none.
+ */
+QString recognisedType(const QByteArray &bytes);
 
-struct Content {
-    QString type; ///< such as "image/png"
-    PartKind kind = PartKind::Unread;
-};
+/** What plays content of that type, as SmilPart::kind(). */
+SmilRef::Type kindOfType(const QString &type);
 
-/** What the bytes are, as the system tells it from their beginning. */
-Content recognised(const QByteArray &bytes);
+/** The name of the element for a SmilRef::Type. */
+QString elementName(int kind);
 
 #endif

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "folder.h"
-#include "bounds.h"
-#include "plainfile.h"
+#include "input/folder.h"
+#include "base/bounds.h"
+#include "input/plainfile.h"
 
 #include <QtCore/QDirIterator>
 #include <QtCore/QFile>

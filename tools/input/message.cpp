@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "message.h"
-#include "bounds.h"
-#include "escaping.h"
+#include "input/message.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
 
 #include <QtCore/QFile>
 

@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_MESSAGE_H
 #define SMILTOOL_MESSAGE_H
 
-#include "messageparts.h"
+#include "input/messageparts.h"
 
 /** Why a file or the SMIL in it cannot be read. */
 struct Problem {
@@ -30,7 +30,7 @@ struct Message {
     Problem problem;
 
     /** Whether there is something to show. A whole message whose SMIL cannot be read still has its parts. */
-    bool isReadable() const { return problem.isNone() || !mms.parts.isEmpty(); }
+    bool isReadable() const { return problem.isNone() || (parts.areKnown() && !mms.parts.isEmpty()); }
     /** As it is shown. To be kept: all is read anew at each call. */
     SmilSlideshow slideshow() const;
 };

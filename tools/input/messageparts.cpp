@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "messageparts.h"
+#include "input/messageparts.h"
+#include "input/content.h"
 
 #include <QtCore/QMimeDatabase>
 
@@ -36,10 +37,9 @@ MessageParts::MessageParts(const Folder &folder, const QString &smil)
         SmilPart part;
         part.name = name;
         add(part);
-        const QMimeType type = types.mimeTypeForFile(name, QMimeDatabase::MatchExtension);
+        // Nothing is read yet: the folder may hold much that the message does not name.
         m_headers.last().type = name == smilName ? QStringLiteral("application/smil")
-            : type.isDefault()                   ? read(size() - 1).content.type
-                                                 : type.name();
+                                                 : types.mimeTypeForFile(name, QMimeDatabase::MatchExtension).name();
     }
     addNames();
 }
@@ -56,12 +56,12 @@ MessageParts::MessageParts(const MmsMessage &message)
 const MessageParts::Part &MessageParts::read(int index)
 {
     Part &part = m_parts[index];
-    if (part.content.kind == PartKind::Unread && part.problem.isEmpty()) {
+    if (part.type.isNull() && part.problem.isEmpty()) {
         if (!m_folder.path().isNull()) {
             part.problem = m_folder.read(part.name, part.data);
         }
         if (part.problem.isEmpty()) {
-            part.content = recognised(part.data);
+            part.type = recognisedType(part.data);
         }
     }
     return part;

@@ -4,9 +4,8 @@
 #ifndef SMILTOOL_MESSAGEPARTS_H
 #define SMILTOOL_MESSAGEPARTS_H
 
-#include "content.h"
-#include "folder.h"
-#include "mms.h"
+#include "input/folder.h"
+#include "input/mms.h"
 
 /** The parts of a message, the SMIL among them, and which of them a src means. */
 class MessageParts
@@ -15,15 +14,15 @@ public:
     struct Part {
         QString name; ///< that is printed: its name, or else its location or identifier
         QByteArray data;
-        Content content;
+        QString type; ///< recognised from its data; null until that is read
         QString problem; ///< why it could not be read or shown (a link by now, too large), to be written after its name
     };
 
     /** None, because it is not known which there are. */
     MessageParts() = default;
     /**
-     * The files of the folder, of types that follow from their names or else from what is in them. @p smil is the file
-     * that the SMIL was read from, wherever that is.
+     * The files of the folder, of types that follow from their names. @p smil is the file that the SMIL was read from,
+     * wherever that is.
      */
     MessageParts(const Folder &folder, const QString &smil);
     explicit MessageParts(const MmsMessage &message);

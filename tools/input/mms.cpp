@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "mms.h"
-#include "assignednumbers.h"
-#include "bounds.h"
-#include "wspreader.h"
+#include "input/mms.h"
+#include "base/bounds.h"
+#include "input/assignednumbers.h"
+#include "input/wspreader.h"
 
 /** An encoded string: a text, or data that begins with the number of its character set. */
 static QString textOf(WspReader value)

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "plainfile.h"
+#include "input/plainfile.h"
 
 #include <QtCore/QFile>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "findings.h"
-#include "bounds.h"
-#include "escaping.h"
+#include "check/findings.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
 
 #include <algorithm>
 #include <iterator>

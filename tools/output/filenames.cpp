@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "filenames.h"
-#include "safename.h"
+#include "output/filenames.h"
+#include "output/safename.h"
 
 #include <QtCore/QMimeDatabase>
 #include <QtCore/QRegularExpression>

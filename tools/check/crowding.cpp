@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "crowding.h"
-#include "elementtable.h"
+#include "check/crowding.h"
+#include "check/elementtable.h"
 
 #include <smilparser/smilplayback.h>
 

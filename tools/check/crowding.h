@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_CROWDING_H
 #define SMILTOOL_CROWDING_H
 
-#include "findings.h"
+#include "check/findings.h"
 
 #include <smilparser/smilparser.h>
 

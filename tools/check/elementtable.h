@@ -4,8 +4,6 @@
 #ifndef SMILTOOL_ELEMENTTABLE_H
 #define SMILTOOL_ELEMENTTABLE_H
 
-#include <smilparser/smilparser.h>
-
 #include <QtCore/QStringList>
 
 /** What the library reads and writes of an element. */
@@ -17,9 +15,6 @@ struct Element {
 
 /** That of the element with this name, in lower case in the timeline; empty for one that the library does not know. */
 const Element &elementNamed(const QString &element);
-
-/** The name of the element that plays it. */
-QString elementName(const SmilRef &ref);
 
 /** Whether the attribute is a size, a position or a duration, whatever its element. */
 bool isMeasure(const QString &attribute);

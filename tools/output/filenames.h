@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_FILENAMES_H
 #define SMILTOOL_FILENAMES_H
 
-#include "message.h"
+#include "input/message.h"
 
 /**
  * The name of the file that each part of the message is written to: safe, as safeName(), and no two alike in any letter

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "json.h"
-#include "bounds.h"
-#include "elementtable.h"
-#include "escaping.h"
+#include "json/json.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "input/content.h"
 
 #include <smilparser/smilplayback.h>
 
@@ -160,7 +160,7 @@ static void addHeader(const SmilHeader &header, Json &json)
 static void addRef(const QByteArray &key, const SmilRef &ref, Json &json)
 {
     json.object(key, [&] {
-        json.add("type", elementName(ref));
+        json.add("type", elementName(ref.type));
         json.add("src", ref.src);
         json.add("region", ref.region);
     });

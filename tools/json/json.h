@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_JSON_H
 #define SMILTOOL_JSON_H
 
-#include "message.h"
+#include "input/message.h"
 
 class QIODevice;
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "elementtable.h"
+#include "check/elementtable.h"
 
 #include <QtCore/QMap>
 
@@ -46,12 +46,6 @@ const Element &elementNamed(const QString &element)
     static const Element unknown;
     const auto found = known.constFind(element);
     return found == known.constEnd() ? unknown : *found;
-}
-
-QString elementName(const SmilRef &ref)
-{
-    static const char *const names[] = {"text", "img", "audio", "video", "ref"};
-    return QLatin1String(names[ref.type]);
 }
 
 bool isMeasure(const QString &attribute)
