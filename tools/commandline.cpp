@@ -3,7 +3,7 @@
 
 #include "commandline.h"
 #include "commands/commands.h"
-#include "commands/findings.h"
+#include "check/findings.h"
 
 #include <smilparser/smilparser_version.h>
 

@@ -8,6 +8,7 @@
 #include "output/outputfile.h"
 
 #include <smilparser/smilcomposer.h>
+#include <smilparser/smilslideshow.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

@@ -39,7 +39,7 @@ text { fill: currentColor; }
 }
 )";
 
-static void draw(Svg &svg, Media &media, const Picture &picture, const ScaledScreen &screen, const QString &heading)
+static void draw(Svg &svg, Media &media, const Picture &picture, const ScaledScreen &screen)
 {
     svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
     for (const Shown &shown : picture.shown) {
@@ -57,84 +57,61 @@ static void draw(Svg &svg, Media &media, const Picture &picture, const ScaledScr
     }
     const double lines = picture.below.size() + 1.5;
     svg.beginClip(QRectF(0, screen.size.height(), frameWidth + margin / 2, lines * lineHeight));
-    svg.text(QPointF(0, 1.2 * lineHeight), heading, "number");
+    svg.text(QPointF(0, 1.2 * lineHeight), picture.heading, "number");
     for (int i = 0; i < picture.below.size(); ++i) {
         svg.text(QPointF(0, (2.3 + i) * lineHeight), picture.below.at(i));
     }
     svg.endGroup();
 }
 
-static QString summary(const QList<Frame> &frames, const QString &duration)
-{
-    QStringList all;
-    for (const Frame &frame : frames) {
-        QStringList words;
-        for (const SmilCue &cue : frame.cues) {
-            words.append(wordsFor(cue));
-        }
-        all.append(frame.heading + QLatin1String(": ")
-                   + shortened(words.join(QLatin1String(" + ")), bounds::description));
-    }
-    return duration + QLatin1Char(' ') + all.join(QLatin1String("; "));
-}
-
-static SmilTimeline timelineOf(const Message &message)
-{
-    return SmilTimeline(message.dom.documentElement());
-}
-
 void storyboard(Message &message, QIODevice &out)
 {
-    const ScaledScreen screen(message.document.header.layout);
-    const SmilTimeline timeline = timelineOf(message);
-    const QList<Frame> frames = framesOf(timeline);
-    Captions captions(screen, message.parts);
+    const SmilSlideshow show = message.slideshow();
+    const ScaledScreen screen(show.layout());
     QList<Picture> pictures;
+    QStringList words;
     double lines = 0;
-    for (const Frame &frame : frames) {
-        pictures.append(captions.of(frame));
-        lines = qMax<double>(lines, pictures.last().below.size());
+    const QList<SmilSlide> slides = firstSlides(show);
+    for (const SmilSlide &slide : slides) {
+        const Picture picture = pictureOf(int(pictures.size()) + 1, slide, screen, message.parts);
+        lines = qMax<double>(lines, picture.below.size());
+        words.append(picture.heading + QLatin1String(": ")
+                     + shortened(picture.words.join(QLatin1String(" + ")), bounds::description));
+        pictures.append(picture);
     }
     const double cellWidth = frameWidth + margin;
     const double cellHeight = screen.size.height() + (lines + 2) * lineHeight + margin;
-    const auto count = qMax<qsizetype>(1, frames.size());
+    const auto count = qMax<qsizetype>(1, pictures.size());
     const auto rows = (count + columns - 1) / columns;
     const QSizeF page(margin + qMin<double>(columns, count) * cellWidth, margin + rows * cellHeight);
-    const QString duration = QStringLiteral("Plays %1.").arg(lengthText(timeline.duration()));
-    const QString nothing = QStringLiteral("Nothing plays.");
+    const QString duration = pictures.isEmpty() ? QStringLiteral("Nothing plays.")
+                                                : QStringLiteral("Plays %1.").arg(lengthText(show.duration()));
+    const QString more = show.count() > pictures.size()
+        ? QStringLiteral(" No more than %1 slides are drawn.").arg(pictures.size())
+        : QString();
 
     Svg svg(out);
     svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
-              frames.isEmpty() ? nothing : summary(frames, duration), styleSheet);
+              (duration + QLatin1Char(' ') + words.join(QLatin1String("; "))).trimmed(), styleSheet);
     svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
-    Media media(svg, screen, message.parts);
-    for (int i = 0; i < frames.size(); ++i) {
+    Media media(svg, screen.scale, message.parts);
+    for (int i = 0; i < pictures.size(); ++i) {
         svg.beginGroup(QPointF(margin + i % columns * cellWidth, margin + i / columns * cellHeight));
-        draw(svg, media, pictures.at(i), screen, frames.at(i).heading);
+        draw(svg, media, pictures.at(i), screen);
         svg.endGroup();
     }
-    const QString more = timeline.slideBegins().size() > frames.size()
-        ? QStringLiteral(" No more than %1 slides are drawn.").arg(bounds::frames)
-        : QString();
-    if (frames.isEmpty()) {
-        svg.text(QPointF(margin, 2 * lineHeight), nothing);
-    } else {
-        svg.text(QPointF(margin, page.height() - 4), duration + more);
-    }
+    svg.text(QPointF(margin, page.height() - 4), duration + more);
     svg.end();
 }
 
 /** Whether a file in the folder of the parts is one that the message refers to. */
 static bool isPart(const QString &name, const QString &folder, const Message &message)
 {
-    const QString file = folder.isEmpty() ? QString() : nameIn(folder, name);
-    const int part = message.parts.find(file);
-    if (part < 0) {
-        return false;
-    }
-    const QList<SmilCue> cues = timelineOf(message).cues();
-    return std::any_of(cues.cbegin(), cues.cend(),
-                       [&](const SmilCue &cue) { return message.parts.find(cue.ref.src) == part; });
+    const int part = folder.isEmpty() ? -1 : message.parts.find(nameIn(folder, name));
+    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
+    return part >= 0 && std::any_of(cues.cbegin(), cues.cend(), [&](const SmilCue &cue) {
+               return message.parts.find(cue.ref.src) == part;
+           });
 }
 
 /** Draws to a file, but never over the message. */

@@ -6,31 +6,19 @@
 #include "drawing/picturesize.h"
 #include "drawing/typesetting.h"
 
+#include <QtCore/QDataStream>
 #include <QtCore/QRegularExpression>
 
 void Media::draw(const Shown &shown)
 {
-    const QRectF &area = shown.area;
-    const QString what = QStringLiteral("%1 %2 %3 %4 %5 %6 ")
-                             .arg(shown.part)
-                             .arg(shown.region)
-                             .arg(area.x())
-                             .arg(area.y())
-                             .arg(area.width())
-                             .arg(area.height())
-        + shown.words;
-    const auto before = drawn.constFind(what);
-    if (before != drawn.constEnd()) {
-        svg.reuse(*before);
-    } else {
-        const QString id = QStringLiteral("p%1").arg(drawn.size() + 1);
-        drawn.insert(what, id);
-        draw(shown, id);
+    QByteArray what;
+    QDataStream(&what, QIODevice::WriteOnly) << shown.part << shown.place << shown.fit << shown.name << shown.words;
+    QString &id = drawn[what];
+    if (!id.isNull()) {
+        svg.reuse(id);
+        return;
     }
-}
-
-void Media::draw(const Shown &shown, const QString &id)
-{
+    id = QStringLiteral("p%1").arg(drawn.size());
     const MessageParts::Part &part = parts.read(shown.part);
     svg.beginClip(shown.area, id);
     svg.title(shown.words);
@@ -56,10 +44,10 @@ void Media::drawPicture(const MessageParts::Part &part, const Shown &shown)
     // A place may reach as far as numbers do, where a viewer finds nothing.
     const QRectF near(-bounds::screen, -bounds::screen, 3 * bounds::screen, 3 * bounds::screen);
     const QRectF place = shown.place.intersected(near);
-    const QString fit = screen.fitOf(shown.region);
     const QSizeF size = pictureSize(part.data);
-    const QRectF fitted = scaled(size.isEmpty() ? place : SmilScreen::fitted(size, place, fit), screen.scale);
-    svg.image(part.type, part.data, fitted.translated(-shown.area.topLeft()), fit == QLatin1String("fill"));
+    const QRectF fitted = size.isEmpty() ? place : SmilScreen::fitted(size, place, shown.fit);
+    svg.image(part.type, part.data, scaled(fitted, scale).translated(-shown.area.topLeft()),
+              shown.fit == QLatin1String("fill"));
     left -= part.data.size();
 }
 

@@ -12,9 +12,9 @@
 class Media
 {
 public:
-    Media(Svg &picture, const ScaledScreen &layout, MessageParts &of)
+    Media(Svg &picture, double ofPixels, MessageParts &of)
         : svg(picture)
-        , screen(layout)
+        , scale(ofPixels)
         , parts(of)
     {
     }
@@ -23,14 +23,13 @@ public:
     void draw(const Shown &shown);
 
 private:
-    void draw(const Shown &shown, const QString &id);
     void drawPicture(const MessageParts::Part &part, const Shown &shown);
     void drawText(int part, const QSizeF &size);
 
     Svg &svg;
-    const ScaledScreen &screen;
+    const double scale; ///< units of the picture for each pixel
     MessageParts &parts;
-    QMap<QString, QString> drawn; ///< the id of each, by all that it depends on
+    QMap<QByteArray, QString> drawn; ///< the id of each, by all that it depends on
     qint64 left = bounds::pictures;
 };
 

@@ -3,8 +3,6 @@
 
 #include "drawing/scaledscreen.h"
 #include "base/bounds.h"
-#include "base/escaping.h"
-#include "drawing/typesetting.h"
 
 static bool canBeDrawn(double side)
 {
@@ -29,8 +27,7 @@ QRectF scaled(const QRectF &rectangle, double scale)
 }
 
 ScaledScreen::ScaledScreen(const SmilLayout &layout)
-    : regions(layout.regions)
-    , pixels(screenOf(layout))
+    : pixels(screenOf(layout))
     , scale(qMin(frameWidth / pixels.size().width(), frameHeight / pixels.size().height()))
     , size(pixels.size() * scale)
 {
@@ -39,9 +36,4 @@ ScaledScreen::ScaledScreen(const SmilLayout &layout)
 QRectF ScaledScreen::visible(const QRectF &place) const
 {
     return scaled(place.intersected(QRectF(QPointF(), pixels.size())), scale);
-}
-
-QString ScaledScreen::idOf(int region) const
-{
-    return elided(printable(shortened(regions.value(region).id, bounds::quotation)), frameWidth / 2);
 }

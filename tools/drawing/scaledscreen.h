@@ -17,11 +17,7 @@ struct ScaledScreen {
 
     /** What of a place on the message's screen can be seen, in units of the picture; empty when nothing can. */
     QRectF visible(const QRectF &place) const;
-    /** The region's name, so that it can be printed; empty for -1, as all of it. */
-    QString idOf(int region) const;
-    QString fitOf(int region) const { return regions.value(region).fit; }
 
-    QList<SmilRegion> regions;
     SmilScreen pixels;
     double scale; ///< units of the picture for each pixel
     QSizeF size; ///< in these units

@@ -111,6 +111,18 @@ QString Problem::toString() const
     return of + place + QLatin1String(": ") + text;
 }
 
+SmilSlideshow Message::slideshow() const
+{
+    QList<SmilPart> headers = parts.headers();
+    if (mms.parts.isEmpty()) {
+        // A folder may hold more than the message. What is SMIL is on no slide, unless it is named.
+        for (SmilPart &part : headers) {
+            part.type = QStringLiteral("application/smil");
+        }
+    }
+    return SmilSlideshow(smil, headers, SmilParser::ClockDurations);
+}
+
 Message readBytes(const QByteArray &bytes, const QString &file, const QString &folder, SmilParser::ReadOptions options)
 {
     Message message;

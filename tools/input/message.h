@@ -29,10 +29,10 @@ struct Message {
     MessageParts parts;
     Problem problem;
 
-    /** Whether there is something to show. A message whose SMIL cannot be read still has its parts. */
-    bool isReadable() const { return problem.isNone() || parts.areKnown(); }
+    /** Whether there is something to show. A whole message whose SMIL cannot be read still has its parts. */
+    bool isReadable() const { return problem.isNone() || !mms.parts.isEmpty(); }
     /** As it is shown. To be kept: all is read anew at each call. */
-    SmilSlideshow slideshow() const { return SmilSlideshow(smil, parts.headers(), SmilParser::ClockDurations); }
+    SmilSlideshow slideshow() const;
 };
 
 /**

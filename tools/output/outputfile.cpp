@@ -17,9 +17,13 @@ static bool status(const QString &input, struct stat &status)
                                        : stat(QFile::encodeName(input).constData(), &status) == 0;
 }
 
-/** A disk that takes a part of the data says why it takes no more when it is given the rest. */
-static bool writeAll(QFileDevice &out, const QByteArray &data)
+static bool writeAll(QFileDevice &out, QIODevice::OpenMode mode, const QByteArray &data)
 {
+    // What a buffer loses in the end, QSaveFile does not report.
+    if (!out.open(mode | QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return false;
+    }
+    // A disk that takes a part of the data says why it takes no more when it is given the rest.
     qint64 written = 0;
     for (qint64 more = 1; more > 0 && written < data.size(); written += more) {
         more = out.write(data.constData() + written, data.size() - written);
@@ -27,36 +31,18 @@ static bool writeAll(QFileDevice &out, const QByteArray &data)
     return written == data.size();
 }
 
-static QString writeTo(const QString &name, const QByteArray &data)
-{
-    QFile out(name);
-    const bool opened = out.open(QIODevice::WriteOnly | QIODevice::ExistingOnly | QIODevice::Unbuffered);
-    return opened && writeAll(out, data) ? QString() : out.errorString();
-}
-
-static QString replace(const QString &name, const QByteArray &data)
-{
-    QSaveFile out(name);
-    // What a buffer loses in the end, commit() does not report.
-    const bool opened = out.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
-    return opened && writeAll(out, data) && out.commit() ? QString() : out.errorString();
-}
-
 QString createFile(const QString &name, const QByteArray &data)
 {
     QFile out(name);
-    if (!out.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered)) {
-        return out.errorString();
+    if (!writeAll(out, QIODevice::NewOnly, data)) {
+        const QString problem = out.errorString();
+        if (out.isOpen()) {
+            out.remove();
+        }
+        return problem;
     }
-    QString problem = writeAll(out, data) ? QString() : out.errorString();
     out.close();
-    if (problem.isEmpty() && out.error() != QFileDevice::NoError) {
-        problem = out.errorString();
-    }
-    if (!problem.isEmpty()) {
-        out.remove();
-    }
-    return problem;
+    return out.error() == QFileDevice::NoError ? QString() : out.errorString();
 }
 
 bool isSameFile(const QString &input, const QString &output)
@@ -70,6 +56,10 @@ bool isSameFile(const QString &input, const QString &output)
 QString writeFile(const QString &name, const QByteArray &data)
 {
     struct stat status;
-    const bool isThere = stat(QFile::encodeName(name).constData(), &status) == 0;
-    return isThere && !S_ISREG(status.st_mode) ? writeTo(name, data) : replace(name, data);
+    if (stat(QFile::encodeName(name).constData(), &status) == 0 && !S_ISREG(status.st_mode)) {
+        QFile out(name);
+        return writeAll(out, QIODevice::ExistingOnly, data) ? QString() : out.errorString();
+    }
+    QSaveFile out(name);
+    return writeAll(out, QIODevice::NotOpen, data) && out.commit() ? QString() : out.errorString();
 }
