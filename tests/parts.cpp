@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "messageparts.h"
+#include "input/messageparts.h"
 
 #include <QtTest/QtTest>
 
