@@ -65,6 +65,6 @@ void Media::drawText(int part, const QSizeF &size)
     for (int i = 0; i < lines.size(); ++i) {
         const bool rightToLeft = lines.at(i).isRightToLeft();
         svg.text(QPointF(rightToLeft ? size.width() - 4 : 4, (i + 0.75) * lineHeight), lines.at(i),
-                 rightToLeft ? "rtl" : nullptr);
+                 rightToLeft ? QStringLiteral("rtl") : QString());
     }
 }
