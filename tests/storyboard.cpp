@@ -97,7 +97,7 @@ void Storyboard::noPictureIsTooLarge()
     const QByteArray message = "<smil><head/><body>" + QByteArray("<img/>").repeated(401) + "</body></smil>";
     const QString texts = textsIn(smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, message).out);
     QCOMPARE(texts.count(QString::fromUtf8("▣ ?")), 400);
-    QVERIFY2(texts.endsWith(QStringLiteral("Plays 2005s. No more than 400 slides are drawn.")), qPrintable(texts));
+    QVERIFY2(texts.endsWith(QStringLiteral("Plays 2005s. Only 400 of 401 slides are drawn.")), qPrintable(texts));
     const auto board = [](const QByteArray &root) {
         return smiltool({QStringLiteral("storyboard"), QStringLiteral("-")},
                         "<smil><head><layout>" + root + "</layout></head><body><img/></body></smil>")

@@ -290,9 +290,9 @@ void Tool::messageAsItIsSent()
                                "  to \"anna@example.org\"\n"
                                "  subject \"été\"\n"
                                "  date 2003-02-16T03:48:33Z\n"
-                               "  part \"start\", application/smil, 87 bytes\n"
+                               "  part \"<start>\", application/smil; charset=utf-8, 87 bytes\n"
                                "  part \"photo.png\", image/png, 16 bytes\n"
-                               "  part \"said.txt\", text/plain, 5 bytes\n"
+                               "  part \"said.txt\", text/plain; charset=utf-8, 5 bytes\n"
                                "  head\n"
                                "  layout\n"
                                "    root-layout: no size\n"
@@ -300,6 +300,9 @@ void Tool::messageAsItIsSent()
                                "    par, no duration\n"
                                "      img \"cid:one\"\n"
                                "      text \"hello.txt\"\n"
+                               "  slide 1, 0:00, 5s\n"
+                               "    img \"photo.png\"\n"
+                               "    text \"said.txt\"\n"
                                "  plays 5s\n"));
     QCOMPARE(smiltool({QStringLiteral("check"), QStringLiteral("-")}, message).out, QString());
     const QByteArray numbered = QByteArray(message).replace("photo.png", "ph%1%3.pn");

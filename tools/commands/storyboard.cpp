@@ -87,7 +87,7 @@ void storyboard(Message &message, QIODevice &out)
     const QString duration = pictures.isEmpty() ? QStringLiteral("Nothing plays.")
                                                 : QStringLiteral("Plays %1.").arg(lengthText(show.duration()));
     const QString more = show.count() > pictures.size()
-        ? QStringLiteral(" No more than %1 slides are drawn.").arg(pictures.size())
+        ? QStringLiteral(" Only %1 of %2 slides are drawn.").arg(pictures.size()).arg(show.count())
         : QString();
 
     Svg svg(out);

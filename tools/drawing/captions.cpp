@@ -82,7 +82,9 @@ static void add(const SmilCue &cue, int part, const QRectF &place, const ScaledS
     const int region = screen.pixels.regionIndex(cue.ref.region);
     const QString id =
         region < 0 ? QString() : elided(printable(shortened(cue.ref.region, bounds::quotation)), frameWidth / 2);
-    const QString name = withSign(cue.ref, cue.ref.src.isEmpty() ? QStringLiteral("?") : cue.ref.src);
+    // What no element refers to is called as the message calls it, not by its identifier.
+    const QString src = cue.line < 0 && part >= 0 ? parts.at(part).name : cue.ref.src;
+    const QString name = withSign(cue.ref, src.isEmpty() ? QStringLiteral("?") : src);
     const QString words = cue.alt.isEmpty() ? name : withSign(cue.ref, cue.alt);
     const bool isMissing = parts.areKnown() && part < 0;
     const QString remark = isMissing ? QStringLiteral(", missing") : QString();

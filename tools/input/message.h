@@ -30,7 +30,7 @@ struct Message {
     Problem problem;
 
     /** Whether there is something to show. A whole message whose SMIL cannot be read still has its parts. */
-    bool isReadable() const { return problem.isNone() || !mms.parts.isEmpty(); }
+    bool isReadable() const { return problem.isNone() || (parts.areKnown() && !mms.parts.isEmpty()); }
     /** As it is shown. To be kept: all is read anew at each call. */
     SmilSlideshow slideshow() const;
 };

@@ -37,10 +37,9 @@ MessageParts::MessageParts(const Folder &folder, const QString &smil)
         SmilPart part;
         part.name = name;
         add(part);
-        const QMimeType type = types.mimeTypeForFile(name, QMimeDatabase::MatchExtension);
+        // Nothing is read yet: the folder may hold much that the message does not name.
         m_headers.last().type = name == smilName ? QStringLiteral("application/smil")
-            : type.isDefault()                   ? read(size() - 1).type
-                                                 : type.name();
+                                                 : types.mimeTypeForFile(name, QMimeDatabase::MatchExtension).name();
     }
     addNames();
 }

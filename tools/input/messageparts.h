@@ -21,8 +21,8 @@ public:
     /** None, because it is not known which there are. */
     MessageParts() = default;
     /**
-     * The files of the folder, of types that follow from their names or else from what is in them. @p smil is the file
-     * that the SMIL was read from, wherever that is.
+     * The files of the folder, of types that follow from their names. @p smil is the file that the SMIL was read from,
+     * wherever that is.
      */
     MessageParts(const Folder &folder, const QString &smil);
     explicit MessageParts(const MmsMessage &message);
