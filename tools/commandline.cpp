@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include "commandline.h"
-#include "commands/commands.h"
 #include "check/findings.h"
+#include "commands/commands.h"
 
 #include <smilparser/smilparser_version.h>
 

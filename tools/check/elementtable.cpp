@@ -40,16 +40,36 @@ static QMap<QString, Element> byName()
     return result;
 }
 
-const Element &elementNamed(const QString &element)
+const Element &elementNamed(const QString &name)
 {
     static const QMap<QString, Element> known = byName();
     static const Element unknown;
-    const auto found = known.constFind(element);
+    const auto found = known.constFind(name);
     return found == known.constEnd() ? unknown : *found;
 }
 
-bool isMeasure(const QString &attribute)
+QList<Child> childrenOf(const QDomElement &element, const QString &name)
 {
-    static const QStringList measures = words("width height top bottom left right dur");
-    return measures.contains(attribute);
+    const Element &known = elementNamed(name);
+    const bool anyCase = known.all.contains(QStringLiteral("par"));
+    QList<Child> children;
+    QStringList seen;
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString childName = anyCase ? child.tagName().toLower() : child.tagName();
+        const bool isAgain = seen.contains(childName);
+        const bool isFirst = !isAgain && known.first.contains(childName);
+        seen += isFirst ? QStringList(childName) : QStringList();
+        children.append({child, childName, isAgain, !isFirst && !known.all.contains(childName)});
+    }
+    return children;
+}
+
+bool isNode(const QString &name)
+{
+    return name == QLatin1String("par") || name == QLatin1String("seq");
+}
+
+bool isMedium(const QString &name)
+{
+    return elementNamed(name).attributes.contains(QStringLiteral("src"));
 }

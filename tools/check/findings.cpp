@@ -10,11 +10,11 @@
 
 // In the order of Finding.
 static const char *const names[] = {
-    "unread-measure", "wrong-measure",  "clock-duration", "unknown-region", "unused-region",   "duplicate-region",
-    "missing-id",     "missing-src",    "empty-timeline", "crowded-slide",  "nested-timeline", "missing-part",
-    "unused-part",    "wrong-kind",     "lost",           "lost-root-size", "moved-top-size",  "lost-in-body",
-    "lost-element",   "lost-attribute", "changed-order",
-};
+    "unread-measure",  "wrong-measure", "unknown-region", "unused-region",  "duplicate-region",
+    "missing-id",      "missing-src",   "empty-timeline", "blank-time",     "crowded-slide",
+    "nested-timeline", "no-smil",       "missing-part",   "duplicate-part", "unused-part",
+    "wrong-kind",      "lost",          "moved-top-size", "lost-in-body",   "lost-element",
+    "lost-attribute",  "changed-order"};
 static_assert(std::size(names) == std::size_t(Finding::ChangedOrder) + 1, "every finding has a name");
 
 static const int shownDetails = 3;
@@ -46,6 +46,7 @@ void Findings::add(Finding finding, int line, const QString &subject, const QStr
     }
     Entry &entry = entries[index->second];
     ++entry.count;
+    entry.line = qMin(entry.line, line);
     if (!detail.isEmpty() && entry.details.size() <= shownDetails && !entry.details.contains(detail)) {
         entry.details.append(detail);
     }
@@ -61,7 +62,8 @@ QStringList Findings::lines(const QString &file, const QStringList &ignored) con
         if (ignored.contains(nameOf(entry.finding)) || (isLost && ignored.contains(nameOf(Finding::Lost)))) {
             continue;
         }
-        QString text = QStringLiteral("%1:%2: %3").arg(printable(file), QString::number(entry.line), entry.subject);
+        const QString place = entry.line > 0 ? QLatin1Char(':') + QString::number(entry.line) : QString();
+        QString text = printable(file) + place + QLatin1String(": ") + entry.subject;
         if (!entry.details.isEmpty()) {
             text += QLatin1Char(' ') + entry.details.mid(0, shownDetails).join(QLatin1String(", "))
                 + (entry.details.size() > shownDetails ? QStringLiteral(", ...") : QString());

@@ -13,20 +13,21 @@
 enum class Finding {
     UnreadMeasure,
     WrongMeasure,
-    ClockDuration,
     UnknownRegion,
     UnusedRegion,
     DuplicateRegion,
     MissingId,
     MissingSrc,
     EmptyTimeline,
+    BlankTime,
     CrowdedSlide,
     NestedTimeline,
+    NoSmil,
     MissingPart,
+    DuplicatePart,
     UnusedPart,
     WrongKind,
     Lost, ///< all that follow, which matter only to who writes the message back
-    LostRootSize,
     MovedTopSize,
     LostInBody,
     LostElement,
@@ -45,8 +46,8 @@ class Findings
 {
 public:
     /**
-     * Adds one at a line. One with the same subject is the same, found again: it stays at the line where it was found
-     * first. @p detail says more of this place.
+     * Adds one at a line, which is 0 when it is at none. One with the same subject is the same, found again: it is said
+     * once, at the first of the lines. @p detail says more of this place.
      */
     void add(Finding finding, int line, const QString &subject, const QString &detail = QString());
 

@@ -29,10 +29,9 @@ void render(const Message &message, QIODevice &out);
 void storyboard(Message &message, QIODevice &out);
 
 /**
- * Writes to @p out what its sender or receiver might want to know of the message, a line each, but for the findings
- * whose names are in @p ignored. @p plain says whether it matters what a host reads that gives the library no options.
- * Returns whether there was any.
+ * Writes to @p out what its sender or receiver might want to know of the message, a line each, except findings whose
+ * names are in @p ignored. Returns whether there was any.
  */
-bool check(Message &message, bool plain, const QStringList &ignored, QIODevice &out);
+bool check(Message &message, const QStringList &ignored, QIODevice &out);
 
 #endif
