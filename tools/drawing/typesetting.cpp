@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "drawing/typesetting.h"
+#include "base/escaping.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTextBoundaryFinder>
@@ -69,8 +70,9 @@ static int endOfLine(const QString &text, int from, double most)
 QStringList wrapped(const QString &text, double most, int count)
 {
     QStringList lines;
-    const QStringList paragraphs = text.split(QLatin1Char('\n'));
-    for (const QString &paragraph : paragraphs) {
+    const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
+    for (const QString &each : paragraphs) {
+        const QString paragraph = printable(each);
         int from = 0;
         do {
             if (lines.size() == count) {
