@@ -52,47 +52,40 @@ static const Command *findCommand(const QString &name)
     return found == std::end(allCommands) ? nullptr : *found;
 }
 
-static QString helpText(const Command *command)
+static QString helpText()
 {
-    if (command) {
-        return QString::fromLatin1("%1\n\nExample: %2")
-            .arg(QLatin1String(command->summary), QLatin1String(command->example));
-    }
     QString text = QStringLiteral(
         "Reads or makes the slide show of a multimedia message.\n\nCommands, each with a --help of its own:");
-    const auto add = [&text](const char *name, const char *summary) {
-        text += QStringLiteral("\n  %1 %2").arg(QLatin1String(name), -11).arg(QLatin1String(summary));
-    };
     for (const Command *const each : allCommands) {
-        add(each->name, each->summary);
+        text += QStringLiteral("\n  %1 %2").arg(QLatin1String(each->name), -11).arg(QLatin1String(each->summary));
     }
-    add("help", "Prints this, or the help of a command.");
-    return text;
+    return text + QLatin1String("\n  help        Prints this, or the help of a command.");
 }
 
 /** All options are known, so that a word is a value or a file whatever the command; the help has the command's own. */
 static void setUp(QCommandLineParser &parser, const Command *command)
 {
-    parser.setApplicationDescription(helpText(command));
     for (const OptionRow &row : options) {
         const QString names = qstrcmp(row.names, "ignore") == 0 ? findingNames().join(QLatin1String(", ")) : QString();
         QCommandLineOption option(namesOf(row), QLatin1String(row.summary) + names, QLatin1String(row.value),
                                   QLatin1String(row.byDefault));
-        option.setFlags(hasOption(command, namesOf(row).last()) ? QCommandLineOption::Flags()
-                                                                : QCommandLineOption::HiddenFromHelp);
+        if (!hasOption(command, namesOf(row).last())) {
+            option.setFlags(QCommandLineOption::HiddenFromHelp);
+        }
         parser.addOption(option);
     }
-    if (!command) {
+    const QString file = QStringLiteral("FILE");
+    if (command) {
+        parser.setApplicationDescription(QString::fromLatin1("%1\n\nExample: %2")
+                                             .arg(QLatin1String(command->summary), QLatin1String(command->example)));
+        parser.addPositionalArgument(
+            file, QLatin1String(command->takes),
+            QStringLiteral("%1 %2").arg(QLatin1String(command->name), QLatin1String(command->files)));
+    } else {
+        parser.setApplicationDescription(helpText());
         parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."));
+        parser.addPositionalArgument(file, QLatin1String(anyMessage), QStringLiteral("FILE..."));
     }
-    parser.addPositionalArgument(
-        QStringLiteral("FILE"),
-        command && command->takesAllFiles ? QStringLiteral("A picture, a text, a sound or a film.")
-            : hasOption(command, QStringLiteral("directory"))
-            ? QStringLiteral("A message as it is sent; - is standard input.")
-            : QStringLiteral("A SMIL part, or a message as it is sent; - is standard input."),
-        command ? QStringLiteral("%1 %2").arg(QLatin1String(command->name), QLatin1String(command->files))
-                : QStringLiteral("FILE..."));
 }
 
 /** Up to six digits each, which is what the library writes of a number. */

@@ -8,15 +8,9 @@
 
 bool needsEscaping(char32_t c)
 {
-    switch (QChar::category(c)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return QChar::isNonCharacter(c);
-    }
+    const QChar::Category category = QChar::category(c);
+    return category == QChar::Other_Control || category == QChar::Other_Format || category == QChar::Separator_Line
+        || category == QChar::Separator_Paragraph || QChar::isNonCharacter(c);
 }
 
 /** Whether a joiner stands between two characters that show, as in Persian words and many emoji. */

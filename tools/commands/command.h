@@ -35,6 +35,8 @@ struct Result {
     QStringList problems; ///< lines for standard error
 };
 
+const char anyMessage[] = "A SMIL part, or a message as it is sent; - is standard input.";
+
 /** What the tool can do with a file. */
 struct Command {
     const char *name;
@@ -44,6 +46,7 @@ struct Command {
     const char *example;
     Result (*run)(const QString &file, const Arguments &arguments, QIODevice &out);
     bool takesAllFiles = false; ///< it is run once for all files of the arguments, without one of its own
+    const char *takes = anyMessage; ///< what the files are
 };
 
 /**

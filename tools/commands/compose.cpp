@@ -83,4 +83,5 @@ const Command composeCommand = {"compose",
                                 "Makes a message of pictures, texts, sounds and films.",
                                 "smiltool compose beach.jpg hello.txt -o message.smil",
                                 run,
-                                true};
+                                true,
+                                "A picture, a text, a sound or a film."};

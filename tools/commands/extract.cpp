@@ -96,4 +96,6 @@ const Command extractCommand = {"extract",
                                 "directory",
                                 "Writes the parts of each whole message as files.",
                                 "smiltool extract message.mms -d pictures",
-                                run};
+                                run,
+                                false,
+                                "A message as it is sent; - is standard input."};

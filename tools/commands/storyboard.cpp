@@ -52,12 +52,12 @@ static void draw(Svg &svg, Media &media, const Picture &picture, const ScaledScr
     // After all of these, so that none hides a name in another.
     for (const Label &label : picture.labels) {
         svg.beginClip(QRectF(label.area.topLeft(), QSizeF(label.room, lineHeight)));
-        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.region < 0 ? nullptr : "id");
+        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.region < 0 ? QString() : QStringLiteral("id"));
         svg.endGroup();
     }
     const double lines = picture.below.size() + 1.5;
     svg.beginClip(QRectF(0, screen.size.height(), frameWidth + margin / 2, lines * lineHeight));
-    svg.text(QPointF(0, 1.2 * lineHeight), picture.heading, "number");
+    svg.text(QPointF(0, 1.2 * lineHeight), picture.heading, QStringLiteral("number"));
     for (int i = 0; i < picture.below.size(); ++i) {
         svg.text(QPointF(0, (2.3 + i) * lineHeight), picture.below.at(i));
     }
@@ -90,9 +90,8 @@ void storyboard(Message &message, QIODevice &out)
         ? QStringLiteral(" Only %1 of %2 slides are drawn.").arg(pictures.size()).arg(show.count())
         : QString();
 
-    Svg svg(out);
-    svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
-              (duration + QLatin1Char(' ') + words.join(QLatin1String("; "))).trimmed(), styleSheet);
+    Svg svg(out, page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
+            (duration + QLatin1Char(' ') + words.join(QLatin1String("; "))).trimmed(), styleSheet);
     svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
     Media media(svg, screen.scale, message.parts);
     for (int i = 0; i < pictures.size(); ++i) {
@@ -101,26 +100,19 @@ void storyboard(Message &message, QIODevice &out)
         svg.endGroup();
     }
     svg.text(QPointF(margin, page.height() - 4), duration + more);
-    svg.end();
 }
 
-/** Whether a file in the folder of the parts is one that the message refers to. */
-static bool isPart(const QString &name, const QString &folder, const Message &message)
-{
-    const int part = folder.isEmpty() ? -1 : message.parts.find(nameIn(folder, name));
-    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
-    return part >= 0 && std::any_of(cues.cbegin(), cues.cend(), [&](const SmilCue &cue) {
-               return message.parts.find(cue.ref.src) == part;
-           });
-}
-
-/** Draws to a file, but never over the message. */
+/** Draws to a file, but never over the message or a part that it refers to. */
 static Result drawTo(const QString &name, const QString &folder, Message &message)
 {
     if (isSameFile(message.file, name)) {
         return failure(name, QStringLiteral("is the message itself"));
     }
-    if (isPart(name, folder, message)) {
+    const int part = message.parts.find(nameIn(folder, name));
+    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
+    if (part >= 0 && std::any_of(cues.cbegin(), cues.cend(), [&](const SmilCue &cue) {
+            return message.parts.find(cue.ref.src) == part;
+        })) {
         return failure(name, QStringLiteral("is a part of the message"));
     }
     QBuffer picture;

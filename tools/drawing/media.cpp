@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "drawing/media.h"
-#include "base/escaping.h"
 #include "drawing/picturesize.h"
 #include "drawing/typesetting.h"
 
 #include <QtCore/QDataStream>
-#include <QtCore/QRegularExpression>
 
 void Media::draw(const Shown &shown)
 {
@@ -55,16 +53,10 @@ void Media::drawText(int part, const QSizeF &size)
 {
     const int count = qMax(1, int(size.height() / lineHeight));
     const int enough = count * (int(size.width() / narrowestLetter) + 2);
-    const QString text = withoutFormat(parts.beginning(part, enough));
-    const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
-    QStringList printed;
-    for (const QString &paragraph : paragraphs) {
-        printed.append(printable(paragraph));
-    }
-    const QStringList lines = wrapped(printed.join(QLatin1Char('\n')), size.width() - 8, count);
+    const QStringList lines = wrapped(withoutFormat(parts.beginning(part, enough)), size.width() - 8, count);
     for (int i = 0; i < lines.size(); ++i) {
         const bool rightToLeft = lines.at(i).isRightToLeft();
         svg.text(QPointF(rightToLeft ? size.width() - 4 : 4, (i + 0.75) * lineHeight), lines.at(i),
-                 rightToLeft ? "rtl" : nullptr);
+                 rightToLeft ? QStringLiteral("rtl") : QString());
     }
 }

@@ -4,18 +4,9 @@
 #include "output/outputfile.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 
 #include <sys/stat.h>
-#include <unistd.h>
-
-/** Asks for that of a file; "-" is standard input. */
-static bool status(const QString &input, struct stat &status)
-{
-    return input == QLatin1String("-") ? fstat(STDIN_FILENO, &status) == 0
-                                       : stat(QFile::encodeName(input).constData(), &status) == 0;
-}
 
 static bool writeAll(QFileDevice &out, QIODevice::OpenMode mode, const QByteArray &data)
 {
@@ -47,10 +38,12 @@ QString createFile(const QString &name, const QByteArray &data)
 
 bool isSameFile(const QString &input, const QString &output)
 {
+    const QString name = input == QLatin1String("-") ? QStringLiteral("/dev/stdin") : input;
     struct stat read;
     struct stat written;
-    return status(input, read) && stat(QFile::encodeName(output).constData(), &written) == 0 && S_ISREG(read.st_mode)
-        && read.st_dev == written.st_dev && read.st_ino == written.st_ino;
+    return stat(QFile::encodeName(name).constData(), &read) == 0 && S_ISREG(read.st_mode)
+        && stat(QFile::encodeName(output).constData(), &written) == 0 && read.st_dev == written.st_dev
+        && read.st_ino == written.st_ino;
 }
 
 QString writeFile(const QString &name, const QByteArray &data)
