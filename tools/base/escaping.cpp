@@ -65,12 +65,10 @@ static QString backslashed(QString text)
     return text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
 }
 
-QByteArray jsonEscaped(const QString &text)
+QByteArray printableJson(const QByteArray &json)
 {
-    const auto unit = [](ushort c) {
-        return QLatin1String("\\u") + QString::number(c, 16).rightJustified(4, QLatin1Char('0'));
-    };
-    return escape(backslashed(text),
+    const auto unit = [](ushort c) { return QStringLiteral("\\u%1").arg(c, 4, 16, QLatin1Char('0')); };
+    return escape(QString::fromUtf8(json),
                   [&unit](uint c) {
                       return QChar::requiresSurrogates(c) ? unit(QChar::highSurrogate(c)) + unit(QChar::lowSurrogate(c))
                                                           : unit(ushort(c));

@@ -21,8 +21,8 @@ void printError(const QString &text);
 /** The same XML, with all that printable() escapes, except line feeds, written as &#xXXXX;. */
 QString printableXml(const QString &xml);
 
-/** The same inside a string of JSON: as \uXXXX, with quotation marks and backslashes escaped. In UTF-8. */
-QByteArray jsonEscaped(const QString &text);
+/** The same JSON, in one line, with all that written as \uXXXX. */
+QByteArray printableJson(const QByteArray &json);
 
 /** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
 QString quoted(const QString &text);

@@ -4,7 +4,7 @@
 #include "base/bounds.h"
 #include "commands/commands.h"
 #include "input/content.h"
-#include "input/plainfile.h"
+#include "input/files.h"
 #include "output/outputfile.h"
 
 #include <smilparser/smilcomposer.h>

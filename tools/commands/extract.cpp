@@ -4,7 +4,7 @@
 #include "base/bounds.h"
 #include "base/escaping.h"
 #include "commands/commands.h"
-#include "input/plainfile.h"
+#include "input/files.h"
 #include "output/filenames.h"
 #include "output/outputfile.h"
 

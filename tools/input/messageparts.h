@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_MESSAGEPARTS_H
 #define SMILTOOL_MESSAGEPARTS_H
 
-#include "input/folder.h"
+#include "input/files.h"
 #include "input/mms.h"
 
 /** The parts of a message, the SMIL among them, and which of them a src means. */

@@ -9,259 +9,211 @@
 #include <smilparser/smilplayback.h>
 
 #include <QtCore/QIODevice>
-#include <QtCore/QLocale>
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
 
-#include <cmath>
-
-namespace
+static QJsonValue text(const QString &text)
 {
-/** Writes JSON piece by piece: all of a message at once takes several hundred times its size. */
-class Json
-{
-public:
-    explicit Json(QIODevice &device)
-        : out(device)
-    {
-    }
-
-    /** An object of what @p fill adds: the value of @p key or, without one, an element of a list, as all that follow.
-     */
-    template<typename Fill>
-    void object(const QByteArray &key, Fill fill)
-    {
-        next(key, "{");
-        isFirst = true;
-        fill();
-        out.putChar('}');
-        isFirst = false;
-    }
-
-    /** A list of what @p each adds for the elements. */
-    template<typename List, typename Each>
-    void list(const QByteArray &key, const List &elements, Each each)
-    {
-        next(key, "[");
-        isFirst = true;
-        for (const auto &element : elements) {
-            each(element);
-        }
-        out.putChar(']');
-        isFirst = false;
-    }
-
-    /** Nothing if the text is null. */
-    void add(const QByteArray &key, const QString &text)
-    {
-        if (!text.isNull()) {
-            next(key, '"' + jsonEscaped(text) + '"');
-        }
-    }
-
-    void add(const QByteArray &key, double number)
-    {
-        const bool isWhole = number == std::trunc(number) && std::fabs(number) < 1e15;
-        next(key,
-             qIsInf(number) ? QByteArray(number > 0 ? "\"inf\"" : "\"-inf\"")
-                 : isWhole  ? QByteArray::number(qint64(number))
-                            : QByteArray::number(number, 'g', QLocale::FloatingPointShortest));
-    }
-
-    void add(const QByteArray &key, const SmilUnit &measure);
-
-    void addFlag(const QByteArray &key, bool flag) { next(key, flag ? "true" : "false"); }
-
-private:
-    void next(const QByteArray &key, const QByteArray &value)
-    {
-        out.write(isFirst ? "" : ",");
-        out.write(key.isEmpty() ? key : '"' + key + "\":");
-        out.write(value);
-        isFirst = false;
-    }
-
-    QIODevice &out;
-    bool isFirst = true;
-};
+    return text.isNull() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(text);
 }
 
-/** Nothing if the measure is not valid. */
-void Json::add(const QByteArray &key, const SmilUnit &measure)
+static QJsonValue header(const QString &header)
+{
+    return text(shortened(header, bounds::header));
+}
+
+static QJsonValue number(double number)
+{
+    return qIsInf(number) ? QJsonValue(QLatin1String(number > 0 ? "inf" : "-inf")) : QJsonValue(number);
+}
+
+/** An object without what is not stated. */
+static QJsonObject object(std::initializer_list<std::pair<const char *, QJsonValue>> values)
+{
+    QJsonObject result;
+    for (const auto &[key, value] : values) {
+        result.insert(QLatin1String(key), value);
+    }
+    return result;
+}
+
+template<typename List, typename Make>
+static QJsonArray array(const List &elements, Make make)
+{
+    QJsonArray result;
+    for (const auto &element : elements) {
+        result.append(make(element));
+    }
+    return result;
+}
+
+static QJsonValue measure(const SmilUnit &measure)
 {
     static const char *const units[] = {"pt", "in", "cm", "px", "%", "s", ""};
-    if (measure.valid) {
-        object(key, [&] {
-            add("value", measure.value);
-            add("unit", QString(QLatin1String(units[measure.unit])));
-            add("text", measure.toString());
-        });
+    return !measure.valid ? QJsonValue(QJsonValue::Undefined)
+                          : object({{"value", number(measure.value)},
+                                    {"unit", QLatin1String(units[measure.unit])},
+                                    {"text", measure.toString()}});
+}
+
+static QJsonObject regionObject(const SmilRegion &region)
+{
+    return object({{"id", text(region.id)},
+                   {"fit", text(region.fit)},
+                   {"width", measure(region.width)},
+                   {"height", measure(region.height)},
+                   {"left", measure(region.left)},
+                   {"top", measure(region.top)},
+                   {"right", measure(region.right)},
+                   {"bottom", measure(region.bottom)}});
+}
+
+static QJsonObject headerObject(const SmilHeader &header)
+{
+    const SmilLayout &layout = header.layout;
+    const auto metaObject = [](const SmilMeta &meta) {
+        return object({{"id", text(meta.id)}, {"name", text(meta.name)}, {"content", text(meta.content)}});
+    };
+    const QJsonObject layoutObject = object({{"rootLayoutWidth", measure(layout.rootLayoutWidth)},
+                                             {"rootLayoutHeight", measure(layout.rootLayoutHeight)},
+                                             {"topLayoutWidth", measure(layout.topLayoutWidth)},
+                                             {"topLayoutHeight", measure(layout.topLayoutHeight)},
+                                             {"regions", array(layout.regions, regionObject)}});
+    return object({{"id", text(header.id)},
+                   {"className", text(header.className)},
+                   {"title", text(header.title)},
+                   {"metas", array(header.metas, metaObject)},
+                   {"layout", layoutObject}});
+}
+
+static QJsonObject refObject(const SmilRef &ref)
+{
+    return object({{"type", elementName(ref.type)}, {"src", text(ref.src)}, {"region", text(ref.region)}});
+}
+
+static QJsonObject cueObject(const SmilCue &cue, const SmilScreen &screen, int part)
+{
+    QJsonObject params;
+    for (auto param = cue.params.cbegin(); param != cue.params.cend(); ++param) {
+        params.insert(param.key(), text(param.value()));
     }
-}
-
-static QString header(const QString &text)
-{
-    return shortened(text, bounds::header);
-}
-
-static void addMessage(const Message &message, Json &json)
-{
-    const MmsMessage &mms = message.mms;
-    json.add("from", header(mms.from));
-    json.list("to", mms.to, [&](const QString &receiver) { json.add({}, header(receiver)); });
-    json.add("subject", header(mms.subject));
-    json.add("date", mms.date.isValid() ? mms.date.toString(Qt::ISODate) : QString());
-    int i = 0;
-    json.list("parts", mms.parts, [&](const SmilPart &part) {
-        json.object({}, [&] {
-            json.add("name", header(part.name));
-            json.add("contentId", header(part.contentId));
-            json.add("location", header(part.location));
-            json.add("type", header(part.type));
-            json.addFlag("smil", part.isSmil());
-            json.add("size", double(mms.data.at(i++).size()));
-        });
-    });
-}
-
-static void addLayout(const SmilLayout &layout, Json &json)
-{
-    json.add("rootLayoutWidth", layout.rootLayoutWidth);
-    json.add("rootLayoutHeight", layout.rootLayoutHeight);
-    json.add("topLayoutWidth", layout.topLayoutWidth);
-    json.add("topLayoutHeight", layout.topLayoutHeight);
-    json.list("regions", layout.regions, [&](const SmilRegion &region) {
-        json.object({}, [&] {
-            json.add("id", region.id);
-            json.add("width", region.width);
-            json.add("height", region.height);
-            json.add("bottom", region.bottom);
-            json.add("top", region.top);
-            json.add("left", region.left);
-            json.add("right", region.right);
-            json.add("fit", region.fit);
-        });
-    });
-}
-
-static void addHeader(const SmilHeader &header, Json &json)
-{
-    json.add("id", header.id);
-    json.add("className", header.className);
-    json.add("title", header.title);
-    json.list("metas", header.metas, [&](const SmilMeta &meta) {
-        json.object({}, [&] {
-            json.add("id", meta.id);
-            json.add("name", meta.name);
-            json.add("content", meta.content);
-        });
-    });
-    json.object("layout", [&] { addLayout(header.layout, json); });
-}
-
-static void addRef(const QByteArray &key, const SmilRef &ref, Json &json)
-{
-    json.object(key, [&] {
-        json.add("type", elementName(ref.type));
-        json.add("src", ref.src);
-        json.add("region", ref.region);
-    });
-}
-
-static void addNodes(const SmilNode &node, int depth, Json &json)
-{
-    json.object({}, [&] {
-        json.add("depth", depth);
-        json.add("type", node.type == SmilNode::Seq ? QStringLiteral("seq") : QStringLiteral("par"));
-        json.add("dur", node.dur);
-        json.list("refs", node.refs, [&](const SmilRef &ref) { addRef({}, ref, json); });
-    });
-    for (const SmilNode &child : node.children) {
-        addNodes(child, depth + 1, json);
-    }
-}
-
-/** Where a cue is shown when nothing shares the area with it. */
-static void addArea(const SmilCue &cue, const SmilScreen &screen, Json &json)
-{
-    const QRectF area =
-        screen.regionRects().value(screen.regionIndex(cue.ref.region), QRectF(QPointF(), screen.size()));
-    json.object("area", [&] {
-        json.add("x", area.x());
-        json.add("y", area.y());
-        json.add("width", area.width());
-        json.add("height", area.height());
-    });
-}
-
-static void addCue(const SmilCue &cue, const SmilScreen &screen, int part, Json &json)
-{
-    json.add("begin", cue.begin);
-    json.add("end", cue.end);
-    addRef("ref", cue.ref, json);
-    json.add("alt", cue.alt);
-    json.object("params", [&] {
-        for (auto param = cue.params.cbegin(); param != cue.params.cend(); ++param) {
-            json.add(jsonEscaped(param.key()), param.value());
-        }
-    });
+    QJsonObject result = object({{"begin", number(cue.begin)},
+                                 {"end", number(cue.end)},
+                                 {"ref", refObject(cue.ref)},
+                                 {"alt", text(cue.alt)},
+                                 {"params", params}});
     if (cue.ref.type != SmilRef::Audio) {
-        addArea(cue, screen, json);
+        // When nothing shares the area with it.
+        const QRectF area =
+            screen.regionRects().value(screen.regionIndex(cue.ref.region), QRectF(QPointF(), screen.size()));
+        result.insert(QLatin1String("area"),
+                      object({{"x", area.x()}, {"y", area.y()}, {"width", area.width()}, {"height", area.height()}}));
     }
     if (part >= 0) {
-        json.add("part", part);
+        result.insert(QLatin1String("part"), part);
     }
+    return result;
 }
 
-static void addTimeline(const Message &message, Json &json)
+static void addMessage(const Message &message, QJsonObject &json)
 {
-    const SmilScreen screen(message.document.header.layout);
-    const SmilTimeline timeline(message.dom.documentElement());
-    json.add("duration", timeline.duration());
-    json.list("cues", timeline.cues(), [&](const SmilCue &cue) {
-        json.object({}, [&] { addCue(cue, screen, message.parts.find(cue.ref.src), json); });
-    });
+    const MmsMessage &mms = message.mms;
+    int i = 0;
+    const auto partObject = [&](const SmilPart &part) {
+        return object({{"name", header(part.name)},
+                       {"contentId", header(part.contentId)},
+                       {"location", header(part.location)},
+                       {"type", header(part.type)},
+                       {"smil", part.isSmil()},
+                       {"size", double(mms.data.at(i++).size())}});
+    };
+    json.insert(QLatin1String("from"), header(mms.from));
+    json.insert(QLatin1String("to"), array(mms.to, header));
+    json.insert(QLatin1String("subject"), header(mms.subject));
+    json.insert(QLatin1String("date"), text(mms.date.isValid() ? mms.date.toString(Qt::ISODate) : QString()));
+    json.insert(QLatin1String("parts"), array(mms.parts, partObject));
 }
 
-static void addSlides(const SmilSlideshow &show, Json &json)
+static void addProblem(const Problem &problem, QJsonObject &json)
 {
-    json.add("duration", show.duration());
-    json.list("slides", firstSlides(show), [&](const SmilSlide &slide) {
-        json.object({}, [&] {
-            json.add("begin", slide.begin);
-            json.add("end", slide.end);
-            json.list("parts", slide.parts, [&](int part) { json.add({}, part); });
-        });
-    });
-}
-
-static void addProblem(const Problem &problem, Json &json)
-{
-    json.add("error", problem.text);
+    json.insert(QLatin1String("error"), problem.text);
     if (problem.line != 0) {
-        json.add("line", problem.line);
-        json.add("column", problem.column);
+        json.insert(QLatin1String("line"), problem.line);
+        json.insert(QLatin1String("column"), problem.column);
     }
+}
+
+static QByteArray written(const QJsonObject &object)
+{
+    return printableJson(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+/** Writes a list one by one: all of a message at once takes several hundred times its size. */
+template<typename List, typename Make>
+static void writeList(QIODevice &out, const char *key, const List &elements, Make make)
+{
+    out.write(QByteArray(",\"") + key + "\":[");
+    QByteArray comma;
+    for (const auto &element : elements) {
+        out.write(comma + written(make(element)));
+        comma = ",";
+    }
+    out.write("]");
+}
+
+using NodeAtDepth = std::pair<const SmilNode *, int>;
+
+static void flatten(const SmilNode &node, int depth, QList<NodeAtDepth> &nodes)
+{
+    nodes.append({&node, depth});
+    for (const SmilNode &child : node.children) {
+        flatten(child, depth + 1, nodes);
+    }
+}
+
+static void writeSmil(const Message &message, QIODevice &out)
+{
+    QList<NodeAtDepth> nodes;
+    flatten(message.document.body.root, 0, nodes);
+    writeList(out, "nodes", nodes, [](const NodeAtDepth &at) {
+        return object({{"depth", at.second},
+                       {"type", QLatin1String(at.first->type == SmilNode::Seq ? "seq" : "par")},
+                       {"dur", measure(at.first->dur)},
+                       {"refs", array(at.first->refs, refObject)}});
+    });
+    const SmilScreen screen(message.document.header.layout);
+    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
+    writeList(out, "cues", cues,
+              [&](const SmilCue &cue) { return cueObject(cue, screen, message.parts.find(cue.ref.src)); });
 }
 
 void showJson(const Message &message, QIODevice &out)
 {
-    Json json(out);
-    json.object({}, [&] {
-        json.add("file", message.file);
-        if (!message.problem.isNone()) {
-            addProblem(message.problem, json);
-        }
-        if (message.parts.areKnown()) {
-            addMessage(message, json);
-        }
-        if (message.outcome == SmilParser::Complete) {
-            json.object("header", [&] { addHeader(message.document.header, json); });
-            json.list("nodes", QList<SmilNode>{message.document.body.root},
-                      [&](const SmilNode &root) { addNodes(root, 0, json); });
-            json.object("timeline", [&] { addTimeline(message, json); });
-        }
-        if (message.isReadable()) {
-            addSlides(message.slideshow(), json);
-        }
-    });
-    out.putChar('\n');
+    QJsonObject json = object({{"file", message.file}});
+    const SmilSlideshow show = message.isReadable() ? message.slideshow() : SmilSlideshow();
+    if (!message.problem.isNone()) {
+        addProblem(message.problem, json);
+    }
+    if (message.isReadable()) {
+        json.insert(QLatin1String("duration"), number(show.duration()));
+    }
+    if (!message.mms.parts.isEmpty()) {
+        addMessage(message, json);
+    }
+    if (message.outcome == SmilParser::Complete) {
+        json.insert(QLatin1String("header"), headerObject(message.document.header));
+    }
+    out.write(written(json).chopped(1));
+    if (message.outcome == SmilParser::Complete) {
+        writeSmil(message, out);
+    }
+    if (message.isReadable()) {
+        writeList(out, "slides", firstSlides(show), [](const SmilSlide &slide) {
+            return object({{"begin", number(slide.begin)},
+                           {"end", number(slide.end)},
+                           {"parts", array(slide.parts, [](int part) { return part; })}});
+        });
+    }
+    out.write("}\n");
 }

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #include "output/filenames.h"
-#include "output/safename.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "input/content.h"
 
 #include <QtCore/QMimeDatabase>
 #include <QtCore/QRegularExpression>
 
-#include <algorithm>
 #include <set>
+#include <string>
 
 /** The name without what may stand around it, which no file is called for. */
 static QString bare(QString name)
@@ -18,30 +20,55 @@ static QString bare(QString name)
     return name.remove(around);
 }
 
-/** "." and the extension of a type, or nothing. */
-static QString extensionOf(const QString &type)
+static QString extensionOf(const QString &name)
 {
-    const QMimeDatabase types;
-    QMimeType found = types.mimeTypeForName(type);
-    if (!found.isValid()) { // "audio/AMR" is not in lower case there
-        static const QList<QMimeType> every = types.allMimeTypes();
-        const auto isIt = [&type](const QMimeType &each) {
-            return each.name().compare(type, Qt::CaseInsensitive) == 0;
-        };
-        const auto other = std::find_if(every.cbegin(), every.cend(), isIt);
-        found = other == every.cend() ? found : *other;
+    const int longest = 16;
+    const auto dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot > 0 && name.size() - dot <= longest ? name.mid(dot) : QString();
+}
+
+/** As much of the beginning as there is room for, and the end. */
+static QString fitted(const QString &beginning, const QString &end)
+{
+    const auto most = bounds::fileName - end.toUtf8().size();
+    QString kept = beginning.left(bounds::fileName);
+    while (kept.toUtf8().size() > most || (!kept.isEmpty() && kept.at(kept.size() - 1).isHighSurrogate())) {
+        kept.chop(1);
     }
-    const QString extension = found.preferredSuffix();
-    return extension.isEmpty() ? extension : QLatin1Char('.') + extension;
+    return kept + end;
+}
+
+QString safeName(const QString &name)
+{
+    std::u32string kept;
+    for (const char32_t c : name.toStdU32String()) { // with U+FFFD for half a surrogate pair
+        const bool begins = c != '.' && c != '-' && !QChar::isSpace(c);
+        if (c == '/' || c == '\\') {
+            kept.clear();
+        } else if (!needsEscaping(c) && (begins || !kept.empty())) {
+            kept += c;
+        }
+    }
+    const QString safe = QString::fromStdU32String(kept);
+    const QString extension = extensionOf(safe);
+    return fitted(safe.chopped(extension.size()), extension);
+}
+
+/** The same safe name with a number before its extension: "photo-2.jpg". */
+static QString numberedName(const QString &safe, int number)
+{
+    const QString extension = extensionOf(safe);
+    return fitted(safe.chopped(extension.size()), QStringLiteral("-%1%2").arg(number).arg(extension));
 }
 
 static QString nameOf(int part, const Message &message)
 {
     const QString safe = safeName(bare(message.parts.at(part).name));
-    return safe.isEmpty()
-        ? safeName(QString::number(part + 1)
-                   + extensionOf(message.mms.parts.at(part).type.section(QLatin1Char(';'), 0, 0).trimmed()))
-        : safe;
+    const QString type = recognisedType(message.mms.data.at(part));
+    const QString extension = QMimeDatabase().mimeTypeForName(type).preferredSuffix();
+    return !safe.isEmpty()    ? safe
+        : extension.isEmpty() ? QString::number(part + 1)
+                              : QStringLiteral("%1.%2").arg(part + 1).arg(extension);
 }
 
 QVector<QString> fileNames(const Message &message, const QStringList &srcs)

@@ -1,10 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_FOLDER_H
-#define SMILTOOL_FOLDER_H
+#ifndef SMILTOOL_FILES_H
+#define SMILTOOL_FILES_H
 
 #include <QtCore/QStringList>
+
+class QFile;
+
+enum class Links { Refused, Followed };
+
+/**
+ * Opens a plain file to read it; what is none (a folder, a device, a pipe, which may wait for a writer or have no end)
+ * is not opened. Returns why that failed, to be written after its name, or else nothing.
+ */
+QString openPlainFile(const QString &name, Links links, QFile &file);
 
 /** The files directly in a folder; no links, no devices and the like. */
 class Folder
