@@ -151,11 +151,10 @@ static void requireGood(const QByteArray &text, const QStringList &sent)
     for (int i = 0; i < sent.size(); ++i) {
         require(parts.find(sent.at(i)) == i, "a src means its part");
     }
-    Message message;
-    const Problem problem = readBytes(text, QStringLiteral("-"), QString(), SmilParser::AsWritten, message);
+    Message message = readBytes(text, QStringLiteral("-"), QString());
     QBuffer findings;
     findings.open(QIODevice::WriteOnly);
-    require(problem.isNone() && !check(message, false, {}, findings), "there is nothing to be told of it");
+    require(message.problem.isNone() && !check(message, {}, findings), "there is nothing to be told of it");
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

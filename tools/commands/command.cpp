@@ -13,10 +13,11 @@ Result withMessage(const QString &file, const Arguments &arguments, const std::f
 {
     Message message = readMessage(file, arguments.parts, options);
     Result result = message.isReadable() ? use(message) : Result();
+    QStringList problems = message.parts.problems(file);
     if (!message.problem.isNone()) {
-        result.problems.prepend(message.problem.toString());
+        problems.prepend(message.problem.toString());
     }
-    result.problems += message.parts.problems(file);
-    result.ok = result.ok && result.problems.isEmpty();
+    result.ok = result.ok && problems.isEmpty();
+    result.problems = problems + result.problems;
     return result;
 }
