@@ -263,12 +263,14 @@ void Storyboard::picturesFitTheirPlace()
             + QByteArray::number(50 * media.count('/')) + "' width='44'/>";
         media += QByteArray("<img src='beach.jpg' region='") + fit + "' alt='&lt;" + fit + "'/>";
     }
-    const QByteArray pages = "<par>" + media + "</par><par>" + media + "</par><img src='beach.jpg'/>";
+    const QByteArray pages =
+        "<par>" + media + "</par><par>" + media + "</par><par><img src='beach.jpg'/><img src='beach.jpg'/></par>";
     const Outcome outcome = smiltool("storyboard --parts holiday -",
                                      "<smil><head><layout><root-layout width='184' height='75'/>" + regions
                                          + "</layout></head><body>" + pages + "</body></smil>");
-    QCOMPARE(imagesIn(outcome.out),
-             QStringLiteral("0 18.75 44 37.5 | -22 0 88 75 | 0 0 44 75 none | 0 18.75 44 37.5 | 48 0 88 75"));
+    QCOMPARE(
+        imagesIn(outcome.out),
+        QStringLiteral("0 18.75 44 37.5 | -22 0 88 75 | 0 0 44 75 none | 0 18.75 44 37.5 | 2 0 88 75 | 2 0 88 75"));
     // The second frame has no data of its own.
     QCOMPARE(outcome.out.count(QLatin1String("<use ")), 4);
     QVERIFY2(outcome.out.contains(QStringLiteral("<title>\u25a3 &lt;slice in slice</title>")), qPrintable(outcome.out));
