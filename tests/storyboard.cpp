@@ -310,7 +310,8 @@ void Storyboard::neverDrawsOver_data()
                                               "$tool storyboard - --parts $dir -o $old")
                             << QStringLiteral(": is a part of the message\n");
     QTest::newRow("a file, if there is nothing to draw")
-        << QStringLiteral("echo '<smil>' | $tool storyboard - --parts $dir -o $old") << QStringLiteral(".\n");
+        << QStringLiteral("echo '<smil/>' | $tool storyboard - --parts $dir -o $old")
+        << QStringLiteral(": Fail to find SMIL head!\n");
 }
 
 void Storyboard::neverDrawsOver()
