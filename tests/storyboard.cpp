@@ -116,7 +116,7 @@ void Storyboard::everyPartIsDrawn()
     QFETCH(QString, texts);
     QFETCH(QString, problem);
     const auto named = [](const QByteArray &type, const QByteArray &name, const QByteArray &data) {
-        return part(sized(text(type) + '\x85' + text(name)), data);
+        return part(sized(text(type) + '\x85' + text(name)) + '\xC0' + text("\"<" + name + "@x>"), data);
     };
     const QByteArray parts = named("image/png", "photo", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16))
         + named("text/plain", "words", "Hello") + named("application/x-card", "card", QByteArray("\0\1", 2));
@@ -307,6 +307,8 @@ void Storyboard::neverDrawsOver_data()
     QTest::newRow("a part") << QStringLiteral("echo \"<smil><head/><body><audio src='old'/></body></smil>\" | "
                                               "$tool storyboard - --parts $dir -o $old")
                             << QStringLiteral(": is a part of the message\n");
+    QTest::newRow("a file, if there is nothing to draw")
+        << QStringLiteral("echo '<smil>' | $tool storyboard - --parts $dir -o $old") << QStringLiteral(".\n");
 }
 
 void Storyboard::neverDrawsOver()
