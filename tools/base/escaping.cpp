@@ -3,6 +3,7 @@
 
 #include "base/escaping.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
 
@@ -67,6 +68,9 @@ static QString backslashed(QString text)
 
 QByteArray printableJson(const QByteArray &json)
 {
+    if (std::none_of(json.cbegin(), json.cend(), [](char c) { return c < 0x20 || c == 0x7f; })) {
+        return json; // as almost all are
+    }
     const auto unit = [](ushort c) { return QStringLiteral("\\u%1").arg(c, 4, 16, QLatin1Char('0')); };
     return escape(QString::fromUtf8(json),
                   [&unit](uint c) {

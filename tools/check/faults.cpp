@@ -153,7 +153,7 @@ void findFaults(const QDomElement &smil, Message &message, Findings &found)
     visit(smil, QStringLiteral("smil"), walk);
     checkReferences(walk);
     const MessageParts &parts = message.parts;
-    if (message.smil.isEmpty()) {
+    if (message.smil.isEmpty() && message.problem.isNone()) {
         found.add(Finding::NoSmil, 0, QStringLiteral("has no SMIL part"));
     }
     for (int i = 0; i < parts.size(); ++i) {
