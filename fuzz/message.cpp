@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "commands.h"
-#include "escaping.h"
-#include "filenames.h"
-#include "json.h"
+#include "base/escaping.h"
+#include "commands/commands.h"
+#include "output/filenames.h"
+#include "output/safename.h"
 #include "require.h"
-#include "safename.h"
+#include "json/json.h"
 
 #include <smilparser/mmslogger.h>
 
@@ -28,25 +28,21 @@ static void takeApart(const QByteArray &bytes)
     MmsMessage message;
     const QString problem = decodeMms(bytes, message);
     require(!problem.contains(QLatin1Char('\n')), "a problem is one line");
-    require(message.smil >= -1 && message.smil < message.parts.size(), "the SMIL part is one of the parts");
+    require(message.parts.size() == message.data.size(), "each part has data");
 
     const QDateTime &date = message.date;
     require(date.isNull() || (date.isValid() && date.date().year() < 2107), "the date can be written");
-    Parts parts(message);
+    MessageParts parts(message);
     qint64 total = 0;
     for (int i = 0; i < parts.size(); ++i) {
-        const MmsPart &part = message.parts.at(i);
-        total += part.data.size();
-        const auto isFound = [&parts, i](const QString &name, bool isOwn) {
-            const int found = parts.find(name);
-            return name.isEmpty() || (found >= 0 && (!isOwn || found <= i));
-        };
-        require(isFound(part.id, true), "a part is found by its identifier, or the first that has it");
-        require(isFound(part.location, false) && isFound(part.name, false), "a name finds a part");
-        require(isFound(parts.at(i).name, false), "what a part is called finds a part");
-        require(part.id.isEmpty() || isFound(QLatin1String("cid:<") + part.id + QLatin1Char('>'), false),
-                "a reference by the identifier finds a part");
-        require(parts.read(i).content.kind != PartKind::Unread, "a part has a kind");
+        const SmilPart &part = message.parts.at(i);
+        total += message.data.at(i).size();
+        parts.read(i);
+        require(!parts.at(i).type.isEmpty(), "what is in a part is of some type");
+        // Of some names nothing is left without what stands around them.
+        const int found = parts.find(part.contentId);
+        require(found < 0 || found <= i || part.contentId != message.parts.at(found).contentId,
+                "a part is found by its identifier, or the first that has it");
     }
     require(total <= bytes.size(), "there is no more data than there was");
 }
@@ -71,13 +67,13 @@ static void nameFiles(const Message &message, const QStringList &srcs)
 static void nameFiles(const Message &message)
 {
     QStringList srcs;
-    const SmilTimeline timeline(message.dom.documentElement());
-    for (const SmilCue &cue : timeline.cues()) {
+    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
+    for (const SmilCue &cue : cues) {
         srcs.append(cue.ref.src);
     }
     nameFiles(message, srcs);
-    for (const MmsPart &part : message.mms.parts) {
-        srcs += {part.name, QLatin1String("cid:") + part.id, part.location.toUpper(),
+    for (const SmilPart &part : message.mms.parts) {
+        srcs += {part.name, QLatin1String("cid:") + part.contentId, part.location.toUpper(),
                  QString::fromLatin1(part.name.toUtf8().toPercentEncoding())};
     }
     nameFiles(message, srcs);
@@ -96,11 +92,12 @@ static void requireOutput(const QByteArray &out, qint64 most)
 static MmsMessage companions()
 {
     MmsMessage message;
-    message.parts = {
-        {QStringLiteral("a"), {}, {},                 {},   QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)},
-        {QStringLiteral("b"),                   {},   {}, {}, "Hel\tlo \xe2\x80\xae\xd7\xa9"                                        },
-        {QStringLiteral("c"),                   {},   {}, {}, "#!AMR\n\x3c\x91"}
-    };
+    for (const char *const name : {"a", "b", "c"}) {
+        SmilPart part;
+        part.name = QString::fromLatin1(name);
+        message.parts.append(part);
+    }
+    message.data = {QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), "Hel\tlo \xe2\x80\xae\xd7\xa9", "#!AMR\n\x3c\x91"};
     return message;
 }
 
@@ -121,7 +118,7 @@ static void runCommands(Message message, qint64 size)
     require(!QJsonDocument::fromJson(json).object().isEmpty() && json.indexOf('\n') == json.size() - 1,
             "JSON is one line that can be read");
     bool found = false;
-    const QByteArray findings = written([&](QIODevice &out) { found = check(message, true, {}, out); });
+    const QByteArray findings = written([&](QIODevice &out) { found = check(message, {}, out); });
     requireOutput(findings, most);
     require(found == !findings.isEmpty() && (!found || findings.endsWith("]\n")), "a finding is a line");
     const QByteArray picture = written([&](QIODevice &out) { storyboard(message, out); });
@@ -139,18 +136,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(data), QByteArray::size_type(size));
     takeApart(bytes);
 
-    Message message;
-    const Problem problem = readBytes(bytes, QStringLiteral("-"), QString(), SmilParser::ClockDurations, message);
+    Message message = readBytes(bytes, QStringLiteral("-"), QString());
+    const Problem &problem = message.problem;
     require(!problem.toString().contains(QLatin1Char('\n')) && problem.isNone() == problem.text.isEmpty(),
             "a problem is one line");
     if (message.parts.areKnown()) {
         nameFiles(message);
     }
-    if (problem.isNone()) {
+    if (message.isReadable()) {
         runCommands(message, qint64(size));
         if (!message.parts.areKnown()) {
             message.mms = companions();
-            message.parts = Parts(message.mms);
+            message.parts = MessageParts(message.mms);
             runCommands(message, qint64(size));
         }
     }

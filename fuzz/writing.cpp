@@ -4,7 +4,7 @@
 // Makes a model and a list of media out of bytes. What is written of either can be read, and is the same then; of what
 // is composed, each part is found, and there is nothing to be told.
 
-#include "commands.h"
+#include "commands/commands.h"
 #include "require.h"
 
 #include "tests/messages.h"
@@ -142,11 +142,10 @@ static void requireGood(const QByteArray &text, const QStringList &sent)
     for (int i = 0; i < sent.size(); ++i) {
         require(parts.find(sent.at(i)) == i, "a src means its part");
     }
-    Message message;
-    const Problem problem = readBytes(text, QStringLiteral("-"), QString(), SmilParser::AsWritten, message);
+    Message message = readBytes(text, QStringLiteral("-"), QString());
     QBuffer findings;
     findings.open(QIODevice::WriteOnly);
-    require(problem.isNone() && !check(message, false, {}, findings), "there is nothing to be told of it");
+    require(message.problem.isNone() && !check(message, {}, findings), "there is nothing to be told of it");
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "parts.h"
+#include "input/content.h"
+#include "input/message.h"
+#include "mmsbytes.h"
 
 #include <QtTest/QtTest>
 
@@ -10,56 +12,37 @@
 
 static const QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452");
 
-Q_DECLARE_METATYPE(PartKind)
-
 class PartsOfMessages : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void srcOfMessage_data();
-    void srcOfMessage();
+    void smilOfMessage_data();
+    void smilOfMessage();
     void srcOfFolder_data();
     void srcOfFolder();
     void onlyFilesOfTheFolder();
-    void kinds_data();
-    void kinds();
+    void types_data();
+    void types();
 };
 
-/** Adds a row for each "src=part"; without a part, the src means none. */
-static void addMeanings(const char *rows)
+void PartsOfMessages::smilOfMessage_data()
 {
-    QTest::addColumn<QString>("src");
-    QTest::addColumn<QString>("part");
-    const QStringList each = QString::fromLatin1(rows).split(QLatin1Char(' '));
-    for (const QString &row : each) {
-        QTest::newRow(qPrintable(row)) << row.section(QLatin1Char('='), 0, 0) << row.section(QLatin1Char('='), 1);
-    }
+    QTest::addColumn<QByteArray>("start");
+    QTest::addColumn<QByteArray>("smil");
+    QTest::newRow("the first") << QByteArray() << QByteArray("<smil>1</smil>");
+    QTest::newRow("the one to start with") << QByteArray("<two>") << QByteArray("<smil>2</smil>");
+    QTest::newRow("the start is a picture") << QByteArray("<png>") << QByteArray("<smil>1</smil>");
+    QTest::newRow("the start is not there") << QByteArray("<three>") << QByteArray("<smil>1</smil>");
 }
 
-static QString meaning(const Parts &parts, const QString &src)
+void PartsOfMessages::smilOfMessage()
 {
-    const int found = parts.find(src);
-    return found < 0 ? QString() : parts.at(found).name;
-}
-
-void PartsOfMessages::srcOfMessage_data()
-{
-    // "shared" is the location of one part, and the name of a part before it.
-    addMeanings("cid:one=shared CID:<ONE>=shared shared=photo.png photo.png=photo.png hello.txt=hello.txt "
-                "%68ello%2Etxt=hello.txt cid:start=start cid:3= cid:=");
-}
-
-void PartsOfMessages::srcOfMessage()
-{
-    MmsMessage read;
-    for (const char *const headers : {"|start|", "shared|one|", "photo.png|two|shared", "||hello.txt"}) {
-        const QStringList each = QString::fromLatin1(headers).split(QLatin1Char('|'));
-        read.parts.append({each.at(0), each.at(1), each.at(2), QString(), png});
-    }
-    read.smil = 0;
-    QFETCH(QString, src);
-    QTEST(meaning(Parts(read), src), "part");
-    QCOMPARE(Parts(read).smil(), 0);
+    QFETCH(QByteArray, start);
+    const QByteArray type = start.isEmpty() ? QByteArray("\xB3") : sized("\xB3\x8A" + text(start));
+    const QByteArray parts = part("\xA0\xC0" + text("<png>"), png)
+        + part(text("application/smil") + '\xC0' + text("<one>"), "<smil>1</smil>")
+        + part(text("application/smil") + '\xC0' + text("<two>"), "<smil>2</smil>");
+    QTEST(readBytes(message(type, 3, parts), QStringLiteral("-"), QString()).smil, "smil");
 }
 
 /** Writes a file, of that size if one is given. */
@@ -71,10 +54,20 @@ static bool write(const QString &name, qint64 size = 0)
 
 void PartsOfMessages::srcOfFolder_data()
 {
-    addMeanings(
-        "photo.png=photo.png cid:a=cid:a cid:<a>=a 100%25=100%25 cid:100%2525=100%25 %50hoto.png=Photo.png "
-        "PHOTO.%70ng=Photo.png .hidden=.hidden ../secret= %2e%2e/secret= inner= inner/photo.png= link= inwards= "
-        "pipe= .= ..= ./photo.png= photo.png/= photo= a%00b=");
+    QTest::addColumn<QString>("part");
+    for (const auto &[src, part] : {std::pair("photo.png", "photo.png"),
+                                    {"cid:a", "cid:a"},
+                                    {"cid:<a>", "a"},
+                                    {"100%25", "100%25"},
+                                    {"%50hoto.png", "Photo.png"},
+                                    {"PHOTO.%70ng", "Photo.png"},
+                                    {".hidden", ".hidden"}}) {
+        QTest::newRow(src) << QString::fromLatin1(part);
+    }
+    for (const char *const src : {"../secret", "%2e%2e/secret", "inner", "inner/photo.png", "link", "inwards", "pipe",
+                                  ".", "..", "./photo.png", "photo.png/", "photo", "a%00b"}) {
+        QTest::newRow(src) << QString();
+    }
 }
 
 void PartsOfMessages::srcOfFolder()
@@ -92,13 +85,16 @@ void PartsOfMessages::srcOfFolder()
     QCOMPARE(mkfifo(path("pipe").constData(), 0600), 0);
 
     QString problem;
-    Parts parts(Folder(folder.path(), problem), folder.filePath(QStringLiteral("a")));
+    MessageParts parts(Folder(folder.path(), problem), folder.filePath(QStringLiteral("a")));
     QCOMPARE(problem, QString());
     QCOMPARE(parts.size(), 6);
-    QCOMPARE(parts.at(parts.smil()).name, QStringLiteral("a"));
-    QFETCH(QString, src);
-    QTEST(meaning(parts, src), "part");
-    QCOMPARE(meaning(parts, folder.filePath(QStringLiteral("photo.png"))), QString());
+    const auto meaning = [&parts](const QString &src) {
+        const int found = parts.find(src);
+        return found < 0 ? QString() : parts.at(found).name;
+    };
+    QVERIFY(parts.headers().at(parts.find(QStringLiteral("a"))).isSmil());
+    QTEST(meaning(QString::fromLatin1(QTest::currentDataTag())), "part");
+    QCOMPARE(meaning(folder.filePath(QStringLiteral("photo.png"))), QString());
     QCOMPARE(parts.read(0).data, png);
 }
 
@@ -114,7 +110,7 @@ void PartsOfMessages::onlyFilesOfTheFolder()
         QVERIFY(write(folder.filePath(QStringLiteral("4%1").arg(i)), limit));
     }
     QString problem;
-    Parts parts(Folder(folder.path(), problem), QString());
+    MessageParts parts(Folder(folder.path(), problem), QString());
     QVERIFY(QFile::remove(file) && QFile::link(QStringLiteral("3"), file));
     QVERIFY(QFile::remove(pipe) && mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0);
     QCOMPARE(parts.read(0).problem, QStringLiteral("cannot be read"));
@@ -125,36 +121,37 @@ void PartsOfMessages::onlyFilesOfTheFolder()
         QCOMPARE(qint64(parts.read(i).data.size()), limit);
     }
     QCOMPARE(parts.read(11).problem, QStringLiteral("would be more than 64 MiB with the files before it"));
-    QCOMPARE(parts.smil(), -1);
     QCOMPARE(Folder(QStringLiteral("/dev"), problem).files().indexOf(QStringLiteral("zero")), -1);
     QCOMPARE(problem, QString());
     QCOMPARE(Folder(file, problem).files().size(), 0);
     QCOMPARE(problem, QStringLiteral("is not a folder that can be read"));
 }
 
-void PartsOfMessages::kinds_data()
+void PartsOfMessages::types_data()
 {
     QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<PartKind>("kind");
-    QTest::newRow("PNG") << png << PartKind::Picture;
-    QTest::newRow("WebP") << QByteArray("RIFF\x1A\x00\x00\x00WEBPVP8L", 16) << PartKind::Picture;
-    QTest::newRow("SVG") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'/>") << PartKind::OtherPicture;
-    QTest::newRow("text") << QByteArray("Hello") << PartKind::Text;
-    QTest::newRow("empty") << QByteArray() << PartKind::Text;
-    QTest::newRow("Latin-1") << QByteArray("Gru\xDF") << PartKind::Text;
-    QTest::newRow("UTF-16") << QByteArray("\xFF\xFEH\x00i\x00", 6) << PartKind::Text;
-    QTest::newRow("SMIL") << QByteArray("<smil><head/><body/></smil>") << PartKind::Xml;
-    QTest::newRow("AMR") << QByteArray("#!AMR\n\x3C\x91") << PartKind::Audio;
-    QTest::newRow("3GP") << QByteArray::fromHex("000000186674797033677034") << PartKind::Video;
-    QTest::newRow("anything") << QByteArray("\x00\x01\x02\x03", 4) << PartKind::Other;
+    QTest::addColumn<QString>("type");
+    const auto row = [](const char *type, const QByteArray &data, const char *name = "") {
+        QTest::newRow(*name ? name : type) << data << QString::fromLatin1(type);
+    };
+    row("image/png", png);
+    row("image/webp", QByteArray("RIFF\x1A\x00\x00\x00WEBPVP8L", 16));
+    row("image/svg+xml", "<svg xmlns='http://www.w3.org/2000/svg'/>");
+    row("text/plain", "Hello");
+    row("text/plain", QByteArray(), "empty");
+    row("text/plain", "Gru\xDF", "Latin-1");
+    row("text/plain", QByteArray("\xFF\xFEH\x00i\x00", 6), "UTF-16");
+    row("text/plain", "ID3 is what I need", "text that begins as something else");
+    row("application/smil+xml", "<smil><head/><body/></smil>");
+    row("audio/AMR", "#!AMR\n\x3C\x91");
+    row("video/3gpp", QByteArray::fromHex("000000186674797033677034"));
+    row("application/octet-stream", QByteArray("\x00\x01\x02\x03", 4));
 }
 
-void PartsOfMessages::kinds()
+void PartsOfMessages::types()
 {
     QFETCH(QByteArray, data);
-    MmsMessage read;
-    read.parts.append({QStringLiteral("photo.png"), QString(), QString(), QStringLiteral("image/png"), data});
-    QTEST(Parts(read).read(0).content.kind, "kind");
+    QTEST(recognisedType(data), "type");
 }
 
 QTEST_APPLESS_MAIN(PartsOfMessages)

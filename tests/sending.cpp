@@ -15,18 +15,16 @@ private Q_SLOTS:
 void Sending::writesAMessage()
 {
     const QTemporaryDir folder;
-    const QString files =
-        QStringLiteral("cp holiday/*.jpg '%1'; cp holiday/*.txt '%1'; cd '%1'; mkdir sub; "
-                       "cp beach.jpg sub; cp beach.jpg 'a&b.jpg'; printf '#!AMR\\n\\221' >c; rm $old; ");
-    const Outcome composed =
-        runScript(folder.path(),
-                  files.arg(folder.path())
-                      + QStringLiteral(
-                          "$tool compose beach.txt -o $board && $tool compose beach.txt | cmp - $board && "
-                          "$tool compose 'a&b.jpg' beach.txt c beach.jpg ./harbour.txt sub/beach.jpg --title 'A & B' "
-                          "--size 176x220 --seconds 2.5 -o $board && cat $board && mv 'a&b.jpg' a_b.jpg && "
-                          "mv sub/beach.jpg beach-2.jpg && rm harbour.jpg && $tool check $board --parts . && "
-                          "$tool storyboard $board --parts . | grep -c '<image'"));
+    const Outcome composed = runScript(
+        folder.path(),
+        QStringLiteral(
+            "cp holiday/*.jpg holiday/*.txt $dir; cd $dir; mkdir sub; cp beach.jpg sub; cp beach.jpg 'a&b.jpg'; "
+            "printf '#!AMR\\n\\221' >c; rm $old; "
+            "$tool compose beach.txt -o $board && $tool compose beach.txt | cmp - $board && "
+            "$tool compose 'a&b.jpg' beach.txt c beach.jpg ./harbour.txt sub/beach.jpg --title 'A & B' "
+            "--size 176x220 --seconds 2.5 -o $board && cat $board && mv 'a&b.jpg' a_b.jpg && "
+            "mv sub/beach.jpg beach-2.jpg && rm harbour.jpg && $tool check $board --parts . && "
+            "$tool storyboard $board --parts . | grep -c '<image'"));
     QCOMPARE(composed.err,
              QStringLiteral("a&b.jpg: to be sent as a_b.jpg\nsub/beach.jpg: to be sent as beach-2.jpg\n"));
     QCOMPARE(composed.out, golden(QStringLiteral("composed.smil")) + QStringLiteral("3\n"));
@@ -50,10 +48,8 @@ void Sending::allOrNothing_data()
     row("xml good -o good",
         "xml: is no picture, text, sound or film, but application/xml\n"
         "good: is the output itself\n");
-    row("good -o hard", "good: is the output itself\n");
     row("soft -o good", "soft: is the output itself\n");
     row("hard -o soft", "hard: is the output itself\n");
-    row("good -o /dev/stdout >>soft", "good: is the output itself\n");
     row("good >>hard", "good: is the output itself\n");
 }
 
@@ -63,9 +59,9 @@ void Sending::allOrNothing()
     QFETCH(QString, problems);
     const QTemporaryDir folder;
     const QString script =
-        QStringLiteral("cd '%1'; echo good >good; echo '<?xml version=\"1.0\"?>' >xml; ln good hard; ln -s good soft; "
+        QStringLiteral("cd $dir; echo good >good; echo '<?xml version=\"1.0\"?>' >xml; ln good hard; ln -s good soft; "
                        "mkfifo pipe; $tool compose ");
-    const Outcome outcome = runScript(folder.path(), script.arg(folder.path()) + arguments);
+    const Outcome outcome = runScript(folder.path(), script + arguments);
     QCOMPARE(outcome.err, problems);
     QCOMPARE(outcome.out, QString());
     QCOMPARE(outcome.status, 1);

@@ -35,12 +35,19 @@ inline Outcome smiltool(const QStringList &arguments, const QByteArray &input = 
     return run(QStringLiteral(SMILTOOL), arguments, input);
 }
 
-/** Runs the script in a folder of its own, in which "old" is a file and "board" none. */
+/** The same with words between blanks. */
+inline Outcome smiltool(const char *words, const QByteArray &input = QByteArray())
+{
+    return smiltool(QString::fromUtf8(words).split(QLatin1Char(' ')), input);
+}
+
+/** Runs the script. $dir is a folder of its own, in which $old is a file and $board none. */
 inline Outcome runScript(const QString &folder, const QString &script)
 {
-    const QString variables = QStringLiteral("tool='%1'; board='%2/board'; old='%2/old'; echo old >\"$old\"; ");
+    const QString variables =
+        QStringLiteral("tool='%1'; dir='%2'; board=\"$dir/board\"; old=\"$dir/old\"; echo old >\"$old\"; ");
     QString words = script;
-    for (const char *const variable : {"$tool", "$board", "$old"}) {
+    for (const char *const variable : {"$tool", "$dir", "$board", "$old"}) {
         words.replace(QLatin1String(variable), QLatin1Char('"') + QLatin1String(variable) + QLatin1Char('"'));
     }
     return run(QStringLiteral("/bin/sh"),

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "mmsbytes.h"
 #include "smiltool.h"
 
 #include <QtXml/QDomDocument>
@@ -11,6 +12,8 @@ class Storyboard : public QObject
 private Q_SLOTS:
     void frames_data();
     void frames();
+    void everyPartIsDrawn_data();
+    void everyPartIsDrawn();
     void noPictureIsTooLarge();
     void regions_data();
     void regions();
@@ -19,8 +22,8 @@ private Q_SLOTS:
     void picturesFitTheirPlace();
     void drawsTo_data();
     void drawsTo();
-    void neverDrawsOverTheMessage();
-    void neverDrawsOverAPart();
+    void neverDrawsOver_data();
+    void neverDrawsOver();
 };
 
 /** The content of each element of the picture, between bars. */
@@ -87,76 +90,103 @@ void Storyboard::frames()
         "<smil><head><layout><root-layout width='184' height='160'/><region id='I'/><region id='over' width='100'/>"
         "<region id='low' height='10'/><region id='two' height='30'/><region id='thin' width='40'/>"
         "<region id='off' left='184'/></layout></head><body>";
+    QCOMPARE(textsIn(smiltool("storyboard -", head + body + "</body></smil>").out), texts);
+}
+
+/** Of a whole message, which has a picture, a text and a card, whatever its SMIL says. */
+void Storyboard::everyPartIsDrawn_data()
+{
+    QTest::addColumn<QByteArray>("smil");
+    QTest::addColumn<QString>("texts"); // beside the picture
+    QTest::addColumn<QString>("problem");
+    const auto row = [](const char *name, const char *smil, const char *texts, const char *problem = "") {
+        QTest::newRow(name) << QByteArray(smil) << QString::fromUtf8(texts) << QString::fromLatin1(problem);
+    };
+    row("not all named", "<smil><head/><body><img src='photo' dur='2s'/></body></smil>",
+        "1 · 0:00 · 2s | Hello | ◆ card | 2 · 0:02 · 5s | Plays 7s.");
+    const char *const parts = "Hello | 1 · 0:00 · 5s | ◆ card | 2 · 0:05 · 5s | Plays 10s.";
+    row("broken", "<smil>\n<head/><body", parts, "-:2:\\d+: .+\n");
+    row("no body", "<smil><head/></smil>", parts, "-: Fail to find SMIL body!\n");
+    row("none", "", parts);
+}
+
+void Storyboard::everyPartIsDrawn()
+{
+    QFETCH(QByteArray, smil);
+    QFETCH(QString, texts);
+    QFETCH(QString, problem);
+    const auto named = [](const QByteArray &type, const QByteArray &name, const QByteArray &data) {
+        return part(sized(text(type) + '\x85' + text(name)) + '\xC0' + text("\"<" + name + "@x>"), data);
+    };
+    const QByteArray parts = named("image/png", "photo", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16))
+        + named("text/plain", "words", "Hello") + named("application/x-card", "card", QByteArray("\0\1", 2));
+    const QByteArray slides = smil.isEmpty() ? smil : named("application/smil", "smil", smil);
     const Outcome outcome =
-        smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, head + body + "</body></smil>");
+        smiltool("storyboard -", message(sized(text("multipart/mixed")), smil.isEmpty() ? 3 : 4, parts + slides));
     QCOMPARE(textsIn(outcome.out), texts);
+    QCOMPARE(outcome.out.count(QLatin1String("<image ")), 1);
+    const QRegularExpression expected(QRegularExpression::anchoredPattern(problem));
+    QVERIFY2(expected.match(outcome.err).hasMatch(), qPrintable(outcome.err));
+    QCOMPARE(outcome.status, problem.isEmpty() ? 0 : 1);
 }
 
 void Storyboard::noPictureIsTooLarge()
 {
-    const QByteArray message = "<smil><head/><body>" + QByteArray("<img/>").repeated(401) + "</body></smil>";
-    const QString texts = textsIn(smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, message).out);
+    const QByteArray media = "<smil><head/><body>" + QByteArray("<img/>").repeated(401) + "</body></smil>";
+    const QString texts = textsIn(smiltool("storyboard -", media).out);
     QCOMPARE(texts.count(QString::fromUtf8("▣ ?")), 400);
-    QVERIFY2(texts.endsWith(QStringLiteral("Plays 2005s. No more than 400 slides are drawn.")), qPrintable(texts));
+    QVERIFY2(texts.endsWith(QStringLiteral("Plays 2005s. Only 400 of 401 slides are drawn.")), qPrintable(texts));
     const auto board = [](const QByteArray &root) {
-        return smiltool({QStringLiteral("storyboard"), QStringLiteral("-")},
-                        "<smil><head><layout>" + root + "</layout></head><body><img/></body></smil>")
+        return smiltool("storyboard -", "<smil><head><layout>" + root + "</layout></head><body><img/></body></smil>")
             .out;
     };
     QCOMPARE(board("<root-layout width='1e9' height='0'/>"), board("<root-layout/>"));
     const QTemporaryDir folder;
     const QString large = QStringLiteral(
-        "printf '\\211PNG\\r\\n\\032\\n' >$old; truncate -s 3670016 $old; $tool storyboard --parts '%1' - -o $board "
-        "<<EOF; echo $?; grep -c '<image' $board\n"
+        "printf '\\211PNG\\r\\n\\032\\n' >$old; truncate -s 3670016 $old; : >$board; "
+        "$tool storyboard --parts $dir - -o $board <<EOF; echo $?; grep -c '<image' $board\n"
         "<smil><head><layout><region id='1'/><region id='2'/><region id='3'/></layout></head>"
         "<body><par><img src='old' region='1'/><img src='old' region='2'/><img src='old' region='3'/></par></body>"
         "</smil>\nEOF\n");
-    const Outcome drawn = runScript(folder.path(), large.arg(folder.path()));
+    const Outcome drawn = runScript(folder.path(), large);
     QCOMPARE(drawn.out, QStringLiteral("1\n2\n"));
     QCOMPARE(drawn.err, folder.path() + QStringLiteral("/old: would be more than 7 MiB with the pictures before it\n"));
     QCOMPARE(textsIn(readFile(folder.filePath(QStringLiteral("board")))),
              QString::fromUtf8("▣ old | 1 · 0:00 · 5s | Plays 5s."));
     // No letter fits, and none is halved: the writer would stop there.
     const QString thin = QStringLiteral(
-        "printf '\\360\\237\\230\\200' >$old; $tool storyboard --parts '%1' - <<EOF\n<smil><head><layout>"
+        "printf '\\360\\237\\230\\200' >$old; $tool storyboard --parts $dir - <<EOF\n<smil><head><layout>"
         "<region id='1' width='9'/></layout></head><body><text src='old' region='1'/></body></smil>\nEOF\n");
-    QCOMPARE(textsIn(runScript(folder.path(), thin.arg(folder.path())).out),
-             QString::fromUtf8("😀 | 1 · 0:00 · 5s | Plays 5s."));
+    QCOMPARE(textsIn(runScript(folder.path(), thin).out), QString::fromUtf8("😀 | 1 · 0:00 · 5s | Plays 5s."));
     const QByteArray longName =
         "<smil><head/><body><par><img src='" + QByteArray(9999, 'a') + ".jpg'/></par></body></smil>";
-    const QString picture = smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, longName).out;
+    const QString picture = smiltool("storyboard -", longName).out;
     QVERIFY2(picture.size() < 5000, qPrintable(QString::number(picture.size())));
     QCOMPARE(textsIn(picture), QString::fromUtf8("▣ aaaaaaaaaaaaaaaa…jpg | 1 · 0:00 · 5s | Plays 5s."));
 }
 
 void Storyboard::regions_data()
 {
-    QTest::addColumn<QByteArray>("region");
-    QTest::addColumn<QString>("area"); // x, y, width, height
-    const auto row = [](const char *region, const char *area) {
-        QTest::newRow(region) << QByteArray(region) << QString::fromLatin1(area);
-    };
-    row("left='10' right='20'", "10 0 154 92");
-    row("top='-10' height='30'", "0 0 184 20");
-    row("left='180' width='30' bottom='0.5in'", "180 0 4 44");
+    QTest::addColumn<QRectF>("area");
+    QTest::newRow("left='10' right='20'") << QRectF(10, 0, 154, 92);
+    QTest::newRow("top='-10' height='30'") << QRectF(0, 0, 184, 20);
+    QTest::newRow("left='180' width='30' bottom='0.5in'") << QRectF(180, 0, 4, 44);
 }
 
 void Storyboard::regions()
 {
-    QFETCH(QByteArray, region);
-    QFETCH(QString, area);
-    const QByteArray message = "<smil><head><layout><root-layout width='184' height='92'/><region id='A' " + region
-        + "/><region id='A' left='1'/></layout></head><body><par><img "
-          "region='A'/></par><img/><img/><img/><img/></body></smil>";
-    const Outcome outcome = smiltool({QStringLiteral("storyboard"), QStringLiteral("-")}, message);
+    QFETCH(QRectF, area);
+    const Outcome outcome =
+        smiltool("storyboard -",
+                 "<smil><head><layout><root-layout width='184' height='92'/><region id='A' "
+                     + QByteArray(QTest::currentDataTag())
+                     + "/><region id='A' left='1'/></layout></head><body><par><img region='A'/></par><img/><img/><img/>"
+                       "<img/></body></smil>");
     QDomDocument dom;
     QVERIFY(dom.setContent(outcome.out));
     const QDomElement drawn = dom.elementsByTagName(QStringLiteral("rect")).at(2).toElement();
-    QStringList numbers;
-    for (const char *const name : {"x", "y", "width", "height"}) {
-        numbers.append(drawn.attribute(QLatin1String(name)));
-    }
-    QCOMPARE(numbers.join(QLatin1Char(' ')), area);
+    const auto number = [&drawn](const char *name) { return drawn.attribute(QLatin1String(name)).toDouble(); };
+    QCOMPARE(QRectF(number("x"), number("y"), number("width"), number("height")), area);
     const QDomElement fifth = dom.elementsByTagName(QStringLiteral("g")).at(4).toElement();
     QVERIFY2(fifth.attribute(QStringLiteral("transform")).startsWith(QLatin1String("translate(16 1")),
              qPrintable(fifth.attribute(QStringLiteral("transform"))));
@@ -233,13 +263,14 @@ void Storyboard::picturesFitTheirPlace()
             + QByteArray::number(50 * media.count('/')) + "' width='44'/>";
         media += QByteArray("<img src='beach.jpg' region='") + fit + "' alt='&lt;" + fit + "'/>";
     }
-    const QByteArray pages = "<par>" + media + "</par><par>" + media + "</par><img src='beach.jpg'/>";
-    const Outcome outcome = smiltool(
-        {QStringLiteral("storyboard"), QStringLiteral("--parts"), QStringLiteral("holiday"), QStringLiteral("-")},
-        "<smil><head><layout><root-layout width='184' height='75'/>" + regions + "</layout></head><body>" + pages
-            + "</body></smil>");
-    QCOMPARE(imagesIn(outcome.out),
-             QStringLiteral("0 18.75 44 37.5 | -22 0 88 75 | 0 0 44 75 none | 0 18.75 44 37.5 | 48 0 88 75"));
+    const QByteArray pages =
+        "<par>" + media + "</par><par>" + media + "</par><par><img src='beach.jpg'/><img src='beach.jpg'/></par>";
+    const Outcome outcome = smiltool("storyboard --parts holiday -",
+                                     "<smil><head><layout><root-layout width='184' height='75'/>" + regions
+                                         + "</layout></head><body>" + pages + "</body></smil>");
+    QCOMPARE(
+        imagesIn(outcome.out),
+        QStringLiteral("0 18.75 44 37.5 | -22 0 88 75 | 0 0 44 75 none | 0 18.75 44 37.5 | 2 0 88 75 | 2 0 88 75"));
     // The second frame has no data of its own.
     QCOMPARE(outcome.out.count(QLatin1String("<use ")), 4);
     QVERIFY2(outcome.out.contains(QStringLiteral("<title>\u25a3 &lt;slice in slice</title>")), qPrintable(outcome.out));
@@ -247,20 +278,14 @@ void Storyboard::picturesFitTheirPlace()
 
 void Storyboard::drawsTo_data()
 {
-    QTest::addColumn<QString>("script"); // $board is a file that is not there, $old one that is
-    QTest::newRow("a new file") << QStringLiteral("$tool storyboard nested.smil -o $board && cat $board");
-    QTest::newRow("a new file, from a pipe")
-        << QStringLiteral("cat nested.smil | $tool storyboard - -o $board && cat $board");
-    QTest::newRow("another file") << QStringLiteral("$tool storyboard nested.smil --output $old && cat $old");
-    QTest::newRow("standard output") << QStringLiteral("$tool storyboard nested.smil -o -");
-    QTest::newRow("a descriptor") << QStringLiteral("$tool storyboard nested.smil -o /dev/stdout | cat");
-    QTest::newRow("a descriptor of a file")
-        << QStringLiteral("(echo first; $tool storyboard nested.smil -o /dev/stdout) >$board && "
-                          "grep -qx first $board && tail -n +2 $board");
-    QTest::newRow("a descriptor between other output") << QStringLiteral(
-        "(printf %20s; $tool storyboard nested.smil -o /dev/fd/3 3>&1; echo) >$board && tail -c +21 $board");
-    QTest::newRow("a pipe") << QStringLiteral(
-        "mkfifo $board && (cat $board & $tool storyboard nested.smil -o $board; wait) && test -p $board");
+    QTest::addColumn<QString>("script");
+    const auto row = [](const char *name, const char *script) { QTest::newRow(name) << QString::fromLatin1(script); };
+    row("a new file", "$tool storyboard nested.smil -o $board && cat $board");
+    row("a new file, from a pipe", "cat nested.smil | $tool storyboard - -o $board && cat $board");
+    row("another file", "$tool storyboard nested.smil --output $old && cat $old");
+    row("standard output", "$tool storyboard nested.smil -o -");
+    row("a descriptor", "$tool storyboard nested.smil -o /dev/stdout | cat");
+    row("a pipe", "mkfifo $board && (cat $board & $tool storyboard nested.smil -o $board; wait) && test -p $board");
 }
 
 void Storyboard::drawsTo()
@@ -273,31 +298,33 @@ void Storyboard::drawsTo()
     QCOMPARE(outcome.status, 0);
 }
 
-void Storyboard::neverDrawsOverTheMessage()
+void Storyboard::neverDrawsOver_data()
 {
-    const QTemporaryDir folder;
-    const QString copy = QStringLiteral("cp nested.smil $old; ln $old $board; $tool storyboard ");
-    for (const QString &rest :
-         {QStringLiteral("$old -o $old"), QStringLiteral("$old -o $board"), QStringLiteral("- -o $old <$old")}) {
-        const Outcome outcome = runScript(folder.path(), copy + rest);
-        QVERIFY2(outcome.err.endsWith(QLatin1String(": is the message itself\n")), qPrintable(rest + outcome.err));
-        QCOMPARE(outcome.status, 1);
-        QCOMPARE(readFile(folder.filePath(QStringLiteral("old"))),
-                 readFile(QStringLiteral(EXAMPLES_DIR "/nested.smil")));
-        QFile::remove(folder.filePath(QStringLiteral("board")));
-    }
+    QTest::addColumn<QString>("script");
+    QTest::addColumn<QString>("problem");
+    const QString itself = QStringLiteral(": is the message itself\n");
+    QTest::newRow("the message") << QStringLiteral("$tool storyboard $old -o $old") << itself;
+    QTest::newRow("a link to it") << QStringLiteral("ln $old $board; $tool storyboard $old -o $board") << itself;
+    QTest::newRow("standard input") << QStringLiteral("$tool storyboard - -o $old <$old") << itself;
+    QTest::newRow("a part") << QStringLiteral("echo \"<smil><head/><body><audio src='old'/></body></smil>\" | "
+                                              "$tool storyboard - --parts $dir -o $old")
+                            << QStringLiteral(": is a part of the message\n");
+    QTest::newRow("a file, if there is nothing to draw")
+        << QStringLiteral("echo '<smil/>' | $tool storyboard - --parts $dir -o $old")
+        << QStringLiteral(": Fail to find SMIL head!\n");
 }
 
-void Storyboard::neverDrawsOverAPart()
+void Storyboard::neverDrawsOver()
 {
+    QFETCH(QString, script);
+    QFETCH(QString, problem);
     const QTemporaryDir folder;
-    const QString script = QStringLiteral(
-        "cp holiday.smil holiday/* '%1'; parts=$PWD/holiday; cd '%1'; $tool storyboard holiday.smil --parts . "
-        "-o beach.jpg; echo $?; cmp beach.jpg \"$parts/beach.jpg\"; $tool storyboard holiday.smil --parts . -o $old");
-    const Outcome outcome = runScript(folder.path(), script.arg(folder.path()));
-    QCOMPARE(outcome.err, QStringLiteral("beach.jpg: is a part of the message\n"));
-    QCOMPARE(outcome.out, QStringLiteral("1\n"));
-    QCOMPARE(outcome.status, 0);
+    const Outcome outcome =
+        runScript(folder.path(),
+                  QStringLiteral("cp nested.smil $old; %1; status=$?; cmp nested.smil $old; exit $status").arg(script));
+    QVERIFY2(outcome.err.endsWith(problem), qPrintable(outcome.err));
+    QCOMPARE(outcome.out, QString());
+    QCOMPARE(outcome.status, 1);
 }
 
 QTEST_GUILESS_MAIN(Storyboard)

@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_COMMANDLINE_H
 #define SMILTOOL_COMMANDLINE_H
 
-#include "command.h"
+#include "commands/command.h"
 
 /** What the tool is told to do. */
 struct CommandLine {

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "base/escaping.h"
 #include "commandline.h"
-#include "errors.h"
 
 #include <smilparser/mmslogger.h>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
-#include <QtCore/QIODevice>
 
 #include <cerrno>
 #include <clocale>
@@ -22,60 +22,39 @@ bool MMSLogger::qdebugEnabled = false;
 
 enum ExitStatus { Success = 0, Failure = 1, BadUsage = 2 };
 
-namespace
+/** Writes to standard output, or else why not to standard error. */
+static bool print(const QByteArray &text)
 {
-/** Standard output, with what went wrong first for its error. */
-class StandardOutput : public QIODevice
-{
-public:
-    StandardOutput() { open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
-
-    void flush() { note(std::fflush(stdout) == 0); }
-    bool isWhole() const { return whole; }
-
-private:
-    qint64 readData(char *, qint64) override { return -1; }
-
-    qint64 writeData(const char *data, qint64 size) override
-    {
-        note(std::fwrite(data, 1, size_t(size), stdout) == size_t(size));
-        return size;
+    const bool isWritten = std::fwrite(text.constData(), 1, size_t(text.size()), stdout) == size_t(text.size())
+        && std::fflush(stdout) == 0;
+    if (!isWritten) {
+        printError(QLatin1String("smiltool: standard output: ") + QString::fromLocal8Bit(std::strerror(errno)));
     }
-
-    void note(bool isWritten)
-    {
-        if (whole && !isWritten) {
-            setErrorString(QString::fromLocal8Bit(std::strerror(errno)));
-            whole = false;
-        }
-    }
-
-    bool whole = true;
-};
+    return isWritten;
 }
 
-static int run(const Command &command, const Arguments &arguments, StandardOutput &out)
+static int run(const Command &command, const Arguments &arguments)
 {
     int status = Success;
-    const QStringList turns = command.together ? QStringList(QString()) : arguments.files;
+    const QStringList turns = command.takesAllFiles ? QStringList(QString()) : arguments.files;
     for (const QString &file : turns) {
+        QBuffer out;
+        out.open(QIODevice::WriteOnly);
         const Result result = command.run(file, arguments, out);
-        out.flush(); // before the next file's problems
+        const bool isPrinted = print(out.data());
         for (const QString &problem : result.problems) {
-            complain(problem);
+            printError(problem);
         }
-        status = result.well ? status : Failure;
+        if (!isPrinted) {
+            return Failure;
+        }
+        status = result.ok ? status : Failure;
     }
     return status;
 }
 
-/** What the library warns of is told by its outcome. */
-static void handleMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
-{
-    if (type == QtDebugMsg) {
-        complain(text.trimmed());
-    }
-}
+/** What the library warns of, its outcome says too. */
+static void ignoreMessage(QtMsgType, const QMessageLogContext &, const QString &) { }
 
 /** All names and all output are UTF-8. Where the locale is of another encoding, Qt 6 says so in four lines at every
  * start. */
@@ -111,23 +90,13 @@ int main(int argc, char *argv[])
     const QString problem = parse(QCoreApplication::arguments(), line);
     if (!problem.isEmpty()) {
         const QString command = line.command ? QLatin1Char(' ') + QLatin1String(line.command->name) : QString();
-        complain(QLatin1String("smiltool: ") + problem);
-        complain(QStringLiteral("Try 'smiltool%1 --help'.").arg(command));
+        printError(QLatin1String("smiltool: ") + problem);
+        printError(QStringLiteral("Try 'smiltool%1 --help'.").arg(command));
         return BadUsage;
     }
-    qInstallMessageHandler(handleMessage);
-    MMSLogger::qdebugEnabled = line.arguments.debug;
-    StandardOutput out;
-    int status = Success;
-    if (line.answer.isEmpty()) {
-        status = run(*line.command, line.arguments, out);
-    } else {
-        out.write(line.answer.toUtf8());
+    qInstallMessageHandler(ignoreMessage);
+    if (!line.answer.isEmpty()) {
+        return print(line.answer.toUtf8()) ? Success : Failure;
     }
-    out.flush();
-    if (!out.isWhole()) {
-        complain(QLatin1String("smiltool: standard output: ") + out.errorString());
-        return Failure;
-    }
-    return status;
+    return run(*line.command, line.arguments);
 }

@@ -38,9 +38,10 @@ const int quotation = 40;
 /** Of an outline, in levels: it stays in proportion to the input, however deep that is nested. */
 const int indentation = 40;
 
-// Of a storyboard. What is played at once beyond these is not told apart any more.
+// Of slides. What is played at once beyond these is not told apart any more.
 const int frames = 400;
 const int media = 100; ///< in a frame
+const int cues = 100000; ///< in all frames, before they are cut to that; no frame follows the one that reaches it
 const int description = 300; ///< characters that say what is in a frame
 const double screen = 100000; ///< pixels from edge to edge
 const qint64 pictures = 7 * mebibyte; ///< all together: in Base64 not 10 MB, which is all that some viewers read

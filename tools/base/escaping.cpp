@@ -1,28 +1,24 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "escaping.h"
+#include "base/escaping.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <string>
 
-bool isObeyedOrHidden(char32_t c)
+bool needsEscaping(char32_t c)
 {
-    switch (QChar::category(c)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return QChar::isNonCharacter(c);
-    }
+    const QChar::Category category = QChar::category(c);
+    return category == QChar::Other_Control || category == QChar::Other_Format || category == QChar::Separator_Line
+        || category == QChar::Separator_Paragraph || QChar::isNonCharacter(c);
 }
 
 /** Whether a joiner stands between two characters that show, as in Persian words and many emoji. */
 static bool joins(const std::u32string &text, size_t i)
 {
     const auto shows = [&text](size_t at) {
-        return at < text.size() && !isObeyedOrHidden(text[at]) && !QChar::isSpace(text[at]);
+        return at < text.size() && !needsEscaping(text[at]) && !QChar::isSpace(text[at]);
     };
     return (text[i] == 0x200c || text[i] == 0x200d) && i > 0 && shows(i - 1) && shows(i + 1);
 }
@@ -35,7 +31,7 @@ static QString escape(const QString &text, Escape escaped)
     const std::u32string characters = text.toStdU32String();
     for (size_t i = 0; i < characters.size(); ++i) {
         const char32_t c = characters[i];
-        if (isObeyedOrHidden(c) && !joins(characters, i)) {
+        if (needsEscaping(c) && !joins(characters, i)) {
             result += escaped(c);
         } else if (QChar::requiresSurrogates(c)) {
             result += QChar(QChar::highSurrogate(c));
@@ -54,14 +50,15 @@ QString printable(const QString &text)
     });
 }
 
-QString printableXml(const QString &text)
+void printError(const QString &text)
 {
-    return escape(text, [](uint c) {
-        const bool allowed = c == '\t' || c == '\n' || c == '\r' || (c >= 0x20 && c != 0xfffe && c != 0xffff);
-        return c == '\n' ? QString(QLatin1Char('\n'))
-            : allowed    ? QStringLiteral("&#x%1;").arg(c, 0, 16)
-                         : QString(QChar(QChar::ReplacementCharacter));
-    });
+    std::fprintf(stderr, "%s\n", qPrintable(printable(text)));
+}
+
+QString printableXml(const QString &xml)
+{
+    return escape(
+        xml, [](uint c) { return c == '\n' ? QString(QLatin1Char('\n')) : QStringLiteral("&#x%1;").arg(c, 0, 16); });
 }
 
 static QString backslashed(QString text)
@@ -69,12 +66,13 @@ static QString backslashed(QString text)
     return text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
 }
 
-QByteArray jsonEscaped(const QString &text)
+QByteArray printableJson(const QByteArray &json)
 {
-    const auto unit = [](ushort c) {
-        return QLatin1String("\\u") + QString::number(c, 16).rightJustified(4, QLatin1Char('0'));
-    };
-    return escape(backslashed(text),
+    if (std::none_of(json.cbegin(), json.cend(), [](char c) { return c < 0x20 || c == 0x7f; })) {
+        return json; // as almost all are
+    }
+    const auto unit = [](ushort c) { return QStringLiteral("\\u%1").arg(c, 4, 16, QLatin1Char('0')); };
+    return escape(QString::fromUtf8(json),
                   [&unit](uint c) {
                       return QChar::requiresSurrogates(c) ? unit(QChar::highSurrogate(c)) + unit(QChar::lowSurrogate(c))
                                                           : unit(ushort(c));

@@ -6,8 +6,8 @@
 
 #include <QtCore/QString>
 
-/** Whether a terminal would obey or hide the character: it is a control or format character, or none. */
-bool isObeyedOrHidden(char32_t c);
+/** Whether a terminal would obey or hide the character: it is a control or format character, or none at all. */
+bool needsEscaping(char32_t c);
 
 /**
  * The text with what a terminal would obey or hide (control and format characters, but no joiner inside a word) written
@@ -15,11 +15,14 @@ bool isObeyedOrHidden(char32_t c);
  */
 QString printable(const QString &text);
 
-/** The same for XML: as &#xXXXX;, and U+FFFD for what XML does not allow at all. Line feeds stay. */
-QString printableXml(const QString &text);
+/** Writes a line to standard error, as printable(). */
+void printError(const QString &text);
 
-/** The same inside a string of JSON: as \uXXXX, with quotation marks and backslashes escaped. In UTF-8. */
-QByteArray jsonEscaped(const QString &text);
+/** The same XML, with all that printable() escapes, except line feeds, written as &#xXXXX;. */
+QString printableXml(const QString &xml);
+
+/** The same JSON, in one line, with all that written as \uXXXX. */
+QByteArray printableJson(const QByteArray &json);
 
 /** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
 QString quoted(const QString &text);

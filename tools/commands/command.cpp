@@ -1,23 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "command.h"
+#include "commands/command.h"
 
 Result failure(const QString &file, const QString &problem)
 {
     return {false, {file + QLatin1String(": ") + problem}};
 }
 
-Result withMessage(const QString &file, const Arguments &arguments, SmilParser::ReadOptions options,
-                   const std::function<Result(Message &)> &use)
+Result withMessage(const QString &file, const Arguments &arguments, const std::function<Result(Message &)> &use,
+                   SmilParser::ReadOptions options)
 {
-    Message message;
-    const Problem problem = readMessage(file, arguments.parts, options, message);
-    if (!problem.isNone()) {
-        return {false, {problem.toString()}};
+    Message message = readMessage(file, arguments.parts, options);
+    Result result = message.isReadable() ? use(message) : Result();
+    QStringList problems = message.parts.problems(file);
+    if (!message.problem.isNone()) {
+        problems.prepend(message.problem.toString());
     }
-    Result result = use(message);
-    result.problems += message.parts.problems(file);
-    result.well = result.well && result.problems.isEmpty();
+    result.ok = result.ok && problems.isEmpty();
+    result.problems = problems + result.problems;
     return result;
 }

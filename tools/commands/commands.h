@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_COMMANDS_H
 #define SMILTOOL_COMMANDS_H
 
-#include "command.h"
+#include "commands/command.h"
 
 // Each is in the file of its name, with all that is said of it to users. What it does with a message that has been read
 // is a function beside it.
@@ -22,20 +22,16 @@ const Command *const allCommands[] = {&showCommand,  &renderCommand,  &storyboar
 /** Writes the model of the message to @p out, as an indented outline. */
 void show(const Message &message, QIODevice &out);
 
-/**
- * Writes the model to @p out as indented XML, the attributes of an element always in the same order. The message's DOM
- * is dropped.
- */
-void render(Message &message, QIODevice &out);
+/** Writes the model to @p out as indented XML. */
+void render(const Message &message, QIODevice &out);
 
 /** Draws the message as a picture in SVG, with the parts that it has: a frame for each slide. */
 void storyboard(Message &message, QIODevice &out);
 
 /**
- * Writes to @p out what its sender or receiver might want to know of the message, a line each, but for the findings
- * whose names are in @p ignored. @p plain says whether it matters what a host reads that gives the library no options.
- * Returns whether there was any.
+ * Writes to @p out what its sender or receiver might want to know of the message, a line each, except findings whose
+ * names are in @p ignored. Returns whether there was any.
  */
-bool check(Message &message, bool plain, const QStringList &ignored, QIODevice &out);
+bool check(Message &message, const QStringList &ignored, QIODevice &out);
 
 #endif

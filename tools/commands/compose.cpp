@@ -1,35 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "outputfile.h"
-#include "plainfile.h"
+#include "base/bounds.h"
+#include "commands/commands.h"
+#include "input/content.h"
+#include "input/files.h"
+#include "output/outputfile.h"
 
 #include <smilparser/smilcomposer.h>
+#include <smilparser/smilslideshow.h>
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-
-#include <optional>
-
-/** What plays a part of that kind, if phones show such a thing. */
-static std::optional<SmilRef::Type> typeOf(PartKind kind)
-{
-    switch (kind) {
-    case PartKind::Picture:
-    case PartKind::OtherPicture:
-        return SmilRef::Img;
-    case PartKind::Text:
-        return SmilRef::Text;
-    case PartKind::Audio:
-        return SmilRef::Audio;
-    case PartKind::Video:
-        return SmilRef::Video;
-    default:
-        return std::nullopt;
-    }
-}
 
 /** Finds out what plays the file. Returns why it cannot be in a message, or else nothing. */
 static QString recognise(const QString &name, SmilRef::Type &type)
@@ -42,13 +24,13 @@ static QString recognise(const QString &name, SmilRef::Type &type)
     if (!problem.isEmpty()) {
         return problem;
     }
-    const Content content = recognised(file.read(bounds::recognised));
+    const QString recognised = recognisedType(file.read(bounds::recognised));
     if (file.error() != QFileDevice::NoError) {
         return file.errorString();
     }
-    const std::optional<SmilRef::Type> found = typeOf(content.kind);
-    type = found.value_or(SmilRef::Ref);
-    return found ? QString() : QStringLiteral("is no picture, text, sound or film, but %1").arg(content.type);
+    type = kindOfType(recognised);
+    return type == SmilRef::Ref ? QStringLiteral("is no picture, text, sound or film, but %1").arg(recognised)
+                                : QString();
 }
 
 /** Adds the files in their order, and a line for each that is to be sent under another name, or else all problems. */
@@ -61,7 +43,7 @@ static Result add(const QStringList &files, const QString &output, SmilComposer 
         const QString problem =
             isSameFile(file, output) ? QStringLiteral("is the output itself") : recognise(file, type);
         if (!problem.isEmpty()) {
-            result.well = false;
+            result.ok = false;
             result.problems += failure(file, problem).problems;
             continue;
         }
@@ -70,7 +52,7 @@ static Result add(const QStringList &files, const QString &output, SmilComposer 
             renamed.append(QStringLiteral("%1: to be sent as %2").arg(file, src));
         }
     }
-    if (result.well) {
+    if (result.ok) {
         result.problems = renamed;
     }
     return result;
@@ -81,7 +63,7 @@ static Result run(const QString &, const Arguments &arguments, QIODevice &out)
     SmilComposer composer(arguments.size, arguments.seconds);
     const Result added =
         add(arguments.files, arguments.toFile() ? arguments.output : QStringLiteral("/dev/stdout"), composer);
-    if (!added.well) {
+    if (!added.ok) {
         return added;
     }
     SmilDocument message = composer.message();
@@ -97,8 +79,9 @@ static Result run(const QString &, const Arguments &arguments, QIODevice &out)
 
 const Command composeCommand = {"compose",
                                 "FILE...",
-                                Output | Size | Seconds | Title,
+                                "output size seconds title",
                                 "Makes a message of pictures, texts, sounds and films.",
                                 "smiltool compose beach.jpg hello.txt -o message.smil",
                                 run,
-                                true};
+                                true,
+                                "A picture, a text, a sound or a film."};

@@ -1,22 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "escaping.h"
-#include "filenames.h"
-#include "outputfile.h"
-#include "plainfile.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "commands/commands.h"
+#include "input/files.h"
+#include "output/filenames.h"
+#include "output/outputfile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
 #include <set>
 
-static QString lineOf(const QString &name, const MmsPart &part)
+static QString lineOf(const QString &name, const QString &type, const QByteArray &data)
 {
     return QStringLiteral("%1, %2, %3 bytes\n")
-        .arg(quoted(name), printable(shortened(part.type, bounds::header)), QString::number(part.data.size()));
+        .arg(quoted(name), printable(shortened(type, bounds::header)), QString::number(data.size()));
 }
 
 /** Writes the file, unless it is there already. Returns why that failed, or else nothing. */
@@ -34,7 +34,7 @@ static QStringList lost(const Message &message, const QStringList &srcs, const Q
                         const QVector<QString> &names)
 {
     QString problem;
-    const Parts files(Folder(path, problem), QString());
+    const MessageParts files(Folder(path, problem), QString());
     if (!problem.isEmpty()) {
         return {path + QLatin1String(": ") + problem};
     }
@@ -56,7 +56,7 @@ static QStringList lost(const Message &message, const QStringList &srcs, const Q
 static void write(const Message &message, const QString &path, QIODevice &out, Result &result)
 {
     if (!QDir().mkpath(path)) {
-        result.well = false;
+        result.ok = false;
         result.problems.append(path + QLatin1String(": is no folder, and none can be made there"));
         return;
     }
@@ -67,12 +67,12 @@ static void write(const Message &message, const QString &path, QIODevice &out, R
     }
     const QVector<QString> names = fileNames(message, srcs);
     for (int i = 0; i < int(names.size()); ++i) {
-        const MmsPart &part = message.mms.parts.at(i);
-        const QString problem = write(path + QLatin1Char('/') + names.at(i), part.data);
+        const QByteArray &data = message.mms.data.at(i);
+        const QString problem = write(path + QLatin1Char('/') + names.at(i), data);
         if (problem.isEmpty()) {
-            out.write(lineOf(names.at(i), part).toUtf8());
+            out.write(lineOf(names.at(i), message.mms.parts.at(i).type, data).toUtf8());
         } else {
-            result.well = false;
+            result.ok = false;
             result.problems.append(QStringLiteral("%1/%2: %3").arg(path, names.at(i), problem));
         }
     }
@@ -81,23 +81,21 @@ static void write(const Message &message, const QString &path, QIODevice &out, R
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    Message message;
-    const Problem problem = readMessage(file, QString(), SmilParser::AsWritten, message);
-    if (problem.isNone() && !message.parts.areKnown()) {
-        return failure(file, QStringLiteral("is a SMIL part alone, without others"));
-    }
-    // A message may have pictures and no SMIL, which is no problem here; one that has bad SMIL still has its pictures.
-    const bool isWell = problem.isNone() || (message.parts.areKnown() && message.mms.smil < 0);
-    Result result{isWell, isWell ? QStringList() : QStringList(problem.toString())};
-    if (message.parts.areKnown()) {
+    return withMessage(file, arguments, [&](Message &message) {
+        if (!message.parts.areKnown()) {
+            return failure(file, QStringLiteral("is a SMIL part alone, without others"));
+        }
+        Result result;
         write(message, arguments.folder, out, result);
-    }
-    return result;
+        return result;
+    });
 }
 
 const Command extractCommand = {"extract",
                                 "FILE...",
-                                IntoFolder,
+                                "directory",
                                 "Writes the parts of each whole message as files.",
                                 "smiltool extract message.mms -d pictures",
-                                run};
+                                run,
+                                false,
+                                "A message as it is sent; - is standard input."};

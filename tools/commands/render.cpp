@@ -1,55 +1,34 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "commands.h"
-#include "elements.h"
-#include "escaping.h"
+#include "base/escaping.h"
+#include "commands/commands.h"
 
-#include <QtCore/QXmlStreamWriter>
+#include <QtCore/QIODevice>
 
-static void writeElement(QXmlStreamWriter &writer, const QDomElement &element)
+void render(const Message &message, QIODevice &out)
 {
-    writer.writeStartElement(element.tagName());
-    // A DOM keeps attributes in an order that differs from run to run.
-    for (const QString &name : elementNamed(element.tagName()).attributes) {
-        if (element.hasAttribute(name)) {
-            writer.writeAttribute(name, element.attribute(name));
-        }
-    }
-    // Not before the root element, or the text would begin with an empty line.
-    writer.setAutoFormatting(true);
-    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
-        writeElement(writer, child);
-    }
-    writer.writeEndElement();
-}
-
-void render(Message &message, QIODevice &out)
-{
-    // Two trees of a large message take more memory than all else together.
-    message.dom = QDomDocument();
-    SmilParser parser(message.document);
-    QString xml;
-    QXmlStreamWriter writer(&xml);
-    writer.setAutoFormattingIndent(2);
-    writer.setAutoFormatting(false);
-    writeElement(writer, parser.getContent().documentElement());
-    writer.writeEndDocument();
-    out.write(printableXml(xml).toUtf8());
+    out.write(printableXml(QString::fromUtf8(SmilParser(message.document).toXml(2))).toUtf8());
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    const SmilParser::ReadOptions all = SmilParser::ClockDurations | SmilParser::KeepRootSize;
-    return withMessage(file, arguments, arguments.keep ? all : SmilParser::AsWritten, [&out](Message &message) {
-        render(message, out);
+    const auto use = [&](const Message &message) {
+        if (message.smil.isEmpty()) {
+            return failure(file, QStringLiteral("has no SMIL part"));
+        }
+        if (message.outcome == SmilParser::Complete) {
+            render(message, out);
+        }
         return Result();
-    });
+    };
+    const SmilParser::ReadOptions all = SmilParser::ClockDurations | SmilParser::KeepRootSize;
+    return withMessage(file, arguments, use, arguments.bare ? SmilParser::AsWritten : all);
 }
 
 const Command renderCommand = {"render",
                                "FILE...",
-                               Keep,
+                               "bare",
                                "Prints each message as read and written back.",
                                "smiltool render message.smil > written.smil",
                                run};

@@ -1,56 +1,35 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "commands.h"
-#include "escaping.h"
-#include "json.h"
-#include "times.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "base/timetext.h"
+#include "commands/commands.h"
+#include "input/content.h"
+#include "json/json.h"
 
 #include <smilparser/smilplayback.h>
 
 #include <QtCore/QIODevice>
 
-namespace
+static void line(QIODevice &out, int level, const QString &text)
 {
-/** The lines of an outline. */
-class Outline
+    out.write(QByteArray(2 * qMin(level, bounds::indentation), ' ') + text.toUtf8() + '\n');
+}
+
+static void text(QIODevice &out, int level, QLatin1String label, const QString &value)
 {
-public:
-    explicit Outline(QIODevice &device)
-        : out(device)
-    {
+    if (!value.isEmpty()) {
+        line(out, level, label + QLatin1Char(' ') + quoted(shortened(value, bounds::header)));
     }
-
-    void line(int level, const QString &text)
-    {
-        out.write(QByteArray(2 * qMin(level, bounds::indentation), ' ') + text.toUtf8() + '\n');
-    }
-
-    void text(int level, QLatin1String label, const QString &value)
-    {
-        if (!value.isEmpty()) {
-            line(level, label + QLatin1Char(' ') + quoted(value));
-        }
-    }
-
-private:
-    QIODevice &out;
-};
 }
 
 static QString size(const SmilUnit &width, const SmilUnit &height)
 {
-    if (!width.valid && !height.valid) {
-        return QStringLiteral("no size");
-    }
-    if (!width.valid) {
-        return QStringLiteral("height ") + height.toString();
-    }
-    if (!height.valid) {
-        return QStringLiteral("width ") + width.toString();
-    }
-    return width.toString() + QLatin1String(" x ") + height.toString();
+    return !width.valid && !height.valid ? QStringLiteral("no size")
+        : !width.valid                   ? QLatin1String("height ") + height.toString()
+        : !height.valid                  ? QLatin1String("width ") + width.toString()
+                                         : width.toString() + QLatin1String(" x ") + height.toString();
 }
 
 static QString position(QLatin1String edge, const SmilUnit &distance)
@@ -72,100 +51,122 @@ static QString describe(const SmilRegion &region)
 
 static QString describe(const SmilRef &ref)
 {
-    QString text = QLatin1String(mediaKind(ref).element) + QLatin1Char(' ') + quoted(ref.src);
+    QString text = elementName(ref.type) + QLatin1Char(' ') + quoted(ref.src);
     if (!ref.region.isEmpty()) {
         text += QLatin1String(" in ") + quoted(ref.region);
     }
     return text;
 }
 
-static void showContents(Outline &outline, int level, const SmilNode &node)
+static void showContents(QIODevice &out, int level, const SmilNode &node)
 {
     for (const SmilNode &child : node.children) {
         const QString name = child.type == SmilNode::Seq ? QStringLiteral("seq, ") : QStringLiteral("par, ");
-        outline.line(level, name + (child.dur.valid ? child.dur.toString() : QStringLiteral("no duration")));
-        showContents(outline, level + 1, child);
+        line(out, level, name + (child.dur.valid ? child.dur.toString() : QStringLiteral("no duration")));
+        showContents(out, level + 1, child);
     }
     for (const SmilRef &ref : node.refs) {
-        outline.line(level, describe(ref));
+        line(out, level, describe(ref));
     }
 }
 
-static void showHeader(Outline &outline, const SmilHeader &header)
+static void showHeader(QIODevice &out, const SmilHeader &header)
 {
-    outline.line(1, QStringLiteral("head"));
-    outline.text(2, QLatin1String("id"), header.id);
-    outline.text(2, QLatin1String("title"), header.title);
-    outline.text(2, QLatin1String("class"), header.className);
+    line(out, 1, QStringLiteral("head"));
+    text(out, 2, QLatin1String("id"), header.id);
+    text(out, 2, QLatin1String("title"), header.title);
+    text(out, 2, QLatin1String("class"), header.className);
     for (const SmilMeta &meta : header.metas) {
         const QString id = meta.id.isEmpty() ? QString() : QLatin1String(", id ") + quoted(meta.id);
-        outline.line(2, QLatin1String("meta ") + quoted(meta.name) + QLatin1String(": ") + quoted(meta.content) + id);
+        line(out, 2, QLatin1String("meta ") + quoted(meta.name) + QLatin1String(": ") + quoted(meta.content) + id);
     }
 }
 
-static void showLayout(Outline &outline, const SmilLayout &layout)
+static void showLayout(QIODevice &out, const SmilLayout &layout)
 {
-    outline.line(1, QStringLiteral("layout"));
-    outline.line(2, QLatin1String("root-layout: ") + size(layout.rootLayoutWidth, layout.rootLayoutHeight));
+    line(out, 1, QStringLiteral("layout"));
+    line(out, 2, QLatin1String("root-layout: ") + size(layout.rootLayoutWidth, layout.rootLayoutHeight));
     if (layout.topLayoutWidth.valid || layout.topLayoutHeight.valid) {
-        outline.line(2, QLatin1String("topLayout: ") + size(layout.topLayoutWidth, layout.topLayoutHeight));
+        line(out, 2, QLatin1String("topLayout: ") + size(layout.topLayoutWidth, layout.topLayoutHeight));
     }
     for (const SmilRegion &region : layout.regions) {
-        outline.line(2, describe(region));
+        line(out, 2, describe(region));
     }
 }
 
-static QString header(const QString &text)
+static void showMessage(QIODevice &out, const Message &message)
 {
-    return shortened(text, bounds::header);
+    const MmsMessage &mms = message.mms;
+    text(out, 1, QLatin1String("from"), mms.from);
+    for (const QString &receiver : mms.to) {
+        text(out, 1, QLatin1String("to"), receiver);
+    }
+    text(out, 1, QLatin1String("subject"), mms.subject);
+    if (mms.date.isValid()) {
+        line(out, 1, QLatin1String("date ") + mms.date.toString(Qt::ISODate));
+    }
+    for (int i = 0; i < int(mms.parts.size()); ++i) {
+        line(out, 1,
+             QStringLiteral("part %1, %2, %3 bytes")
+                 .arg(quoted(shortened(message.parts.at(i).name, bounds::header)),
+                      printable(shortened(mms.parts.at(i).type, bounds::header)),
+                      QString::number(mms.data.at(i).size())));
+    }
 }
 
-static void showMessage(Outline &outline, const MmsMessage &message, const Parts &parts)
+static void showSmil(QIODevice &out, const SmilDocument &document)
 {
-    outline.text(1, QLatin1String("from"), header(message.from));
-    for (const QString &receiver : message.to) {
-        outline.text(1, QLatin1String("to"), header(receiver));
-    }
-    outline.text(1, QLatin1String("subject"), header(message.subject));
-    if (message.date.isValid()) {
-        outline.line(1, QLatin1String("date ") + message.date.toString(Qt::ISODate));
-    }
-    for (int i = 0; i < int(message.parts.size()); ++i) {
-        const MmsPart &part = message.parts.at(i);
-        outline.line(1,
-                     QStringLiteral("part %1, %2, %3 bytes")
-                         .arg(quoted(header(parts.at(i).name)), printable(header(part.type)),
-                              QString::number(part.data.size())));
+    showHeader(out, document.header);
+    showLayout(out, document.header.layout);
+    const SmilNode &body = document.body.root;
+    line(out, 1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
+    showContents(out, 2, body);
+}
+
+static void showSlides(QIODevice &out, const SmilSlideshow &show, const MessageParts &parts)
+{
+    int number = 0;
+    const QList<SmilSlide> slides = firstSlides(show);
+    for (const SmilSlide &slide : slides) {
+        line(out, 1,
+             QStringLiteral("slide %1, %2, %3")
+                 .arg(++number)
+                 .arg(clockText(slide.begin), lengthText(slide.end - slide.begin)));
+        for (int i = 0; i < int(slide.cues.size()); ++i) {
+            const SmilRef &ref = slide.cues.at(i).ref;
+            const int part = slide.parts.at(i);
+            line(out, 2,
+                 elementName(ref.type) + QLatin1Char(' ')
+                     + (part < 0 ? quoted(ref.src) + QLatin1String(", missing")
+                                 : quoted(shortened(parts.at(part).name, bounds::header))));
+        }
     }
 }
 
 void show(const Message &message, QIODevice &out)
 {
-    Outline outline(out);
-    outline.line(0, printable(message.file));
-    showMessage(outline, message.mms, message.parts);
-    showHeader(outline, message.document.header);
-    showLayout(outline, message.document.header.layout);
-    const SmilNode &body = message.document.body.root;
-    outline.line(1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
-    showContents(outline, 2, body);
-    outline.line(1, QLatin1String("plays ") + lengthText(SmilTimeline(message.dom.documentElement()).duration()));
+    line(out, 0, printable(message.file));
+    showMessage(out, message);
+    if (message.outcome == SmilParser::Complete) {
+        showSmil(out, message.document);
+    }
+    const SmilSlideshow slideshow = message.slideshow();
+    if (message.parts.areKnown()) {
+        showSlides(out, slideshow, message.parts);
+    }
+    line(out, 1, QLatin1String("plays ") + lengthText(slideshow.duration()));
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    Message message;
-    const Problem problem =
-        readMessage(file, QString(), arguments.plain ? SmilParser::AsWritten : SmilParser::ClockDurations, message);
-    if (problem.isNone()) {
-        arguments.json ? showJson(message, out) : show(message, out);
-        return Result();
-    }
+    const Message message = readMessage(file, QString());
     if (arguments.json) {
-        showJson(file, problem, out);
+        showJson(message, out);
+    } else if (message.isReadable()) {
+        show(message, out);
     }
-    return {false, {problem.toString()}};
+    return message.problem.isNone() ? Result() : Result{false, {message.problem.toString()}};
 }
 
 const Command showCommand = {
-    "show", "FILE...", Plain | Json, "Prints an outline of each message.", "smiltool show message.smil", run};
+    "show", "FILE...", "json", "Prints an outline of each message.", "smiltool show message.smil", run};

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "bounds.h"
-#include "captions.h"
-#include "commands.h"
-#include "escaping.h"
-#include "media.h"
-#include "outputfile.h"
-#include "svg.h"
-#include "times.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "base/timetext.h"
+#include "commands/commands.h"
+#include "drawing/captions.h"
+#include "drawing/media.h"
+#include "drawing/svg.h"
+#include "output/outputfile.h"
 
 #include <QtCore/QBuffer>
 
@@ -39,7 +39,7 @@ text { fill: currentColor; }
 }
 )";
 
-static void draw(Svg &svg, Media &media, const Picture &picture, const Screen &screen, const QString &heading)
+static void draw(Svg &svg, Media &media, const Picture &picture, const ScaledScreen &screen)
 {
     svg.rectangle(QRectF(QPointF(), screen.size), QStringLiteral("screen"));
     for (const Shown &shown : picture.shown) {
@@ -52,98 +52,67 @@ static void draw(Svg &svg, Media &media, const Picture &picture, const Screen &s
     // After all of these, so that none hides a name in another.
     for (const Label &label : picture.labels) {
         svg.beginClip(QRectF(label.area.topLeft(), QSizeF(label.room, lineHeight)));
-        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.region < 0 ? nullptr : "id");
+        svg.text(QPointF(4, 0.75 * lineHeight), label.text, label.region < 0 ? QString() : QStringLiteral("id"));
         svg.endGroup();
     }
     const double lines = picture.below.size() + 1.5;
     svg.beginClip(QRectF(0, screen.size.height(), frameWidth + margin / 2, lines * lineHeight));
-    svg.text(QPointF(0, 1.2 * lineHeight), heading, "number");
+    svg.text(QPointF(0, 1.2 * lineHeight), picture.heading, QStringLiteral("number"));
     for (int i = 0; i < picture.below.size(); ++i) {
         svg.text(QPointF(0, (2.3 + i) * lineHeight), picture.below.at(i));
     }
     svg.endGroup();
 }
 
-static QString summary(const QList<Frame> &frames, const QString &duration)
-{
-    QStringList all;
-    for (const Frame &frame : frames) {
-        QStringList words;
-        for (const SmilCue &cue : frame.cues) {
-            words.append(wordsFor(cue));
-        }
-        all.append(frame.heading + QLatin1String(": ")
-                   + shortened(words.join(QLatin1String(" + ")), bounds::description));
-    }
-    return duration + QLatin1Char(' ') + all.join(QLatin1String("; "));
-}
-
-static SmilTimeline timelineOf(const Message &message)
-{
-    return SmilTimeline(message.dom.documentElement());
-}
-
 void storyboard(Message &message, QIODevice &out)
 {
-    const Screen screen(message.document.header.layout);
-    const SmilTimeline timeline = timelineOf(message);
-    const QList<Frame> frames = framesOf(timeline);
-    Captions captions(screen, message.parts);
+    const SmilSlideshow show = message.slideshow();
+    const ScaledScreen screen(show.layout());
     QList<Picture> pictures;
+    QStringList words;
     double lines = 0;
-    for (const Frame &frame : frames) {
-        pictures.append(captions.of(frame));
-        lines = qMax<double>(lines, pictures.last().below.size());
+    const QList<SmilSlide> slides = firstSlides(show);
+    for (const SmilSlide &slide : slides) {
+        const Picture picture = pictureOf(int(pictures.size()) + 1, slide, screen, message.parts);
+        lines = qMax<double>(lines, picture.below.size());
+        words.append(picture.heading + QLatin1String(": ")
+                     + shortened(picture.words.join(QLatin1String(" + ")), bounds::description));
+        pictures.append(picture);
     }
     const double cellWidth = frameWidth + margin;
     const double cellHeight = screen.size.height() + (lines + 2) * lineHeight + margin;
-    const auto count = qMax<qsizetype>(1, frames.size());
+    const auto count = qMax<qsizetype>(1, pictures.size());
     const auto rows = (count + columns - 1) / columns;
     const QSizeF page(margin + qMin<double>(columns, count) * cellWidth, margin + rows * cellHeight);
-    const QString duration = QStringLiteral("Plays %1.").arg(lengthText(timeline.duration()));
-    const QString nothing = QStringLiteral("Nothing plays.");
+    const QString duration = pictures.isEmpty() ? QStringLiteral("Nothing plays.")
+                                                : QStringLiteral("Plays %1.").arg(lengthText(show.duration()));
+    const QString more = show.count() > pictures.size()
+        ? QStringLiteral(" Only %1 of %2 slides are drawn.").arg(pictures.size()).arg(show.count())
+        : QString();
 
-    Svg svg(out);
-    svg.begin(page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
-              frames.isEmpty() ? nothing : summary(frames, duration), styleSheet);
+    Svg svg(out, page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
+            (duration + QLatin1Char(' ') + words.join(QLatin1String("; "))).trimmed(), styleSheet);
     svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
-    Media media(svg, screen, message.parts);
-    for (int i = 0; i < frames.size(); ++i) {
+    Media media(svg, screen.scale, message.parts);
+    for (int i = 0; i < pictures.size(); ++i) {
         svg.beginGroup(QPointF(margin + i % columns * cellWidth, margin + i / columns * cellHeight));
-        draw(svg, media, pictures.at(i), screen, frames.at(i).heading);
+        draw(svg, media, pictures.at(i), screen);
         svg.endGroup();
     }
-    const QString more = timeline.slideBegins().size() > frames.size()
-        ? QStringLiteral(" No more than %1 slides are drawn.").arg(bounds::frames)
-        : QString();
-    if (frames.isEmpty()) {
-        svg.text(QPointF(margin, 2 * lineHeight), nothing);
-    } else {
-        svg.text(QPointF(margin, page.height() - 4), duration + more);
-    }
-    svg.end();
+    svg.text(QPointF(margin, page.height() - 4), duration + more);
 }
 
-/** Whether a file in the folder of the parts is one that the message refers to. */
-static bool isPart(const QString &name, const QString &folder, const Message &message)
-{
-    const QString file = folder.isEmpty() ? QString() : nameIn(folder, name);
-    const int part = message.parts.find(file);
-    if (part < 0) {
-        return false;
-    }
-    const QList<SmilCue> cues = timelineOf(message).cues();
-    return std::any_of(cues.cbegin(), cues.cend(),
-                       [&](const SmilCue &cue) { return message.parts.find(cue.ref.src) == part; });
-}
-
-/** Draws to a file, but never over the message. */
+/** Draws to a file, but never over the message or a part that it refers to. */
 static Result drawTo(const QString &name, const QString &folder, Message &message)
 {
     if (isSameFile(message.file, name)) {
         return failure(name, QStringLiteral("is the message itself"));
     }
-    if (isPart(name, folder, message)) {
+    const int part = message.parts.find(nameIn(folder, name));
+    const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
+    if (part >= 0 && std::any_of(cues.cbegin(), cues.cend(), [&](const SmilCue &cue) {
+            return message.parts.find(cue.ref.src) == part;
+        })) {
         return failure(name, QStringLiteral("is a part of the message"));
     }
     QBuffer picture;
@@ -155,7 +124,7 @@ static Result drawTo(const QString &name, const QString &folder, Message &messag
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
-    return withMessage(file, arguments, SmilParser::AsWritten, [&](Message &message) {
+    return withMessage(file, arguments, [&](Message &message) {
         if (arguments.toFile()) {
             return drawTo(arguments.output, arguments.parts, message);
         }
@@ -166,7 +135,7 @@ static Result run(const QString &file, const Arguments &arguments, QIODevice &ou
 
 const Command storyboardCommand = {"storyboard",
                                    "FILE",
-                                   Output | PartsFolder,
+                                   "output parts",
                                    "Draws a message as a picture, in SVG.",
                                    "smiltool storyboard message.smil -o board.svg",
                                    run};

@@ -1,15 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "captions.h"
-#include "bounds.h"
-#include "escaping.h"
-#include "typesetting.h"
+#include "drawing/captions.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "base/timetext.h"
+#include "drawing/typesetting.h"
 
 #include <algorithm>
 
 static const double narrowest = 80; // that enough of a long name still fits into
 static const int mostLines = 6; // below a frame
+
+/** A line with a sign for the kind of the medium. */
+static QString withSign(const SmilRef &ref, const QString &text)
+{
+    static const char16_t signs[] = {u'\u00b6', u'\u25a3', u'\u266a', u'\u25b6', u'\u25c6'}; // by SmilRef::Type
+    // The end of a long name has its extension.
+    const bool isLong = text.size() > bounds::name;
+    return QChar(signs[ref.type]) + QLatin1Char(' ')
+        + printable(isLong ? shortened(text, bounds::name - 10) + text.right(10) : text);
+}
 
 /** The name, cut to leave room for what is said of it, on a line below the frame. */
 static QString lineBelow(const QString &name, const QString &remark)
@@ -17,15 +28,16 @@ static QString lineBelow(const QString &name, const QString &remark)
     return elided(name, frameWidth - width(remark)) + remark;
 }
 
-static bool isDrawn(PartKind kind)
+bool isPicture(const QString &type)
 {
-    return kind == PartKind::Picture || kind == PartKind::Text || kind == PartKind::Xml;
+    static const QStringList types{QStringLiteral("image/png"), QStringLiteral("image/jpeg"),
+                                   QStringLiteral("image/gif"), QStringLiteral("image/webp")};
+    return types.contains(type);
 }
 
-int Captions::find(const QString &src)
+static bool isDrawn(const QString &type)
 {
-    const auto known = found.constFind(src);
-    return known != found.constEnd() ? *known : *found.insert(src, parts.find(src));
+    return isPicture(type) || type == QLatin1String("text/plain");
 }
 
 /** The first line of the area, from @p from on, that no other label takes; -1 when there is none. */
@@ -64,35 +76,43 @@ static void label(const Shown &shown, const QString &id, Picture &picture)
     }
 }
 
-void Captions::add(const SmilCue &cue, const QRectF &place, Picture &picture)
+static void add(const SmilCue &cue, int part, const QRectF &place, const ScaledScreen &screen, MessageParts &parts,
+                Picture &picture)
 {
     const int region = screen.pixels.regionIndex(cue.ref.region);
-    const QString id = screen.idOf(region);
-    const QString name = nameOf(cue.ref);
-    const int part = find(cue.ref.src);
+    const QString id =
+        region < 0 ? QString() : elided(printable(shortened(cue.ref.region, bounds::quotation)), frameWidth / 2);
+    // What no element refers to is called as the message calls it, not by its identifier.
+    const QString src = cue.line < 0 && part >= 0 ? parts.at(part).name : cue.ref.src;
+    const QString name = withSign(cue.ref, src.isEmpty() ? QStringLiteral("?") : src);
+    const QString words = cue.alt.isEmpty() ? name : withSign(cue.ref, cue.alt);
     const bool isMissing = parts.areKnown() && part < 0;
     const QString remark = isMissing ? QStringLiteral(", missing") : QString();
     const QRectF area = screen.visible(place);
+    picture.words.append(words);
     if (cue.ref.type == SmilRef::Audio) {
         picture.below.append(lineBelow(name, remark));
     } else if (area.isEmpty()) {
         picture.below.append(lineBelow(name, remark + QLatin1String(", off screen in ") + quoted(id)));
     } else {
-        const bool drawn = part >= 0 && isDrawn(parts.read(part).content.kind);
-        const QString words = wordsFor(cue) + (id.isEmpty() ? id : QLatin1String(" in ") + id);
-        picture.shown.append({place, area, region, name + remark, words, drawn ? part : -1, isMissing});
+        const bool drawn = part >= 0 && isDrawn(parts.read(part).type);
+        picture.shown.append({place, area, cue.fit, region, name + remark,
+                              words + (id.isEmpty() ? id : QLatin1String(" in ") + id), drawn ? part : -1, isMissing});
         if (!drawn) {
             label(picture.shown.last(), id, picture);
         }
     }
 }
 
-Picture Captions::of(const Frame &frame)
+Picture pictureOf(int number, const SmilSlide &slide, const ScaledScreen &screen, MessageParts &parts)
 {
     Picture picture;
-    const QList<QRectF> places = screen.pixels.rects(frame.cues);
-    for (int i = 0; i < frame.cues.size(); ++i) {
-        add(frame.cues.at(i), places.at(i), picture);
+    picture.heading = QStringLiteral("%1 \u00b7 %2 \u00b7 %3")
+                          .arg(number)
+                          .arg(clockText(slide.begin), lengthText(slide.end - slide.begin));
+    const QList<QRectF> places = screen.pixels.rects(slide.cues);
+    for (int i = 0; i < slide.cues.size(); ++i) {
+        add(slide.cues.at(i), slide.parts.at(i), places.at(i), screen, parts, picture);
     }
     if (picture.below.size() > mostLines) {
         const auto more = picture.below.size() - mostLines + 1;

@@ -4,9 +4,8 @@
 #ifndef SMILTOOL_CAPTIONS_H
 #define SMILTOOL_CAPTIONS_H
 
-#include "frames.h"
-#include "parts.h"
-#include "screen.h"
+#include "drawing/scaledscreen.h"
+#include "input/messageparts.h"
 
 /** A text on the screen. */
 struct Label {
@@ -20,6 +19,7 @@ struct Label {
 struct Shown {
     QRectF place; ///< on the message's screen
     QRectF area; ///< what of it can be seen, in units of the picture
+    QString fit;
     int region; ///< -1: none
     QString name;
     QString words; ///< in place of what is drawn
@@ -27,33 +27,19 @@ struct Shown {
     bool missing;
 };
 
-/** What is drawn for one frame. */
+/** What is drawn for one slide. */
 struct Picture {
+    QString heading; ///< its number, when it begins, and how long it takes: "2 · 0:06.825 · 3s"
+    QStringList words; ///< for each medium, what the message has in place of it, or else its name
     QList<Shown> shown;
     QList<Label> labels;
     QStringList below; ///< what has no place on the screen, or no room there
 };
 
-/** Says what plays in frames, and where there is room to say it. */
-class Captions
-{
-public:
-    Captions(const Screen &layout, Parts &of)
-        : screen(layout)
-        , parts(of)
-    {
-    }
+/** Whether content of that type is a picture that a viewer can draw. */
+bool isPicture(const QString &type);
 
-    Picture of(const Frame &frame);
-
-private:
-    int find(const QString &src);
-    void add(const SmilCue &cue, const QRectF &place, Picture &picture);
-
-    const Screen &screen;
-    Parts &parts;
-    // Each is looked for once, however many frames show it: both its name and the names of parts may be long.
-    QMap<QString, int> found;
-};
+/** Says what the slide of that number shows, and finds the room to say it. */
+Picture pictureOf(int number, const SmilSlide &slide, const ScaledScreen &screen, MessageParts &parts);
 
 #endif

@@ -1,42 +1,27 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "media.h"
-#include "charset.h"
-#include "escaping.h"
-#include "picturesize.h"
-#include "typesetting.h"
+#include "drawing/media.h"
+#include "drawing/picturesize.h"
+#include "drawing/typesetting.h"
 
-#include <QtCore/QRegularExpression>
+#include <QtCore/QDataStream>
 
 void Media::draw(const Shown &shown)
 {
-    const QRectF &area = shown.area;
-    const QString what = QStringLiteral("%1 %2 %3 %4 %5 %6 ")
-                             .arg(shown.part)
-                             .arg(shown.region)
-                             .arg(area.x())
-                             .arg(area.y())
-                             .arg(area.width())
-                             .arg(area.height())
-        + shown.words;
-    const auto before = drawn.constFind(what);
-    if (before != drawn.constEnd()) {
-        svg.reuse(*before);
-    } else {
-        const QString id = QStringLiteral("p%1").arg(drawn.size() + 1);
-        drawn.insert(what, id);
-        draw(shown, id);
+    QByteArray what;
+    QDataStream(&what, QIODevice::WriteOnly) << shown.part << shown.place << shown.fit << shown.name << shown.words;
+    QString &id = drawn[what];
+    if (!id.isNull()) {
+        svg.reuse(id);
+        return;
     }
-}
-
-void Media::draw(const Shown &shown, const QString &id)
-{
-    const Parts::Part &part = parts.read(shown.part);
+    id = QStringLiteral("p%1").arg(drawn.size());
+    const MessageParts::Part &part = parts.read(shown.part);
     svg.beginClip(shown.area, id);
     svg.title(shown.words);
-    const bool isPicture = part.content.kind == PartKind::Picture;
-    const bool isTooLarge = isPicture && part.data.size() > left;
+    const bool pictured = isPicture(part.type);
+    const bool isTooLarge = pictured && part.data.size() > left;
     if (isTooLarge) {
         parts.leaveOut(shown.part,
                        QStringLiteral("would be more than %1 MiB with the pictures before it")
@@ -44,40 +29,34 @@ void Media::draw(const Shown &shown, const QString &id)
     }
     if (isTooLarge || drawn.size() > bounds::drawn) {
         svg.text(QPointF(4, 0.75 * lineHeight), shown.name);
-    } else if (isPicture) {
+    } else if (pictured) {
         drawPicture(part, shown);
     } else {
-        drawText(part, shown.area.size());
+        drawText(shown.part, shown.area.size());
     }
     svg.endGroup();
 }
 
-void Media::drawPicture(const Parts::Part &part, const Shown &shown)
+void Media::drawPicture(const MessageParts::Part &part, const Shown &shown)
 {
     // A place may reach as far as numbers do, where a viewer finds nothing.
     const QRectF near(-bounds::screen, -bounds::screen, 3 * bounds::screen, 3 * bounds::screen);
     const QRectF place = shown.place.intersected(near);
-    const QString fit = screen.fitOf(shown.region);
     const QSizeF size = pictureSize(part.data);
-    const QRectF fitted = scaled(size.isEmpty() ? place : SmilScreen::fitted(size, place, fit), screen.scale);
-    svg.image(part.content.type, part.data, fitted.translated(-shown.area.topLeft()), fit == QLatin1String("fill"));
+    const QRectF fitted = size.isEmpty() ? place : SmilScreen::fitted(size, place, shown.fit);
+    svg.image(part.type, part.data, scaled(fitted, scale).translated(-shown.area.topLeft()),
+              shown.fit == QLatin1String("fill"));
     left -= part.data.size();
 }
 
-void Media::drawText(const Parts::Part &part, const QSizeF &size)
+void Media::drawText(int part, const QSizeF &size)
 {
     const int count = qMax(1, int(size.height() / lineHeight));
     const int enough = count * (int(size.width() / narrowestLetter) + 2);
-    const QString text = withoutFormat(decodedBeginning(part.data, enough));
-    const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
-    QStringList printed;
-    for (const QString &paragraph : paragraphs) {
-        printed.append(printable(paragraph));
-    }
-    const QStringList lines = wrapped(printed.join(QLatin1Char('\n')), size.width() - 8, count);
+    const QStringList lines = wrapped(withoutFormat(parts.beginning(part, enough)), size.width() - 8, count);
     for (int i = 0; i < lines.size(); ++i) {
         const bool rightToLeft = lines.at(i).isRightToLeft();
         svg.text(QPointF(rightToLeft ? size.width() - 4 : 4, (i + 0.75) * lineHeight), lines.at(i),
-                 rightToLeft ? "rtl" : nullptr);
+                 rightToLeft ? QStringLiteral("rtl") : QString());
     }
 }

@@ -4,17 +4,17 @@
 #ifndef SMILTOOL_MEDIA_H
 #define SMILTOOL_MEDIA_H
 
-#include "bounds.h"
-#include "captions.h"
-#include "svg.h"
+#include "base/bounds.h"
+#include "drawing/captions.h"
+#include "drawing/svg.h"
 
 /** Draws the parts, each only once in a place: where other frames show it again, they refer to the first. */
 class Media
 {
 public:
-    Media(Svg &picture, const Screen &layout, Parts &of)
+    Media(Svg &picture, double ofPixels, MessageParts &of)
         : svg(picture)
-        , screen(layout)
+        , scale(ofPixels)
         , parts(of)
     {
     }
@@ -23,14 +23,13 @@ public:
     void draw(const Shown &shown);
 
 private:
-    void draw(const Shown &shown, const QString &id);
-    void drawPicture(const Parts::Part &part, const Shown &shown);
-    void drawText(const Parts::Part &part, const QSizeF &size);
+    void drawPicture(const MessageParts::Part &part, const Shown &shown);
+    void drawText(int part, const QSizeF &size);
 
     Svg &svg;
-    const Screen &screen;
-    Parts &parts;
-    QMap<QString, QString> drawn; ///< the id of each, by all that it depends on
+    const double scale; ///< units of the picture for each pixel
+    MessageParts &parts;
+    QMap<QByteArray, QString> drawn; ///< the id of each, by all that it depends on
     qint64 left = bounds::pictures;
 };
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "picturesize.h"
+#include "drawing/picturesize.h"
 
 #include <QtCore/QDataStream>
 
-// Behind the end of the data, a stream reads nothing but zeros.
+// After the end of the data, a stream reads nothing but zeros.
 
 template<typename Number>
 static QSizeF widthAndHeight(QDataStream &in)
@@ -24,9 +24,8 @@ static QSizeF jpegSize(QDataStream &in)
         quint16 marker;
         quint16 length;
         in >> marker >> length;
-        const bool isOther =
-            marker == 0xffc4 || marker == 0xffc8 || marker == 0xffcc; // tables, and one that is not used
-        if (marker >= 0xffc0 && marker <= 0xffcf && !isOther) {
+        // Tables, and a marker that is not used, are among them.
+        if (marker == 0xffc0 || (marker > 0xffc0 && marker < 0xffd0 && marker % 4 != 0)) {
             in.skipRawData(1);
             return widthAndHeight<quint16>(in).transposed();
         }

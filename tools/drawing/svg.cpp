@@ -1,115 +1,92 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "svg.h"
+#include "drawing/svg.h"
 
-Svg::Svg(QIODevice &device)
+Svg::Svg(QIODevice &device, const QSizeF &size, const QString &title, const QString &description, const char *style)
     : writer(&device)
 {
+    const QString width = QString::number(size.width());
+    const QString height = QString::number(size.height());
     writer.setAutoFormatting(true);
     writer.setAutoFormattingIndent(1);
-}
-
-void Svg::begin(const QSizeF &size, const QString &title, const QString &description, const char *style)
-{
     writer.writeStartDocument();
     writer.writeStartElement(QStringLiteral("svg"));
-    writer.writeDefaultNamespace(QStringLiteral("http://www.w3.org/2000/svg"));
-    attribute("width", size.width());
-    attribute("height", size.height());
-    writer.writeAttribute(QStringLiteral("viewBox"), QStringLiteral("0 0 %1 %2").arg(size.width()).arg(size.height()));
-    writer.writeAttribute(QStringLiteral("role"), QStringLiteral("img"));
-    writer.writeAttribute(QStringLiteral("aria-labelledby"), QStringLiteral("title desc"));
-    named("title", title);
-    named("desc", description);
-    writer.writeTextElement(QStringLiteral("style"), QLatin1String(style));
-}
-
-void Svg::end()
-{
-    writer.writeEndElement();
-    writer.writeEndDocument();
+    attribute("xmlns", QStringLiteral("http://www.w3.org/2000/svg"));
+    attribute("width", width);
+    attribute("height", height);
+    attribute("viewBox", QStringLiteral("0 0 %1 %2").arg(width, height));
+    attribute("role", QStringLiteral("img"));
+    attribute("aria-labelledby", QStringLiteral("title desc"));
+    textElement("title", QStringLiteral("title"), title);
+    textElement("desc", QStringLiteral("desc"), description);
+    textElement("style", QString(), QLatin1String(style));
 }
 
 void Svg::beginGroup(const QPointF &corner)
 {
     writer.writeStartElement(QStringLiteral("g"));
-    writer.writeAttribute(QStringLiteral("transform"),
-                          QStringLiteral("translate(%1 %2)").arg(corner.x()).arg(corner.y()));
+    attribute("transform", QStringLiteral("translate(%1 %2)").arg(corner.x()).arg(corner.y()));
 }
 
-void Svg::beginClip(const QRectF &inside, const QString &id)
+void Svg::beginClip(const QRectF &area, const QString &id)
 {
     writer.writeStartElement(QStringLiteral("svg"));
-    if (!id.isEmpty()) {
-        writer.writeAttribute(QStringLiteral("id"), id);
-    }
-    area(inside);
+    attribute("id", id);
+    areaAttributes(area);
 }
 
-void Svg::endGroup()
-{
-    writer.writeEndElement();
-}
-
-void Svg::rectangle(const QRectF &edges, const QString &kind)
+void Svg::rectangle(const QRectF &area, const QString &kind)
 {
     writer.writeEmptyElement(QStringLiteral("rect"));
-    area(edges);
-    writer.writeAttribute(QStringLiteral("class"), kind);
+    areaAttributes(area);
+    attribute("class", kind);
 }
 
-void Svg::text(const QPointF &at, const QString &line, const char *kind)
+void Svg::text(const QPointF &at, const QString &line, const QString &kind)
 {
     writer.writeStartElement(QStringLiteral("text"));
-    attribute("x", at.x());
-    attribute("y", at.y());
-    if (kind) {
-        writer.writeAttribute(QStringLiteral("class"), QLatin1String(kind));
-    }
+    attribute("x", QString::number(at.x()));
+    attribute("y", QString::number(at.y()));
+    attribute("class", kind);
     writer.writeCharacters(line);
     writer.writeEndElement();
 }
 
-void Svg::title(const QString &text)
-{
-    writer.writeTextElement(QStringLiteral("title"), text);
-}
-
-void Svg::image(const QString &type, const QByteArray &data, const QRectF &edges, bool distorted)
+void Svg::image(const QString &type, const QByteArray &data, const QRectF &area, bool distorted)
 {
     writer.writeEmptyElement(QStringLiteral("image"));
-    area(edges);
-    if (distorted) {
-        writer.writeAttribute(QStringLiteral("preserveAspectRatio"), QStringLiteral("none"));
-    }
-    writer.writeAttribute(QStringLiteral("href"),
-                          QLatin1String("data:") + type + QLatin1String(";base64,") + QLatin1String(data.toBase64()));
+    areaAttributes(area);
+    attribute("preserveAspectRatio", distorted ? QStringLiteral("none") : QString());
+    attribute("href", QLatin1String("data:") + type + QLatin1String(";base64,") + QLatin1String(data.toBase64()));
 }
 
 void Svg::reuse(const QString &id)
 {
     writer.writeEmptyElement(QStringLiteral("use"));
-    writer.writeAttribute(QStringLiteral("href"), QLatin1Char('#') + id);
+    attribute("href", QLatin1Char('#') + id);
 }
 
-void Svg::attribute(const char *name, double value)
+/** One that is empty is not written. */
+void Svg::attribute(const char *name, const QString &value)
 {
-    writer.writeAttribute(QLatin1String(name), QString::number(value));
+    if (!value.isEmpty()) {
+        writer.writeAttribute(QLatin1String(name), value);
+    }
 }
 
-void Svg::area(const QRectF &area)
+void Svg::areaAttributes(const QRectF &area)
 {
-    attribute("x", area.x());
-    attribute("y", area.y());
-    attribute("width", area.width());
-    attribute("height", area.height());
+    attribute("x", QString::number(area.x()));
+    attribute("y", QString::number(area.y()));
+    attribute("width", QString::number(area.width()));
+    attribute("height", QString::number(area.height()));
 }
 
-void Svg::named(const char *name, const QString &content)
+void Svg::textElement(const char *name, const QString &id, const QString &text)
 {
     writer.writeStartElement(QLatin1String(name));
-    writer.writeAttribute(QStringLiteral("id"), QLatin1String(name));
-    writer.writeCharacters(content);
+    attribute("id", id);
+    writer.writeCharacters(text);
     writer.writeEndElement();
 }

@@ -11,32 +11,30 @@
 class Svg
 {
 public:
-    explicit Svg(QIODevice &device);
-
     /** @p description is for who cannot see the picture. */
-    void begin(const QSizeF &size, const QString &title, const QString &description, const char *style);
-    void end();
+    Svg(QIODevice &device, const QSizeF &size, const QString &title, const QString &description, const char *style);
+    ~Svg() { writer.writeEndDocument(); }
 
     /** Everything up to endGroup() has its origin at @p corner. */
     void beginGroup(const QPointF &corner);
     /** Everything up to endGroup() has its origin at the corner of @p area, and is cut off at its edges. */
     void beginClip(const QRectF &area, const QString &id = QString());
-    void endGroup();
+    void endGroup() { writer.writeEndElement(); }
 
     /** What a viewer says of the element that this is in. */
-    void title(const QString &text);
+    void title(const QString &text) { textElement("title", QString(), text); }
     void rectangle(const QRectF &area, const QString &kind);
-    void text(const QPointF &at, const QString &line, const char *kind = nullptr);
+    void text(const QPointF &at, const QString &line, const QString &kind = QString());
 
     /** A picture of the given type, "image/png" for example; one of another shape is fitted in, or else distorted. */
-    void image(const QString &type, const QByteArray &data, const QRectF &edges, bool distorted);
+    void image(const QString &type, const QByteArray &data, const QRectF &area, bool distorted);
     /** Draws again, at the same place, what has this id. */
     void reuse(const QString &id);
 
 private:
-    void attribute(const char *name, double value);
-    void area(const QRectF &area);
-    void named(const char *name, const QString &content);
+    void attribute(const char *name, const QString &value);
+    void areaAttributes(const QRectF &area);
+    void textElement(const char *name, const QString &id, const QString &text);
 
     QXmlStreamWriter writer;
 };

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "typesetting.h"
+#include "drawing/typesetting.h"
+#include "base/escaping.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTextBoundaryFinder>
@@ -28,6 +29,21 @@ double width(const QString &text)
                            [](double sum, QChar c) { return sum + characterWidth(c); });
 }
 
+/** Where what fits ends, from @p from on: after a whole piece of that kind, or else at @p from. */
+static int endOfFitting(const QString &text, int from, double most, QTextBoundaryFinder::BoundaryType pieces)
+{
+    QTextBoundaryFinder finder(pieces, text);
+    finder.setPosition(from);
+    int end = from;
+    for (int next = int(finder.toNextBoundary()); next > 0; next = int(finder.toNextBoundary())) {
+        if (width(text.mid(from, next - from).trimmed()) > most) {
+            break;
+        }
+        end = next;
+    }
+    return end;
+}
+
 QString elided(const QString &text, double most)
 {
     // What is longer than this does not fit, whatever it is made of, and need not be looked at.
@@ -37,54 +53,31 @@ QString elided(const QString &text, double most)
     }
     const auto dot = text.lastIndexOf(QLatin1Char('.'));
     const QString end = QChar(0x2026) + (dot > 0 && text.size() - dot <= 6 ? text.mid(dot + 1) : QString());
-    const QString beginning = text.left(enough);
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, beginning);
-    auto kept = finder.position();
-    double used = width(end);
-    while (finder.toNextBoundary() > 0) {
-        used += width(beginning.mid(kept, finder.position() - kept));
-        if (used > most) {
-            break;
-        }
-        kept = finder.position();
-    }
-    return text.left(kept) + end;
+    return text.left(endOfFitting(text.left(enough), 0, most - width(end), QTextBoundaryFinder::Grapheme)) + end;
 }
 
-/** Where the line that begins at @p from ends: at a break or, in a word longer than it, between two letters. */
+/** Where the line that begins at @p from ends: at a break, in a word longer than it between two letters, or after one.
+ */
 static int endOfLine(const QString &text, int from, double most)
 {
-    int letter = 0; // the end of the first, which stays whole however narrow the line
-    for (const auto unit : {QTextBoundaryFinder::Line, QTextBoundaryFinder::Grapheme}) {
-        QTextBoundaryFinder finder(unit, text);
-        finder.setPosition(from);
-        int end = from;
-        for (int next = int(finder.toNextBoundary()); next > 0; next = int(finder.toNextBoundary())) {
-            letter = next;
-            if (width(text.mid(from, next - from).trimmed()) > most) {
-                break;
-            }
-            end = next;
-        }
-        if (end > from) {
-            return end;
-        }
-    }
-    return letter;
+    const int end = endOfFitting(text, from, most, QTextBoundaryFinder::Line);
+    const int letters = end > from ? end : endOfFitting(text, from, most, QTextBoundaryFinder::Grapheme);
+    QTextBoundaryFinder letter(QTextBoundaryFinder::Grapheme, text);
+    letter.setPosition(from);
+    return qMax(letters, int(letter.toNextBoundary()));
 }
 
 QStringList wrapped(const QString &text, double most, int count)
 {
     QStringList lines;
-    const QStringList paragraphs = text.split(QLatin1Char('\n'));
-    for (const QString &paragraph : paragraphs) {
+    const QStringList paragraphs = text.split(QRegularExpression(QStringLiteral("\\R")));
+    for (const QString &each : paragraphs) {
+        const QString paragraph = printable(each);
         int from = 0;
         do {
             if (lines.size() == count) {
                 QString &last = lines.last();
-                while (!last.isEmpty() && width(last) + 11 > most) {
-                    last.chop(last.size() > 1 && last.at(last.size() - 1).isLowSurrogate() ? 2 : 1);
-                }
+                last.truncate(endOfFitting(last, 0, most - width(QChar(0x2026)), QTextBoundaryFinder::Grapheme));
                 last += QChar(0x2026);
                 return lines;
             }

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "message.h"
-#include "bounds.h"
-#include "escaping.h"
+#include "input/message.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
 
 #include <QtCore/QFile>
 
@@ -40,19 +40,31 @@ static QString readFile(const QString &name, QByteArray &bytes)
     return bytes.size() <= largest ? QString() : QStringLiteral("larger than %1 MiB").arg(largest / bounds::mebibyte);
 }
 
+/** The part that is the SMIL: the one to start with, or else the first; -1 for none. */
+static int findSmil(const MmsMessage &mms, const MessageParts &parts)
+{
+    const int start = parts.find(mms.start);
+    if (start >= 0 && mms.parts.at(start).isSmil()) {
+        return start;
+    }
+    const auto first =
+        std::find_if(mms.parts.cbegin(), mms.parts.cend(), [](const SmilPart &part) { return part.isSmil(); });
+    return first == mms.parts.cend() ? -1 : int(first - mms.parts.cbegin());
+}
+
 static QString takeApart(const QByteArray &bytes, Message &message)
 {
     const QString problem = decodeMms(bytes, message.mms);
     if (!problem.isEmpty()) {
         return problem;
     }
-    message.parts = Parts(message.mms);
-    if (message.mms.smil < 0) {
-        return QStringLiteral("has no SMIL part");
+    message.parts = MessageParts(message.mms);
+    const QByteArray smil = message.mms.data.value(findSmil(message.mms, message.parts));
+    if (smil.size() > bounds::presentation) {
+        return QStringLiteral("the SMIL part is larger than 1 MiB");
     }
-    message.bytes = message.mms.parts.at(message.mms.smil).data;
-    return message.bytes.size() <= bounds::presentation ? QString()
-                                                        : QStringLiteral("the SMIL part is larger than 1 MiB");
+    message.smil = smil;
+    return QString();
 }
 
 /** Whether the input begins as XML does in any encoding: with "<", behind nothing but a byte order mark and blanks. */
@@ -76,22 +88,21 @@ static QString missingElement(SmilParser::Outcome outcome, const QDomDocument &d
     }
 }
 
-static Problem parse(SmilParser::ReadOptions options, Message &message)
+static void parse(SmilParser::ReadOptions options, Message &message)
 {
-    SmilParser parser(message.bytes);
-    SmilParser::Outcome outcome;
+    SmilParser parser(message.smil);
     Problem problem{message.file, QString()};
-    message.document = parser.parse(options, &outcome, &problem.text, &problem.line, &problem.column);
+    message.document = parser.parse(options, &message.outcome, &problem.text, &problem.line, &problem.column);
     message.dom = parser.dom();
-    if (outcome == SmilParser::Complete) {
-        return Problem();
+    if (message.outcome == SmilParser::Complete) {
+        return;
     }
-    if (outcome != SmilParser::NotWellFormed) {
-        problem.text = missingElement(outcome, message.dom);
-    } else if (!looksLikeXml(message.bytes)) {
+    if (message.outcome != SmilParser::NotWellFormed) {
+        problem.text = missingElement(message.outcome, message.dom);
+    } else if (!looksLikeXml(message.smil)) {
         problem.text.prepend(QLatin1String("this is no XML: "));
     }
-    return problem;
+    message.problem = problem;
 }
 
 QString Problem::toString() const
@@ -100,29 +111,64 @@ QString Problem::toString() const
     return of + place + QLatin1String(": ") + text;
 }
 
-Problem readBytes(const QByteArray &bytes, const QString &file, const QString &folder, SmilParser::ReadOptions options,
-                  Message &message)
+SmilSlideshow Message::slideshow() const
 {
-    message.file = file;
-    message.bytes = bytes;
-    if (isMms(bytes)) {
-        const QString problem = takeApart(bytes, message);
-        if (!problem.isEmpty()) {
-            return {file, problem};
-        }
-    } else if (!folder.isEmpty()) {
-        QString problem;
-        message.parts = Parts(Folder(folder, problem), file);
-        if (!problem.isEmpty()) {
-            return {folder, problem};
+    QList<SmilPart> headers = parts.headers();
+    if (mms.parts.isEmpty()) {
+        // A folder may hold more than the message. What is SMIL is on no slide, unless it is named.
+        for (SmilPart &part : headers) {
+            part.type = QStringLiteral("application/smil");
         }
     }
-    return parse(options, message);
+    return SmilSlideshow(smil, headers, SmilParser::ClockDurations);
 }
 
-Problem readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message)
+Message readBytes(const QByteArray &bytes, const QString &file, const QString &folder, SmilParser::ReadOptions options)
+{
+    Message message;
+    message.file = file;
+    QString problem;
+    if (isMms(bytes)) {
+        problem = takeApart(bytes, message);
+        message.problem = problem.isEmpty() ? Problem() : Problem{file, problem};
+    } else {
+        message.smil = bytes;
+        const Folder files = folder.isEmpty() ? Folder() : Folder(folder, problem);
+        if (!problem.isEmpty()) {
+            message.problem = {folder, problem};
+        } else if (!folder.isEmpty()) {
+            message.parts = MessageParts(files, file);
+        }
+    }
+    if (message.problem.isNone() && !(isMms(bytes) && message.smil.isEmpty())) {
+        parse(options, message);
+    }
+    return message;
+}
+
+Message readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options)
 {
     QByteArray bytes;
+    Message message;
     const QString problem = readFile(file, bytes);
-    return problem.isEmpty() ? readBytes(bytes, file, folder, options, message) : Problem{file, problem};
+    if (problem.isEmpty()) {
+        return readBytes(bytes, file, folder, options);
+    }
+    message.file = file;
+    message.problem = {file, problem};
+    return message;
+}
+
+QList<SmilSlide> firstSlides(const SmilSlideshow &show)
+{
+    QList<SmilSlide> slides;
+    qsizetype cues = 0;
+    for (int i = 0; i < qMin(show.count(), bounds::frames) && cues < bounds::cues; ++i) {
+        SmilSlide slide = show.slide(i);
+        cues += slide.cues.size();
+        slide.cues = slide.cues.mid(0, bounds::media);
+        slide.parts = slide.parts.mid(0, bounds::media);
+        slides.append(slide);
+    }
+    return slides;
 }

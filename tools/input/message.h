@@ -4,21 +4,9 @@
 #ifndef SMILTOOL_MESSAGE_H
 #define SMILTOOL_MESSAGE_H
 
-#include "parts.h"
+#include "input/messageparts.h"
 
-#include <smilparser/smilparser.h>
-
-/** A presentation as the library reads it, and what came with it. */
-struct Message {
-    QString file;
-    QByteArray bytes; ///< of the SMIL part alone
-    SmilDocument document;
-    QDomDocument dom; ///< what the library read it from, with the lines and all that the model leaves out
-    MmsMessage mms; ///< without parts when the file is no message as it is sent
-    Parts parts;
-};
-
-/** Why a message could not be read. */
+/** Why a file or the SMIL in it cannot be read. */
 struct Problem {
     QString of; ///< a file or a folder; null if there is no problem
     QString text;
@@ -30,16 +18,37 @@ struct Problem {
     QString toString() const;
 };
 
+/** A message as it came: its parts, and what the library reads of its SMIL. */
+struct Message {
+    QString file;
+    QByteArray smil; ///< the content of the SMIL part; empty when there is none
+    SmilParser::Outcome outcome = SmilParser::NotWellFormed; ///< that of reading it
+    SmilDocument document;
+    QDomDocument dom; ///< what the library read it from, with the lines and all that the model leaves out
+    MmsMessage mms; ///< only of a message as it is sent
+    MessageParts parts;
+    Problem problem;
+
+    /** Whether there is something to show. A whole message whose SMIL cannot be read still has its parts. */
+    bool isReadable() const { return problem.isNone() || (parts.areKnown() && !mms.parts.isEmpty()); }
+    /** As it is shown. To be kept: all is read anew at each call. */
+    SmilSlideshow slideshow() const;
+};
+
 /**
- * Reads @p file ("-" is standard input), a SMIL part or a message as it is sent, into @p message, with the library's @p
- * options. The other parts are those of the message, or else the files in @p folder unless that is empty. It is a
- * problem if the SMIL cannot be read, is not well formed or lacks smil, head or body, or if the folder cannot be read.
- * Of a whole message, the parts are there even if its SMIL is missing or cannot be read.
+ * Reads @p file ("-" is standard input), a SMIL part or a message as it is sent. The other parts are those of the
+ * message, or else the files in @p folder unless that is empty. A SMIL without smil, head or body is a problem, but a
+ * message as it is sent need not have any.
  */
-Problem readMessage(const QString &file, const QString &folder, SmilParser::ReadOptions options, Message &message);
+Message readMessage(const QString &file, const QString &folder,
+                    SmilParser::ReadOptions options = SmilParser::ClockDurations);
 
 /** The same of bytes that have been read from @p file. */
-Problem readBytes(const QByteArray &bytes, const QString &file, const QString &folder, SmilParser::ReadOptions options,
-                  Message &message);
+Message readBytes(const QByteArray &bytes, const QString &file, const QString &folder,
+                  SmilParser::ReadOptions options = SmilParser::ClockDurations);
+
+/** The first slides with the first media of each: bounds::frames and bounds::media of them, or less of a huge message.
+ */
+QList<SmilSlide> firstSlides(const SmilSlideshow &show);
 
 #endif

@@ -4,18 +4,10 @@
 #ifndef SMILTOOL_MMS_H
 #define SMILTOOL_MMS_H
 
+#include <smilparser/smilslideshow.h>
+
 #include <QtCore/QDateTime>
 #include <QtCore/QStringList>
-#include <QtCore/QVector>
-
-/** A part of a message; empty is what its headers do not give. The first three are as bareId(). */
-struct MmsPart {
-    QString name; ///< that of the content type, or else the file name of the disposition
-    QString id;
-    QString location;
-    QString type; ///< such as "image/jpeg", or "0x7b" for a number without a known name
-    QByteArray data;
-};
 
 /** A message as it is sent, of the content type application/vnd.wap.mms-message. */
 struct MmsMessage {
@@ -23,8 +15,9 @@ struct MmsMessage {
     QStringList to;
     QString subject;
     QDateTime date; ///< in UTC; invalid if the message has none
-    QVector<MmsPart> parts;
-    int smil = -1; ///< which of the parts is the presentation; -1 if none is
+    QString start; ///< a name of the part that is to be read first
+    QList<SmilPart> parts;
+    QList<QByteArray> data; ///< of each part
 };
 
 /** Whether the bytes are a message as it is sent, not SMIL. */

@@ -7,8 +7,8 @@
 #include <QtCore/QString>
 
 /**
- * Writes the file @p name. A file is replaced as a whole or not at all; a device, a pipe or a descriptor (/dev/stdout)
- * is written to. Returns why that failed, to be written after its name, or else nothing.
+ * Writes the file @p name. A file is replaced as a whole or not at all; a device or a pipe is
+ * written to. Returns why that failed, to be written after its name, or else nothing.
  */
 QString writeFile(const QString &name, const QByteArray &data);
 

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "check/findings.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+
+#include <algorithm>
+#include <iterator>
+
+// In the order of Finding.
+static const char *const names[] = {
+    "unread-measure",  "wrong-measure", "unknown-region", "unused-region",  "duplicate-region",
+    "missing-id",      "missing-src",   "empty-timeline", "blank-time",     "crowded-slide",
+    "nested-timeline", "no-smil",       "missing-part",   "duplicate-part", "unused-part",
+    "wrong-kind",      "lost",          "moved-top-size", "lost-in-body",   "lost-element",
+    "lost-attribute",  "changed-order"};
+static_assert(std::size(names) == std::size_t(Finding::ChangedOrder) + 1, "every finding has a name");
+
+static const int shownDetails = 3;
+
+static QString nameOf(Finding finding)
+{
+    return QLatin1String(names[int(finding)]);
+}
+
+QStringList findingNames()
+{
+    QStringList all;
+    for (const char *const name : names) {
+        all.append(QLatin1String(name));
+    }
+    return all;
+}
+
+QString excerpt(const QString &text)
+{
+    return quoted(shortened(text, bounds::quotation));
+}
+
+void Findings::add(Finding finding, int line, const QString &subject, const QString &detail)
+{
+    const auto [index, isNew] = indexes.try_emplace({finding, subject}, int(entries.size()));
+    if (isNew) {
+        entries.append({finding, line, subject, {}, 0});
+    }
+    Entry &entry = entries[index->second];
+    ++entry.count;
+    entry.line = qMin(entry.line, line);
+    if (!detail.isEmpty() && entry.details.size() <= shownDetails && !entry.details.contains(detail)) {
+        entry.details.append(detail);
+    }
+}
+
+QStringList Findings::lines(const QString &file, const QStringList &ignored) const
+{
+    QList<Entry> sorted = entries;
+    std::stable_sort(sorted.begin(), sorted.end(), [](const Entry &a, const Entry &b) { return a.line < b.line; });
+    QStringList lines;
+    for (const Entry &entry : std::as_const(sorted)) {
+        const bool isLost = entry.finding > Finding::Lost;
+        if (ignored.contains(nameOf(entry.finding)) || (isLost && ignored.contains(nameOf(Finding::Lost)))) {
+            continue;
+        }
+        const QString place = entry.line > 0 ? QLatin1Char(':') + QString::number(entry.line) : QString();
+        QString text = printable(file) + place + QLatin1String(": ") + entry.subject;
+        if (!entry.details.isEmpty()) {
+            text += QLatin1Char(' ') + entry.details.mid(0, shownDetails).join(QLatin1String(", "))
+                + (entry.details.size() > shownDetails ? QStringLiteral(", ...") : QString());
+        }
+        if (entry.count > 1) {
+            text += QStringLiteral(" (%1 times)").arg(entry.count);
+        }
+        lines.append(text + QLatin1String(" [") + nameOf(entry.finding) + QLatin1Char(']'));
+    }
+    return lines;
+}

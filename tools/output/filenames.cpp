@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The smilparser authors
+// SPDX-License-Identifier: MIT
+
+#include "output/filenames.h"
+#include "base/bounds.h"
+#include "base/escaping.h"
+#include "input/content.h"
+
+#include <QtCore/QMimeDatabase>
+#include <QtCore/QRegularExpression>
+
+#include <set>
+#include <string>
+
+/** The name without what may stand around it, which no file is called for. */
+static QString bare(QString name)
+{
+    static const QRegularExpression around(QStringLiteral("^\"?(cid:)?<?|>?\"?$"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    return name.remove(around);
+}
+
+static QString extensionOf(const QString &name)
+{
+    const int longest = 16;
+    const auto dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot > 0 && name.size() - dot <= longest ? name.mid(dot) : QString();
+}
+
+/** As much of the beginning as there is room for, and the end. */
+static QString fitted(const QString &beginning, const QString &end)
+{
+    const auto most = bounds::fileName - end.toUtf8().size();
+    QString kept = beginning.left(bounds::fileName);
+    while (kept.toUtf8().size() > most || (!kept.isEmpty() && kept.at(kept.size() - 1).isHighSurrogate())) {
+        kept.chop(1);
+    }
+    return kept + end;
+}
+
+QString safeName(const QString &name)
+{
+    std::u32string kept;
+    for (const char32_t c : name.toStdU32String()) { // with U+FFFD for half a surrogate pair
+        const bool begins = c != '.' && c != '-' && !QChar::isSpace(c);
+        if (c == '/' || c == '\\') {
+            kept.clear();
+        } else if (!needsEscaping(c) && (begins || !kept.empty())) {
+            kept += c;
+        }
+    }
+    const QString safe = QString::fromStdU32String(kept);
+    const QString extension = extensionOf(safe);
+    return fitted(safe.chopped(extension.size()), extension);
+}
+
+/** The same safe name with a number before its extension: "photo-2.jpg". */
+static QString numberedName(const QString &safe, int number)
+{
+    const QString extension = extensionOf(safe);
+    return fitted(safe.chopped(extension.size()), QStringLiteral("-%1%2").arg(number).arg(extension));
+}
+
+static QString nameOf(int part, const Message &message)
+{
+    const QString safe = safeName(bare(message.parts.at(part).name));
+    const QString type = recognisedType(message.mms.data.at(part));
+    const QString extension = QMimeDatabase().mimeTypeForName(type).preferredSuffix();
+    return !safe.isEmpty()    ? safe
+        : extension.isEmpty() ? QString::number(part + 1)
+                              : QStringLiteral("%1.%2").arg(part + 1).arg(extension);
+}
+
+QVector<QString> fileNames(const Message &message, const QStringList &srcs)
+{
+    QVector<QString> names(message.parts.size());
+    std::set<QString> taken; // in no letter case: the cards of phones know none
+    const auto give = [&](int part, const QString &name) {
+        const bool isFree = taken.insert(name.toCaseFolded()).second;
+        names[part] = isFree ? name : QString();
+        return isFree;
+    };
+    for (const QString &src : srcs) {
+        const int part = message.parts.find(src);
+        const QString name = bare(src);
+        if (part >= 0 && names.at(part).isEmpty() && !name.isEmpty() && safeName(name) == name) {
+            give(part, name);
+        }
+    }
+    int number = 1; // for all names: none is tried twice, however many parts have names that differ at the end only
+    for (int part = 0; part < int(names.size()); ++part) {
+        const QString name = names.at(part).isEmpty() ? nameOf(part, message) : QString();
+        if (!name.isEmpty() && !give(part, name)) {
+            while (!give(part, numberedName(name, ++number))) { }
+        }
+    }
+    return names;
+}
