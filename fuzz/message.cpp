@@ -4,7 +4,6 @@
 #include "base/escaping.h"
 #include "commands/commands.h"
 #include "output/filenames.h"
-#include "output/safename.h"
 #include "require.h"
 #include "json/json.h"
 

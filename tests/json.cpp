@@ -46,7 +46,10 @@ void JsonOutput::golden()
     QBuffer out;
     out.open(QIODevice::WriteOnly);
     showJson(readBytes(bytes, QStringLiteral("a\u0000b"), QString()), out);
-    const QJsonObject json = QJsonDocument::fromJson(out.data()).object();
+    QJsonObject json = QJsonDocument::fromJson(out.data()).object();
+    for (const char *const ofTheXmlReader : {"error", "column"}) { // each Qt has its own
+        json.remove(QLatin1String(ofTheXmlReader));
+    }
     QFile golden(QFINDTESTDATA("golden/") + QLatin1String(QTest::currentDataTag()) + QLatin1String(".json"));
     QVERIFY(golden.open(QIODevice::ReadOnly));
     const QJsonObject expected = QJsonDocument::fromJson(golden.readAll()).object();

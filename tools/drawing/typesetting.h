@@ -16,8 +16,8 @@ double width(const QString &text);
 QString elided(const QString &text, double most);
 
 /**
- * The text, printable, in lines that are no longer than @p most, except that each has one letter at least. "\u2026" ends
- * the last one when there are more than @p count.
+ * The text, printable, in lines that are no longer than @p most, except that each has one letter at least. "\u2026"
+ * ends the last one when there are more than @p count.
  */
 QStringList wrapped(const QString &text, double most, int count);
 
