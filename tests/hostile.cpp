@@ -118,7 +118,6 @@ void Hostile::documents_data()
 
     whole("quoted ends of tags", head + times(600, "<x a='>' b=''/>") + tail);
     cut("quoted ends of empty tags", head + times(510, "<x a='/>' b=''>"), times(600, "<x a='/>' b=''>"));
-    whole("quoted ends of end tags", head + times(100, "<x a='</x>' b=''>") + tail);
     whole("tags in tags", head + times(600, "<x <y/>") + tail);
     whole("plain comments and instructions", head + times(600, "<!--x--><?p x?><x/>") + tail);
     whole("tags in other markup", head + times(600, "<!-- <x> --><?p <x>?><![CDATA[<x>]]>") + tail);
@@ -134,7 +133,6 @@ void Hostile::documents_data()
 
     cut("document type with identifiers", "<!DOCTYPE smil PUBLIC \"[p]>\" '>[u'>" + head + times(510, "<x>"), "<x>");
     whole("document type with a bracket in an identifier", "<!DOCTYPE smil SYSTEM '[u'>" + head + tail);
-    whole("document type without end", "<!DOCTYPE smil SYSTEM 'u" + times(600, "<x>"));
     odd("internal subset", "<!DOCTYPE smil", "", "[<!ENTITY a 'x'>]", '>' + head + tail);
     odd("empty internal subset", "<!DOCTYPE smil ", "", "[]", '>' + head + tail);
     odd("internal subset after an identifier", "<!DOCTYPE smil SYSTEM \"'\" ", "",
@@ -162,11 +160,9 @@ void Hostile::documents_data()
     cut("reference that begins with a digit", typed + '&', "1;" + tail);
     odd("reference with a sign", head, "&", "a\u00d7;", tail);
     cut("reference outside", head + tail + '&', "@;");
-    whole("reference that does not end", head + "&1 " + tail);
     whole("reference in a reference", head + "&a&b;" + tail);
     whole("ampersands elsewhere",
           "<!DOCTYPE smil SYSTEM '&@;'>" + head + "<!-- &@; --><![CDATA[&@;]]><?p &@;?>" + tail);
-    whole("ampersand", head + times(100000, "& ") + tail);
     whole("references to characters", head + "&#65;&#x41;&amp;&#" + times(5000, "0") + "65;" + tail);
     whole("blanks in a tag", head + "<x" + times(5000, " \t\r\n") + "a=''/>" + tail);
     for (const char *const character : {"", "\x01", "\xef\xbf\xbe", "\xef\xbf\xbf"}) {

@@ -1,19 +1,19 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "cases.h"
 #include "messages.h"
 
 #include <smilparser/smilslideshow.h>
-
-#include <QtTest/QtTest>
 
 class Showing : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void slides_data();
+    void slides_data() { addCases("slideshows.txt"); }
     void slides();
+    void names();
     void lengths();
     void titles_data();
     void titles();
@@ -26,7 +26,6 @@ private Q_SLOTS:
 };
 
 using Parts = QList<SmilPart>;
-Q_DECLARE_METATYPE(Parts)
 
 static SmilPart part(const char *type, const char *name, const char *contentId = nullptr,
                      const char *location = nullptr)
@@ -62,81 +61,33 @@ static QString seen(const SmilSlideshow &show)
     return slides.join(QStringLiteral("; ")).replace(QLatin1String("is -1"), QLatin1String("missing"));
 }
 
-void Showing::slides_data()
-{
-    const SmilPart photo = part("image/jpeg", "a.jpg");
-    const SmilPart words = part("text/plain", "b.txt");
-    const SmilPart sound = part("audio/amr", "c.amr");
-    const SmilPart film = part("video/3gpp", "d.3gp");
-    const SmilPart card = part("text/x-vcard", "e.vcf");
-    const SmilPart text = part("application/smil", "s.smil");
-    const QByteArray one = smil("<par dur='3s'><img src='a.jpg'/></par>");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<Parts>("parts");
-    QTest::addColumn<QString>("shows");
-    const auto row = [](const char *name, const QByteArray &bytes, const Parts &parts, const char *shows) {
-        QTest::newRow(name) << bytes << parts << QString::fromLatin1(shows);
-    };
-
-    row("no SMIL, no parts", "", {}, "");
-    row("no SMIL", "", {photo, words, sound}, "0-5 img a.jpg is 0, text b.txt is 1, audio c.amr is 2");
-    row("no SMIL, two pictures", "", {photo, words, photo, words},
-        "0-5 img a.jpg is 0, text b.txt is 1; 5-10 img a.jpg is 2, text b.txt is 3");
-    row("sounds come last", "", {sound, photo}, "0-5 img a.jpg is 1, audio c.amr is 0");
-    row("a film has a sound", "", {film, sound, words}, "0-5 video d.3gp is 0; 5-10 text b.txt is 2, audio c.amr is 1");
-    row("a sound of no known length", "", {sound}, "0-5 audio c.amr is 0");
-    row("broken SMIL", "<smil><body><par><img src='fish & chips.jpg'/>", {text, photo}, "0-5 img a.jpg is 1");
-    row("SMIL without a body", "<smil><head/></smil>", {photo}, "0-5 img a.jpg is 0");
-    row("SMIL without a head", "<smil><body><img src='a.jpg'/></body></smil>", {photo}, "0-5 img a.jpg is 0");
-    row("SMIL in which nothing plays", smil("<par dur='9s'><img src='a.jpg' end='0s'/></par>"), {photo},
-        "0-5 img a.jpg is 0");
-    row("all is named", smil("<par dur='3s'><img src='a.jpg'/><text src='b.txt'/></par>"), {text, photo, words},
-        "0-3 img a.jpg is 1, text b.txt is 2");
-    row("a part is missing", one, {}, "0-3 img a.jpg missing");
-    row("parts that nobody names", one, {photo, card, words},
-        "0-3 img a.jpg is 0; 3-8 ref e.vcf is 1, text b.txt is 2");
-    row("a part that never plays", smil("<par dur='3s'><img src='a.jpg'/><text src='b.txt' begin='4s'/></par>"),
-        {photo, words}, "0-3 img a.jpg is 0; 3-8 text b.txt is 1");
-    row("two parts of one name", one, {photo, photo}, "0-3 img a.jpg is 0; 3-8 img a.jpg is 1");
-    row("another SMIL part", one, {text, photo, text}, "0-3 img a.jpg is 1");
-    row("the SMIL refers to itself", smil("<par dur='3s'><ref src='s.smil'/></par>"), {text}, "0-3 ref s.smil is 0");
-    row("Content-ID first", one, {part("", "a.jpg"), part("", "", nullptr, "a.jpg"), part("", "", "a.jpg")},
-        "0-3 img a.jpg is 2; 3-8 ref a.jpg is 0; 8-13 ref a.jpg is 1");
-    row("Content-Location next", one, {part("", "a.jpg"), part("", "", nullptr, "a.jpg")},
-        "0-3 img a.jpg is 1; 3-8 ref a.jpg is 0");
-    row("what is left is called", "", {part("", "c", "<a>", "b"), part("", "c", nullptr, "b"), part("", "")},
-        "0-5 ref <a> is 0; 5-10 ref b is 1; 10-15 ref  is 2");
-    row("no time is blank",
-        smil("<par dur='3s'><img src='a'/></par><par dur='3s' begin='2s'><img src='b'/></par>"
-             "<par dur='4s'/>"),
-        {}, "0-5 img a missing; 5-12 img b missing");
-    row("the body outlasts", "<smil><body dur='9s'><par dur='3s'><img src='a.jpg'/></par></body></smil>", {words},
-        "0-9 img a.jpg missing; 9-14 text b.txt is 0");
-    row("infinite", smil("<par dur='1e308s'><img src='a'/></par><par dur='1e308s'><img src='b'/></par>"),
-        {photo, photo},
-        "0-1e+308 img a missing; 1e+308-inf img b missing; inf-inf img a.jpg is 0; inf-inf img a.jpg is 1");
-    const QByteArray upsideDown =
-        "<layout><root-layout width='200' height='200'/><region id='I' top='50%' height='50%'/>"
-        "<region id='T' height='50%'/><region id='L' width='50%' height='50%'/></layout>";
-    row("text above the picture",
-        smil("<par><audio src='c'/><img src='a' region='I'/><text src='b' region='T'/></par>", upsideDown), {},
-        "0-5 text b missing, img a missing, audio c missing");
-    row("from left to right",
-        smil("<par><img src='a' region='T'/><img src='a2' region='T'/><text src='b' region='L'/>"
-             "</par>",
-             upsideDown),
-        {}, "0-5 img a missing, text b missing, img a2 missing");
-}
-
 void Showing::slides()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(Parts, parts);
+    QFETCH(QString, smil);
+    QFETCH(QString, parts);
     QFETCH(QString, shows);
-    const SmilSlideshow show(bytes, parts);
-    QCOMPARE(seen(show), shows);
+    Parts all;
+    for (const QString &typeAndName : parts.split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
+        all << part(qPrintable(typeAndName.section(u' ', 0, 0)), qPrintable(typeAndName.section(u' ', 1)));
+    }
+    const SmilSlideshow show(smil.toUtf8(), all);
+    COMPARE_SEEN(QStringLiteral("shows ") + smil, seen(show), shows);
     QCOMPARE(show.duration(), show.count() ? show.slide(show.count() - 1).end : 0.0);
     QVERIFY(show.slide(-1) == SmilSlide() && show.slide(show.count()) == SmilSlide());
+}
+
+/** A Content-ID comes first, then a Content-Location, then a name. */
+void Showing::names()
+{
+    const QByteArray one = smil("<par dur='3s'><img src='a.jpg'/></par>");
+    const SmilPart location = part("", "", nullptr, "a.jpg");
+    QCOMPARE(seen(SmilSlideshow(one, {part("", "a.jpg"), location, part("", "", "a.jpg")})),
+             QStringLiteral("0-3 img a.jpg is 2; 3-8 ref a.jpg is 0; 8-13 ref a.jpg is 1"));
+    QCOMPARE(seen(SmilSlideshow(one, {part("", "a.jpg"), location})),
+             QStringLiteral("0-3 img a.jpg is 1; 3-8 ref a.jpg is 0"));
+    const Parts left = {part("", "c", "<a>", "b"), part("", "c", nullptr, "b"), part("", "")};
+    QCOMPARE(seen(SmilSlideshow(QByteArray(), left)),
+             QStringLiteral("0-5 ref <a> is 0; 5-10 ref b is 1; 10-15 ref  is 2"));
 }
 
 /** How long parts take is asked of media that state no time, and then of each part that is left. */
