@@ -109,7 +109,7 @@ void Hostile::documents_data()
     cut("deep in long tags", head + times(100, "<x>") + times(103, longTag + "/>"), times(200, longTag + "/>"));
     cut("deep references", head + times(100, "<x>") + times(10242, "&lt;"), times(10000, "&lt;"));
     cut("too deep and long for 32 bits", head + times(500, "<x>") + times(4300000, "t"), times(500, "</x>") + tail);
-    cut("attributes", head + "<x a='>' b=\"&lt;\"" + numbered(62, "c#=''") + "d='", "'/>" + tail);
+    cut("attributes", head + "<x a='>' b=\"&lt;\"" + numbered(62, " c#=''") + " d='", "'/>" + tail);
     cut("quoted ends of empty tags", head + times(510, "<x a='/>' b=''>"), times(600, "<x a='/>' b=''>"));
     cut("end tags in other markup",
         head + "<!----><![CDATA[]]><?p?>" + times(200, "<x><!-- </x> --><!--> </x>--><!---> </x>-->")
