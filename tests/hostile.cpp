@@ -90,8 +90,9 @@ void Hostile::documents_data()
     whole("as deep and long as may be", head + times(29, "<x>") + times(100000, "<x/>") + times(29, "</x>") + tail);
     whole("all that may be in tags",
           head + "<x" + numbered(64, " a#=''") + "/>" + numbered(600, "<x a#='' b='/'/><x a='>' b=''/>") + '<' + name
-              + ' ' + name + "='" + times(90000, "n") + "'/><?" + name + "?><x " + times(2048, "\U0001d48f") + "=''/><x"
-              + times(5000, " \t\r\n") + "a=''/>" + tail);
+              + ' ' + name + "='" + times(90000, "n") + "'/><?" + name + "?><x" + times(5000, " \t\r\n") + "a=''/>"
+              + tail);
+    whole("name of four bytes each", head + "<x " + times(2048, "\U0001d48f") + "=''/>" + tail);
     whole("tags in other markup",
           head + times(600, "<!-- <x> --><?p <x>?><![CDATA[<x>]]>") + times(600, "<!--x--><?p x?><x/>") + tail);
     whole("references",
@@ -143,7 +144,10 @@ void Hostile::documents()
     QFETCH(QByteArray, beyond);
     QFETCH(bool, isRead);
     const QString expected = toldByReaderAlone(within);
-    QVERIFY2(isRead != isRefused(expected), "what is left reads as if it were complete, or the test is no good");
+    // Without anything beyond the limits, Qt 5 refuses and reads other texts than Qt 6.
+    const bool differs = beyond.isEmpty() && QT_VERSION < QT_VERSION_CHECK(6, 0, 0);
+    QVERIFY2(differs || isRead != isRefused(expected),
+             "what is left reads as if it were complete, or the test is no good");
     COMPARE_SEEN(QStringLiteral("reads ") + QString::fromUtf8(within + beyond), read(within + beyond), expected);
 }
 
