@@ -17,7 +17,7 @@ private Q_SLOTS:
     void outcomes();
     void decodedText_data();
     void decodedText();
-    void surrogates_data();
+    void surrogates_data() { addCases("surrogates.txt"); }
     void surrogates();
 };
 
@@ -75,99 +75,66 @@ void Hostile::documents_data()
 {
     QTest::addColumn<QByteArray>("within"); // the limits: what the reader gets
     QTest::addColumn<QByteArray>("beyond"); // what follows that
-    QTest::addColumn<QByteArray>("good"); // what is read without what is beyond, if that makes the difference
+    QTest::addColumn<bool>("isRead");
     const auto whole = [](const char *name, const QByteArray &text) {
-        QTest::newRow(name) << text << QByteArray() << QByteArray();
+        QTest::newRow(name) << text << QByteArray() << true;
     };
-    const auto cut = [](const char *name, const QByteArray &within, const QByteArray &beyond) {
-        QTest::newRow(name) << within << beyond << QByteArray();
+    const auto cut = [](const QByteArray &name, const QByteArray &within, const QByteArray &beyond) {
+        QTest::newRow(name.constData()) << within << beyond << false;
     };
-    // With both parts of the odd text, the document is beyond the limits. Without it, it is read.
-    const auto odd = [](const char *name, const QByteArray &before, const QByteArray &oddWithin,
-                        const QByteArray &oddBeyond, const QByteArray &after) {
-        QTest::newRow(name) << before + oddWithin << oddBeyond + after << before + after;
-    };
+    const QByteArray name = times(4096, "n"); // as long as one may be
+    const QByteArray longTag = "<x a='" + times(392, "y") + '\'';
+    const QByteArray typed = "<!DOCTYPE smil SYSTEM 'u'>" + head;
 
-    cut("open", times(512, "<a>"), times(349000, "<a>"));
-    cut("in the body", "<smil>\n<head/><body>" + times(510, "<x>\n"), times(200000, "<x>\n"));
-    cut("second root", head + tail + times(512, "<x>"), times(200000, "<x>"));
-    odd("levels", head + times(510, "<x>"), "", "<x/>", times(510, "</x>") + tail);
-    cut("in and out", head + times(509, "<x>") + times(300, "<x></x><x/>") + "<x>", "<x>");
-    const QByteArray longTag = "<x a='" + times(300, "y") + '\'';
-    cut("in and out of long tags",
-        head + times(509, "<x>") + times(3, longTag + "></x" + times(300, " ") + '>' + longTag + "/>") + "<x>", "<x>");
-    whole("wide", head + times(250000, "<x/>") + tail);
-    whole("more ends than levels", "<smil><head/></smil></smil></x" + times(300, " ") + '>' + times(600, "<x>"));
+    whole("as deep as may be", head + times(510, "<x>") + times(510, "</x>") + tail);
+    whole("as deep and long as may be", head + times(29, "<x>") + times(100000, "<x/>") + times(29, "</x>") + tail);
+    whole("all that may be in tags",
+          head + "<x" + numbered(64, " a#=''") + "/>" + numbered(600, "<x a#='' b='/'/><x a='>' b=''/>") + '<' + name
+              + ' ' + name + "='" + times(90000, "n") + "'/><?" + name + "?><x" + times(5000, " \t\r\n") + "a=''/>"
+              + tail);
+    whole("name of four bytes each", head + "<x " + times(2048, "\U0001d48f") + "=''/>" + tail);
+    whole("tags in other markup",
+          head + times(600, "<!-- <x> --><?p <x>?><![CDATA[<x>]]>") + times(600, "<!--x--><?p x?><x/>") + tail);
+    whole("references",
+          typed + "<!-- &@; --><![CDATA[&@;]]><?p &@;?>&\u00e9;&_-.1\u00b7;&#65;&#x41;&amp;&#" + times(5000, "0")
+              + "65;" + tail);
+
+    cut("too deep", "<smil>\n<head/><body>" + times(510, "<x>\n"), times(200000, "<x>\n"));
+    cut("in and out",
+        head + times(509, "<x>") + times(300, "<x></x><x/>")
+            + times(3, longTag + "></x" + times(300, " ") + '>' + longTag + "/>") + "<x>",
+        "<x>");
     cut("deep on average, to the last byte", head + times(61, "<x>") + times(66480, "t") + "</x>",
         times(60, "</x>") + tail);
     cut("deep in short tags", head + times(100, "<x>") + times(10242, "<x/>"), times(10000, "<x/>"));
-    cut("deep in long tags", head + times(100, "<x>") + times(103, "<x a='" + times(392, "y") + "'/>"),
-        times(200, "<x a='" + times(392, "y") + "'/>"));
+    cut("deep in long tags", head + times(100, "<x>") + times(103, longTag + "/>"), times(200, longTag + "/>"));
     cut("deep references", head + times(100, "<x>") + times(10242, "&lt;"), times(10000, "&lt;"));
-    whole("deep and long", head + times(29, "<x>") + times(100000, "<x/>") + times(29, "</x>") + tail);
     cut("too deep and long for 32 bits", head + times(500, "<x>") + times(4300000, "t"), times(500, "</x>") + tail);
-
-    const QByteArray full = "<x" + numbered(64, " a#=''"); // as many attributes as there may be
-    odd("attributes", head + full, " b='", "'", "/>" + tail);
-    cut("one attribute often", head + "<x" + times(64, " a=''") + " a='", '\'' + times(200000, " a=''") + "/>" + tail);
-    cut("attributes without blanks", head + "<x " + numbered(63, "a#=''") + "a=''b='", "'/>" + tail);
-    cut("attributes after a quoted end", head + "<x a='>'" + numbered(63, " a#=''") + " b='",
-        '\'' + times(200000, " b=''") + "/>" + tail);
-    cut("attributes after a reference", head + "<x a='&lt;'" + numbered(63, " a#=''") + " b=\"", "\"/>" + tail);
-    whole("attributes of short tags", head + numbered(600, "<x a#='' b='/'/>") + tail);
-
-    whole("quoted ends of tags", head + times(600, "<x a='>' b=''/>") + tail);
+    cut("attributes", head + "<x a='>' b=\"&lt;\"" + numbered(62, " c#=''") + " d='", "'/>" + tail);
     cut("quoted ends of empty tags", head + times(510, "<x a='/>' b=''>"), times(600, "<x a='/>' b=''>"));
-    whole("tags in tags", head + times(600, "<x <y/>") + tail);
-    whole("plain comments and instructions", head + times(600, "<!--x--><?p x?><x/>") + tail);
-    whole("tags in other markup", head + times(600, "<!-- <x> --><?p <x>?><![CDATA[<x>]]>") + tail);
-    cut("end tags in other markup", head + times(250, "<x><!-- </x> --><?p </x>?><![CDATA[</x>]]>") + times(260, "<x>"),
-        times(600, "<x>"));
-    cut("comments that begin like their ends", head + times(200, "<x><!--> </x>--><!---> </x>-->") + times(310, "<x>"),
+    cut("end tags in other markup",
+        head + "<!----><![CDATA[]]><?p?>" + times(200, "<x><!-- </x> --><!--> </x>--><!---> </x>-->")
+            + times(200, "<x><?p > </x>?><![CDATA[]] > </x>]]>") + times(110, "<x>"),
         "<x>");
-    cut("ends of other markup within", head + times(200, "<x><?p > </x>?><![CDATA[]] > </x>]]>") + times(310, "<x>"),
-        "<x>");
-    cut("short markup", head + "<!----><![CDATA[]]><?p?>" + times(510, "<x>"), "<x>");
-    whole("markup without end", head + "<!--" + times(600, "<x>"));
-    whole("declaration of no kind", head + "<![CDAT/A[x]]>" + tail);
-
+    cut("markup without end", head + "<!--" + times(600, "<x>"), "");
     cut("document type with identifiers", "<!DOCTYPE smil PUBLIC \"[p]>\" '>[u'>" + head + times(510, "<x>"), "<x>");
-    whole("document type with a bracket in an identifier", "<!DOCTYPE smil SYSTEM '[u'>" + head + tail);
-    odd("internal subset", "<!DOCTYPE smil", "", "[<!ENTITY a 'x'>]", '>' + head + tail);
-    odd("empty internal subset", "<!DOCTYPE smil ", "", "[]", '>' + head + tail);
-    odd("internal subset after an identifier", "<!DOCTYPE smil SYSTEM \"'\" ", "",
-        "[<!ATTLIST x a CDATA '" + times(1023, "x") + "'>]", '>' + head + tail);
-    cut("internal subset within the root", head + "<!DOCTYPE smil ", "[<!ENTITY a 'x'>]>" + tail);
-    whole("other declaration", "<!doctype smil []><smil/>");
-
-    odd("name", head + '<', "", "n", times(4096, "n") + "/>" + tail);
-    odd("name of an attribute", head + "<x ", "", "n", times(4096, "n") + "=''/>" + tail);
-    odd("name of an instruction", head + "<?", "", "n", times(4096, "n") + "?>" + tail);
-    odd("name of the document type", "<!DOCTYPE ", "", "n", times(4096, "n") + '>' + head + tail);
-    cut("name of an end tag", head + "</", 'n' + times(4096, "n") + '>');
-    cut("name of a reference", head + '&', 'n' + times(4096, "n") + ';' + tail);
-    whole("long value", "<smil><head title='" + times(90000, "n") + "'/><body/></smil>");
-    whole("name in three bytes", head + "<x " + times(4096, "\u4e00") + "=''/>" + tail);
-    cut("name in three bytes, too long", head + "<x ", times(4096, "\u4e00") + "a\" =''/>" + tail);
-    whole("name in four bytes", head + "<x " + times(2048, "\U0001d48f") + "=''/>" + tail);
-    cut("name in four bytes, too long", head + "<x ", times(2048, "\U0001d48f") + "a\" =''/>" + tail);
-
-    const QByteArray typed = "<!DOCTYPE smil SYSTEM 'u'>" + head;
-    whole("reference", typed + "&\u00e9;&_-.1\u00b7;" + tail);
-    whole("reference with a colon", typed + "&a:;" + tail);
-    odd("reference in an attribute", typed + "<x a='&lt;", "&", "@;", "'/>" + tail);
-    odd("reference that is no name", typed, "&", "@;", tail);
-    cut("reference that begins with a digit", typed + '&', "1;" + tail);
-    odd("reference with a sign", head, "&", "a\u00d7;", tail);
+    for (const QByteArray &before : {QByteArray("<!DOCTYPE smil SYSTEM \"'\" "), head + "<!DOCTYPE smil "}) {
+        cut("internal subset: " + before, before, "[<!ENTITY a 'x'>]>" + head + tail);
+    }
+    for (const char *const before : {"<", "<x ", "<?", "</", "&", "<!DOCTYPE "}) {
+        cut(QByteArray("long name: ") + before, (*before == '<' && before[1] == '!' ? "" : head) + before,
+            'n' + name + "/>" + tail);
+    }
+    cut("long name of four bytes each", head + "<x ", times(2048, "\U0001d48f") + "a\" =''/>" + tail);
+    for (const char *const reference : {"@;", "1;", "a\u00d7;"}) {
+        cut(QByteArray("reference: ") + reference, typed + '&', reference + tail);
+    }
+    cut("reference in an attribute", typed + "<x a='&lt;&", "@;'/>" + tail);
     cut("reference outside", head + tail + '&', "@;");
-    whole("reference in a reference", head + "&a&b;" + tail);
-    whole("ampersands elsewhere",
-          "<!DOCTYPE smil SYSTEM '&@;'>" + head + "<!-- &@; --><![CDATA[&@;]]><?p &@;?>" + tail);
-    whole("references to characters", head + "&#65;&#x41;&amp;&#" + times(5000, "0") + "65;" + tail);
-    whole("blanks in a tag", head + "<x" + times(5000, " \t\r\n") + "a=''/>" + tail);
-    for (const char *const character : {"", "\x01", "\xef\xbf\xbe", "\xef\xbf\xbf"}) {
-        QTest::addRow("after the root: U+%s", QByteArray(character).toHex().constData())
-            << head + tail + (*character ? QByteArray(character) : QByteArray(1, '\0')) << QByteArray() << QByteArray();
+    cut("reference that does not end", head + "&1 " + tail, "");
+    cut("reference with a colon", typed + "&a:;" + tail, "");
+    for (const QByteArray &character : {QByteArray(1, '\0'), QByteArray("\x01"), QByteArray("\xef\xbf\xbf")}) {
+        cut("after the root: " + character.toHex(), head + tail + character, "");
     }
 }
 
@@ -175,12 +142,13 @@ void Hostile::documents()
 {
     QFETCH(QByteArray, within);
     QFETCH(QByteArray, beyond);
-    QFETCH(QByteArray, good);
-    check(within + beyond, within);
-    if (!good.isNull()) {
-        check(good, good);
-        QVERIFY2(!isRefused(read(good)), "what is within the limits is refused");
-    }
+    QFETCH(bool, isRead);
+    const QString expected = toldByReaderAlone(within);
+    // Without anything beyond the limits, Qt 5 refuses and reads other texts than Qt 6.
+    const bool differs = beyond.isEmpty() && QT_VERSION < QT_VERSION_CHECK(6, 0, 0);
+    QVERIFY2(differs || isRead != isRefused(expected),
+             "what is left reads as if it were complete, or the test is no good");
+    COMPARE_SEEN(QStringLiteral("reads ") + QString::fromUtf8(within + beyond), read(within + beyond), expected);
 }
 
 void Hostile::encodings_data()
@@ -301,30 +269,6 @@ void Hostile::decodedText()
     QVERIFY2(isRefused(read(declaration + head + times(600, "<x>"), SmilParser::DecodedText)), "600 levels are read");
     const QByteArray utf16 = encoded(QString::fromLatin1(declaration + head + tail), markedUtf16);
     QVERIFY2(isRefused(read(utf16, SmilParser::DecodedText)), "UTF-16 is read as if it were UTF-8");
-}
-
-void Hostile::surrogates_data()
-{
-    const QChar high(0xd83c);
-    const QString low(QChar(0xdf0a));
-    const QString unknown(QChar(QChar::ReplacementCharacter));
-    const QString mark(QChar(QChar::ByteOrderMark));
-    QTest::addColumn<QString>("inside");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("a pair") << high + low << ""
-                            << "" << high + low;
-    QTest::newRow("a high one") << QString(high) << ""
-                                << "" << unknown;
-    QTest::newRow("two high ones") << QString(2, high) << ""
-                                   << "" << unknown + unknown;
-    QTest::newRow("a low one") << low << ""
-                               << "" << unknown;
-    QTest::newRow("a high one at the end") << high + low << "" << QString(high) << QString();
-    QTest::newRow("byte order mark") << mark << ""
-                                     << "" << mark;
-    QTest::newRow("second byte order mark") << "a" << mark << "" << QString();
 }
 
 // Half a surrogate pair is no character either: Qt 6.4 and 6.8 make it "?", and Qt 6.11 crashes on it. Qt 6 would drop

@@ -89,9 +89,9 @@ private:
     }
     static QString of(const SmilLayout &layout)
     {
-        const QString root = part("root-layout", size(layout.rootLayoutWidth, layout.rootLayoutHeight));
-        const QString top = part("topLayout", size(layout.topLayoutWidth, layout.topLayoutHeight));
-        return part("layout", QString(), root + top + of(layout.regions));
+        return part("layout", QString(),
+                    part("root-layout", size(layout.rootLayoutWidth, layout.rootLayoutHeight))
+                        + part("topLayout", size(layout.topLayoutWidth, layout.topLayoutHeight)) + of(layout.regions));
     }
     static QString of(const SmilRegion &region)
     {

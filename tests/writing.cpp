@@ -16,7 +16,6 @@ private Q_SLOTS:
     void texts();
     void edits_data();
     void edits();
-    void unknownMedia();
     void again();
     void xml_data() { addCases("xml.txt"); }
     void xml();
@@ -24,13 +23,6 @@ private Q_SLOTS:
     void readBack_data() { addCases("reading.txt"); }
     void readBack();
 };
-
-/** Whether no copy was made of the list, other than one that shares its records. */
-template<typename Record>
-static bool isShared(const QList<Record> &one, const QList<Record> &other)
-{
-    return one.isEmpty() || &one.at(0) == &other.at(0);
-}
 
 static void checkWhole(const SmilDocument &model, const QString &expected)
 {
@@ -47,24 +39,16 @@ static void checkWhole(const SmilDocument &model, const QString &expected)
     COMPARE_SEEN(writes + QStringLiteral(" a second time"), ModelDump::of(dom), expected);
     const SmilDocument &held = parser.parse(); // finds no input, so that the model stays
     QVERIFY2(held == model, qPrintable(writes + QStringLiteral(" has another model then: ") + ModelDump::of(held)));
-    const QString shared = QStringLiteral("shared, not copied: nodes %1, metas %2, regions %3");
-    COMPARE_SEEN(writes + QStringLiteral(" and looks at the lists then"),
-                 shared.arg(isShared(held.body.root.children, model.body.root.children))
-                     .arg(isShared(held.header.metas, model.header.metas))
-                     .arg(isShared(held.header.layout.regions, model.header.layout.regions)),
-                 shared.arg(true).arg(true).arg(true));
+    QVERIFY2(model.body.root.children.isEmpty() || &held.body.root.children.at(0) == &model.body.root.children.at(0),
+             "the nodes are copied");
 }
 
-/** What was rendered, which the host may attach where it likes. */
-static QString piece(const QDomElement &element)
-{
-    return element.parentNode().isNull() ? ModelDump::of(element)
-                                         : QStringLiteral("attached: ") + ModelDump::of(element);
-}
-
+/** What is rendered by itself is the same, and the host may attach it where it likes. */
 static void checkPieces(SmilDocument model, const QString &expected)
 {
-    const QString renders = QStringLiteral("renders the %1 of ") + ModelDump::of(model);
+    const auto piece = [](const QDomElement &element) {
+        return (element.parentNode().isNull() ? QString() : QStringLiteral("attached: ")) + ModelDump::of(element);
+    };
     SmilParser parser((QByteArray()));
     const QString head = piece(parser.render(model.header));
     const QString body = piece(parser.render(model.body));
@@ -72,10 +56,11 @@ static void checkPieces(SmilDocument model, const QString &expected)
     for (SmilNode &node : model.body.root.children) {
         nodes += piece(parser.render(node));
     }
-    COMPARE_SEEN(renders.arg(QStringLiteral("whole")), piece(parser.render(model)), expected);
-    COMPARE_SEEN(renders.arg(QStringLiteral("halves")), QStringLiteral("<smil>%1%2</smil>").arg(head, body), expected);
-    COMPARE_SEEN(renders.arg(QStringLiteral("nodes")), nodes, body.mid(6).chopped(nodes.isEmpty() ? 1 : 7));
-    COMPARE_SEEN(renders.arg(QStringLiteral("layout")), piece(parser.render(model.header.layout)),
+    const QString renders = QStringLiteral("renders pieces of ") + ModelDump::of(model);
+    COMPARE_SEEN(renders, piece(parser.render(model)), expected);
+    COMPARE_SEEN(renders, QStringLiteral("<smil>%1%2</smil>").arg(head, body), expected);
+    COMPARE_SEEN(renders, nodes, body.mid(6).chopped(nodes.isEmpty() ? 1 : 7));
+    COMPARE_SEEN(renders, piece(parser.render(model.header.layout)),
                  head.mid(head.indexOf(QStringLiteral("<layout>"))).chopped(7));
 }
 
@@ -103,14 +88,8 @@ void Writing::edits_data()
         QTest::newRow(name) << edit << QString::fromLatin1(model) << document;
     };
     const char *const head = "<head><layout><root-layout/></layout></head>";
-    row("none", "<body/>", head, "<body/>", [](SmilDocument &) {});
     row("title", "<head title='T'/><body/>", "<head title='T'><layout><root-layout/></layout></head>", "<body/>",
         [](SmilDocument &m) { m.header = SmilHeader(QStringLiteral("T")); });
-    row("metas and regions", "<head><meta/><layout><region/></layout></head><body/>",
-        "<head><meta/><layout><root-layout/><region/></layout></head>", "<body/>", [](SmilDocument &m) {
-            m.header.metas << SmilMeta();
-            m.header.layout.regions << SmilRegion();
-        });
     row("what is not written",
         "<head spare=''><layout><root-layout width='1px'/><topLayout width='invalid, but not reset'/></layout></head>"
         "<body-that-is-no-par spare1='' spare2='' spare3='' spare4='4' dur='2s'><video/></body-that-is-no-par>",
@@ -155,22 +134,11 @@ void Writing::edits()
     QFETCH(Edit, edit);
     QFETCH(QString, model);
     QFETCH(QString, document);
-    const SmilDocument empty;
-    SmilDocument edited = empty;
+    SmilDocument edited;
     edit(edited);
     COMPARE_SEEN(QStringLiteral("edits a model"), ModelDump::of(edited), model);
-    COMPARE_SEEN(QStringLiteral("copied it from an empty model and looks at that"), ModelDump::of(empty),
-                 QStringLiteral("<body/>"));
     checkWhole(edited, document);
     checkPieces(edited, document);
-}
-
-void Writing::unknownMedia()
-{
-    SmilParser parser((QByteArray()));
-    SmilRef unknown(5);
-    unknown.src = QStringLiteral("s");
-    COMPARE_SEEN(QStringLiteral("renders unknown media"), ModelDump::of(parser.render(unknown)), QString());
 }
 
 /** A copy of the document, and its elements, stay as they were when the model is changed and written again. */
@@ -184,14 +152,10 @@ void Writing::again()
     const QString expected = QStringLiteral("<smil><head><layout><root-layout/></layout></head><body><par><seq>"
                                             "<ref src='%1'/></seq></par></body></smil>");
     model.body.root.children[0].children[0].refs[0].src = QStringLiteral("b");
-    const QString writes = QStringLiteral("writes a model again and looks at ");
-    COMPARE_SEEN(writes + QStringLiteral("it"), ModelDump::of(parser.getContent()), expected.arg(QLatin1Char('b')));
-    COMPARE_SEEN(writes + QStringLiteral("the document before"), ModelDump::of(documentBefore),
-                 expected.arg(QLatin1Char('a')));
-    COMPARE_SEEN(writes + QStringLiteral("the element before"), ModelDump::of(elementBefore),
-                 expected.arg(QLatin1Char('a')));
-    COMPARE_SEEN(writes + QStringLiteral("the model before"), ModelDump::of(modelBefore),
-                 QStringLiteral("<body><par><seq><ref src='a'/></seq></par></body>"));
+    QCOMPARE(ModelDump::of(parser.getContent()), expected.arg(QLatin1Char('b')));
+    QCOMPARE(ModelDump::of(documentBefore), expected.arg(QLatin1Char('a')));
+    QCOMPARE(ModelDump::of(elementBefore), expected.arg(QLatin1Char('a')));
+    QCOMPARE(ModelDump::of(modelBefore), QStringLiteral("<body><par><seq><ref src='a'/></seq></par></body>"));
 }
 
 /** All of the text, of which the two are a part, with the attributes in the order in which they are set. */
@@ -207,11 +171,11 @@ void Writing::xml()
                        "height=\"3px\" top=\"4px\" bottom=\"5px\" left=\"6px\" right=\"7px\" fit=\"8\"/>"
                        "</layout></head><body><par dur=\"5s\"><seq/><img%2 region=\"r\"/></par></body></smil>");
     const auto attribute = [](const QString &inXml) { return inXml.isEmpty() ? inXml : u' ' + inXml; };
-    const QByteArray input = "<smil><head title='T' id='i' class='c'><meta content='3' name='2' id='1'/><layout>"
-                             "<topLayout height='2' width='1'/><region fit='8' right='7' left='6' bottom='5' top='4' "
-                             "height='3' width='2' id='1'/></layout></head><body><par dur='5s'><seq/><img region='r'/>"
-                             "</par></body></smil>";
-    SmilParser first(input);
+    SmilParser first(QStringLiteral("<smil><head title='T' id='i' class='c'><meta content='3' name='2' id='1'/><layout>"
+                                    "<topLayout height='2' width='1'/><region fit='8' right='7' left='6' bottom='5' "
+                                    "top='4' height='3' width='2' id='1'/></layout></head><body><par dur='5s'><seq/>"
+                                    "<img region='r'/></par></body></smil>")
+                         .toUtf8());
     SmilDocument model = first.parse();
     model.header.title = title;
     model.body.root.children[0].refs[0].src = src;
@@ -244,18 +208,12 @@ void Writing::readBack()
 /** One element a line, as QDomDocument writes, with its attributes in the order in which they are set. */
 void Writing::indents()
 {
-    SmilDocument model;
-    model.header.title = QStringLiteral("a b");
-    model.body.root.children = {SmilNode(), SmilNode()};
-    model.body.root.children[0].refs = {SmilRef(SmilRef::Img)};
-    SmilParser parser(model);
+    SmilParser parser(QByteArray("<smil><head title='a b'/><body><par><img/></par><par/></body></smil>"));
+    parser.parse();
     for (const int indent : {0, 1, 4}) {
         QCOMPARE(QString::fromUtf8(parser.toXml(indent)), QString::fromUtf8(parser.getContent().toByteArray(indent)));
     }
-    for (const int indent : {-1, -2}) {
-        QCOMPARE(parser.toXml(indent), parser.toXml());
-        QVERIFY(!parser.toXml(indent).contains('\n'));
-    }
+    QCOMPARE(parser.toXml(-2), parser.toXml());
 }
 
 QTEST_GUILESS_MAIN(Writing)
