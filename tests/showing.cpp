@@ -1,42 +1,48 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "cases.h"
 #include "messages.h"
 
 #include <smilparser/smilslideshow.h>
-
-#include <QtTest/QtTest>
 
 class Showing : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void slides_data();
+    void slides_data() { addCases("slideshows.txt"); }
     void slides();
+    void names();
     void lengths();
-    void titles_data();
     void titles();
     void outcomes();
-    void texts_data();
     void texts();
     void kinds();
     void equality();
-    void manyParts();
 };
 
 using Parts = QList<SmilPart>;
-Q_DECLARE_METATYPE(Parts)
 
-static SmilPart part(const char *type, const char *name, const char *contentId = nullptr,
-                     const char *location = nullptr)
+static SmilPart part(const QString &type, const QString &name, const QString &contentId = QString(),
+                     const QString &location = QString())
 {
     SmilPart part;
-    part.type = QString::fromLatin1(type);
-    part.name = QString::fromLatin1(name);
-    part.contentId = QString::fromLatin1(contentId);
-    part.location = QString::fromLatin1(location);
+    part.type = type;
+    part.name = name;
+    part.contentId = contentId;
+    part.location = location;
     return part;
+}
+
+/** Of "TYPE NAME, TYPE NAME". */
+static Parts partsOf(const QString &texts)
+{
+    Parts parts;
+    for (const QString &text : texts.split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
+        parts << part(text.section(u' ', 0, 0), text.section(u' ', 1));
+    }
+    return parts;
 }
 
 static QByteArray smil(const QByteArray &body, const QByteArray &head = QByteArray())
@@ -62,88 +68,36 @@ static QString seen(const SmilSlideshow &show)
     return slides.join(QStringLiteral("; ")).replace(QLatin1String("is -1"), QLatin1String("missing"));
 }
 
-void Showing::slides_data()
-{
-    const SmilPart photo = part("image/jpeg", "a.jpg");
-    const SmilPart words = part("text/plain", "b.txt");
-    const SmilPart sound = part("audio/amr", "c.amr");
-    const SmilPart film = part("video/3gpp", "d.3gp");
-    const SmilPart card = part("text/x-vcard", "e.vcf");
-    const SmilPart text = part("application/smil", "s.smil");
-    const QByteArray one = smil("<par dur='3s'><img src='a.jpg'/></par>");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<Parts>("parts");
-    QTest::addColumn<QString>("shows");
-    const auto row = [](const char *name, const QByteArray &bytes, const Parts &parts, const char *shows) {
-        QTest::newRow(name) << bytes << parts << QString::fromLatin1(shows);
-    };
-
-    row("no SMIL, no parts", "", {}, "");
-    row("no SMIL", "", {photo, words, sound}, "0-5 img a.jpg is 0, text b.txt is 1, audio c.amr is 2");
-    row("no SMIL, two pictures", "", {photo, words, photo, words},
-        "0-5 img a.jpg is 0, text b.txt is 1; 5-10 img a.jpg is 2, text b.txt is 3");
-    row("sounds come last", "", {sound, photo}, "0-5 img a.jpg is 1, audio c.amr is 0");
-    row("a film has a sound", "", {film, sound, words}, "0-5 video d.3gp is 0; 5-10 text b.txt is 2, audio c.amr is 1");
-    row("a sound of no known length", "", {sound}, "0-5 audio c.amr is 0");
-    row("broken SMIL", "<smil><body><par><img src='fish & chips.jpg'/>", {text, photo}, "0-5 img a.jpg is 1");
-    row("SMIL without a body", "<smil><head/></smil>", {photo}, "0-5 img a.jpg is 0");
-    row("SMIL without a head", "<smil><body><img src='a.jpg'/></body></smil>", {photo}, "0-5 img a.jpg is 0");
-    row("SMIL in which nothing plays", smil("<par dur='9s'><img src='a.jpg' end='0s'/></par>"), {photo},
-        "0-5 img a.jpg is 0");
-    row("all is named", smil("<par dur='3s'><img src='a.jpg'/><text src='b.txt'/></par>"), {text, photo, words},
-        "0-3 img a.jpg is 1, text b.txt is 2");
-    row("a part is missing", one, {}, "0-3 img a.jpg missing");
-    row("parts that nobody names", one, {photo, card, words},
-        "0-3 img a.jpg is 0; 3-8 ref e.vcf is 1, text b.txt is 2");
-    row("a part that never plays", smil("<par dur='3s'><img src='a.jpg'/><text src='b.txt' begin='4s'/></par>"),
-        {photo, words}, "0-3 img a.jpg is 0; 3-8 text b.txt is 1");
-    row("two parts of one name", one, {photo, photo}, "0-3 img a.jpg is 0; 3-8 img a.jpg is 1");
-    row("another SMIL part", one, {text, photo, text}, "0-3 img a.jpg is 1");
-    row("the SMIL refers to itself", smil("<par dur='3s'><ref src='s.smil'/></par>"), {text}, "0-3 ref s.smil is 0");
-    row("Content-ID first", one, {part("", "a.jpg"), part("", "", nullptr, "a.jpg"), part("", "", "a.jpg")},
-        "0-3 img a.jpg is 2; 3-8 ref a.jpg is 0; 8-13 ref a.jpg is 1");
-    row("Content-Location next", one, {part("", "a.jpg"), part("", "", nullptr, "a.jpg")},
-        "0-3 img a.jpg is 1; 3-8 ref a.jpg is 0");
-    row("what is left is called", "", {part("", "c", "<a>", "b"), part("", "c", nullptr, "b"), part("", "")},
-        "0-5 ref <a> is 0; 5-10 ref b is 1; 10-15 ref  is 2");
-    row("no time is blank",
-        smil("<par dur='3s'><img src='a'/></par><par dur='3s' begin='2s'><img src='b'/></par>"
-             "<par dur='4s'/>"),
-        {}, "0-5 img a missing; 5-12 img b missing");
-    row("the body outlasts", "<smil><body dur='9s'><par dur='3s'><img src='a.jpg'/></par></body></smil>", {words},
-        "0-9 img a.jpg missing; 9-14 text b.txt is 0");
-    row("infinite", smil("<par dur='1e308s'><img src='a'/></par><par dur='1e308s'><img src='b'/></par>"),
-        {photo, photo},
-        "0-1e+308 img a missing; 1e+308-inf img b missing; inf-inf img a.jpg is 0; inf-inf img a.jpg is 1");
-    const QByteArray upsideDown =
-        "<layout><root-layout width='200' height='200'/><region id='I' top='50%' height='50%'/>"
-        "<region id='T' height='50%'/><region id='L' width='50%' height='50%'/></layout>";
-    row("text above the picture",
-        smil("<par><audio src='c'/><img src='a' region='I'/><text src='b' region='T'/></par>", upsideDown), {},
-        "0-5 text b missing, img a missing, audio c missing");
-    row("from left to right",
-        smil("<par><img src='a' region='T'/><img src='a2' region='T'/><text src='b' region='L'/>"
-             "</par>",
-             upsideDown),
-        {}, "0-5 img a missing, text b missing, img a2 missing");
-}
-
 void Showing::slides()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(Parts, parts);
+    QFETCH(QString, smil);
+    QFETCH(QString, parts);
     QFETCH(QString, shows);
-    const SmilSlideshow show(bytes, parts);
-    QCOMPARE(seen(show), shows);
+    const SmilSlideshow show(smil.toUtf8(), partsOf(parts));
+    COMPARE_SEEN(QStringLiteral("shows %1 with %2").arg(smil, parts), seen(show), shows);
     QCOMPARE(show.duration(), show.count() ? show.slide(show.count() - 1).end : 0.0);
     QVERIFY(show.slide(-1) == SmilSlide() && show.slide(show.count()) == SmilSlide());
+}
+
+/** A Content-ID comes before a Content-Location, and that before a name. */
+void Showing::names()
+{
+    const QString a = QStringLiteral("a");
+    const Parts parts = {part({}, a), part({}, {}, {}, a), part({}, {}, a)};
+    const QByteArray bytes = smil("<par dur='3s'><img src='a'/></par>");
+    QCOMPARE(seen(SmilSlideshow(bytes, parts)), QStringLiteral("0-3 img a is 2; 3-8 ref a is 0; 8-13 ref a is 1"));
+    QCOMPARE(seen(SmilSlideshow(bytes, parts.mid(0, 2))), QStringLiteral("0-3 img a is 1; 3-8 ref a is 0"));
+    const QString b = QStringLiteral("b"), c = QStringLiteral("c");
+    const SmilSlideshow left({}, {part({}, c, QStringLiteral("<a>"), b), part({}, c, {}, b), part({}, {})});
+    QCOMPARE(seen(left), QStringLiteral("0-5 ref <a> is 0; 5-10 ref b is 1; 10-15 ref  is 2"));
+    const SmilSlide last = left.slide(2);
+    QVERIFY(last.cues.first().begin == last.begin && last.cues.first().end == last.end);
 }
 
 /** How long parts take is asked of media that state no time, and then of each part that is left. */
 void Showing::lengths()
 {
-    const Parts parts = {part("audio/amr", "a"), part("audio/amr", "b"), part("image/gif", "c"),
-                         part("text/plain", "d")};
+    const Parts parts = partsOf(QStringLiteral("audio/amr a, audio/amr b, image/gif c, text/plain d"));
     const QByteArray bytes = smil("<audio src='a'/><audio src='missing'/><audio src='b' dur='1s'/>");
     QList<int> asked;
     const auto length = [&](int part) {
@@ -163,24 +117,15 @@ void Showing::lengths()
     QCOMPARE(SmilSlideshow(QByteArray(), parts.mid(0, 1), SmilParser::AsWritten, 2, half).duration(), 0.5);
 }
 
-void Showing::titles_data()
-{
-    QTest::addColumn<QByteArray>("head");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("of the head") << QByteArray("<head title='A'><meta name='title' content='B'/></head>") << "A";
-    QTest::newRow("of the meta") << QByteArray("<head title=''><meta content='C'/><meta name='Title' content='B'/>"
-                                               "<meta name='title' content='C'/></head>")
-                                 << "B";
-    QTest::newRow("empty") << QByteArray("<head><meta name='title' content=''/></head>") << QString();
-}
-
 void Showing::titles()
 {
-    QFETCH(QByteArray, head);
-    QFETCH(QString, title);
-    const SmilSlideshow show("<smil>" + head + "<body/></smil>", {});
-    QCOMPARE(show.title(), title);
-    QCOMPARE(show.title().isNull(), title.isNull());
+    const auto title = [](const char *head) {
+        return SmilSlideshow(QByteArray("<smil>") + head + "<body/></smil>", {}).title();
+    };
+    QCOMPARE(title("<head title='A'><meta name='title' content='B'/></head>"), QStringLiteral("A"));
+    QCOMPARE(title("<head title=''><meta content='C'/><meta name='Title' content='B'/><meta name='title'/></head>"),
+             QStringLiteral("B"));
+    QVERIFY(title("<head><meta name='title' content=''/></head>").isNull());
 }
 
 void Showing::outcomes()
@@ -201,58 +146,45 @@ void Showing::outcomes()
     QVERIFY(broken.layout() == SmilLayout() && broken.title().isNull());
 }
 
-void Showing::texts_data()
-{
-    const QString euro = QString(QChar(0x20ac));
-    const QString bad = QString(QChar(QChar::ReplacementCharacter));
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char *name, const char *type, const QByteArray &data, const QString &text) {
-        QTest::newRow(name) << QString::fromLatin1(type) << data << text;
-    };
-    row("UTF-8", "", "\xe2\x82\xac", euro);
-    row("not UTF-8", "", "\xe2\x82", QString::fromLatin1("\xe2\x82"));
-    row("a mark decides", "text/plain; charset=iso-8859-1", "\xef\xbb\xbf\xe2\x82\xac", euro);
-    row("a mark of UTF-16", "text/plain; charset=utf-8", "\xff\xfe\xac\x20", euro);
-    row("a mark, big-endian", "", QByteArray("\xfe\xff\x20\xac\0a", 6), euro + u'a');
-    row("as stated", "text/plain;charset=windows-1252", "\x80", euro);
-    row("after a name with a semicolon", "text/plain; name=\"ab;charset=utf-16\"; charset=windows-1252", "\x80", euro);
-    row("in quotation marks", "text/plain;name=\"; charset=utf-16\" ; Charset = \"Windows-1252\"", "\x80", euro);
-    row("as stated, whole", "text/plain; charset=utf-16le", QByteArray::fromHex("610000d86200"), u'a' + bad + u'b');
-    row("UTF-16", "text/plain; charset=UTF-16", "\x20\xac", euro);
-    row("UCS-2", "text/plain; charset=iso-10646-ucs-2", "\x20\xac", euro);
-    row("no such charset", "text/plain; charset=x-none", "\xe2\x82\xac", euro);
-    for (const char *const vague : {"us-ascii", "ASCII", "ansi_x3.4-1968", "utf-8", ""}) {
-        QTest::addRow("vague: %s", vague) << QLatin1String("text/plain; charset=") + QLatin1String(vague)
-                                          << QByteArray("\xe4") << QString(QChar(0xe4));
-    }
-    row("with a zero", "", QByteArray("a\0b", 3), QString::fromLatin1("a\0b", 3));
-    row("Latin-1 with a zero", "", QByteArray("\xe4\0b", 3), QString::fromLatin1("\xe4\0b", 3));
-}
-
 void Showing::texts()
 {
-    QFETCH(QString, type);
-    QFETCH(QByteArray, data);
-    QFETCH(QString, text);
-    SmilPart part;
-    part.type = type;
-    QCOMPARE(part.text(data), text);
+    const auto text = [](const QByteArray &parameter, const QByteArray &data) {
+        return part(QString::fromLatin1("text/plain" + parameter), {}).text(data);
+    };
+    const QString euro = QString(QChar(0x20ac));
+    const QByteArray utf8 = "\xe2\x82\xac";
+    QCOMPARE(text("", utf8), euro);
+    QCOMPARE(text("; charset=x-none", utf8), euro);
+    QCOMPARE(text("; charset=iso-8859-1", "\xef\xbb\xbf" + utf8), euro); // a byte order mark decides
+    QCOMPARE(text("; charset=utf-8", "\xff\xfe\xac\x20"), euro);
+    QCOMPARE(text("", QByteArray("\xfe\xff\x20\xac\0a", 6)), euro + u'a');
+    for (const char *const stated : {";charset=windows-1252", "; name=\"ab;charset=utf-16\"; charset=windows-1252",
+                                     ";name=\"; charset=utf-16\" ; Charset = \"Windows-1252\""}) {
+        QCOMPARE(text(stated, "\x80"), euro);
+    }
+    QCOMPARE(text("; charset=UTF-16", "\x20\xac"), euro);
+    QCOMPARE(text("; charset=iso-10646-ucs-2", "\x20\xac"), euro);
+    QCOMPARE(text("; charset=utf-16le", QByteArray::fromHex("610000d86200")), QStringLiteral("a\ufffdb"));
+    for (const char *const vague : {"us-ascii", "ASCII", "ansi_x3.4-1968", "utf-8", ""}) {
+        QCOMPARE(text(QByteArray("; charset=") + vague, "\xe4"), QString(QChar(0xe4)));
+    }
+    for (const char *const data : {"a\0b", "\xe4\0b", "\xe2\x82z"}) {
+        QCOMPARE(text("", QByteArray(data, 3)), QString::fromLatin1(data, 3));
+    }
 }
 
 void Showing::kinds()
 {
-    for (const char *const type : {"application/smil", " Application/X-SMIL ;charset=utf-8", "application/smil+xml"}) {
-        QVERIFY2(part(type, "").isSmil(), type);
-    }
-    QVERIFY(!part("application/smilx", "").isSmil() && !SmilPart().isSmil());
-    QCOMPARE(part(" IMAGE/gif;x", "").kind(), SmilRef::Img);
-    QCOMPARE(part("Text/Plain; charset=x", "").kind(), SmilRef::Text);
-    QCOMPARE(part("audio/amr", "").kind(), SmilRef::Audio);
-    QCOMPARE(part("video/mp4", "").kind(), SmilRef::Video);
+    const auto isSmil = [](const char *type) { return part(QLatin1String(type), {}).isSmil(); };
+    QVERIFY(isSmil("application/smil") && isSmil("application/smil+xml"));
+    QVERIFY(isSmil(" Application/X-SMIL ;charset=utf-8") && !isSmil("application/smilx") && !isSmil(""));
+    const auto kind = [](const char *type) { return part(QLatin1String(type), {}).kind(); };
+    QCOMPARE(kind(" IMAGE/gif;x"), SmilRef::Img);
+    QCOMPARE(kind("Text/Plain; charset=x"), SmilRef::Text);
+    QCOMPARE(kind("audio/amr"), SmilRef::Audio);
+    QCOMPARE(kind("video/mp4"), SmilRef::Video);
     for (const char *const type : {"text/html", "image", "application/octet-stream", ""}) {
-        QVERIFY2(part(type, "").kind() == SmilRef::Ref, type);
+        QVERIFY2(kind(type) == SmilRef::Ref, type);
     }
 }
 
@@ -260,7 +192,7 @@ void Showing::kinds()
 void Showing::equality()
 {
     const QByteArray bytes = smil("<par><img src='a.jpg'/></par>");
-    const Parts parts = {part("image/jpeg", "a.jpg"), part("text/plain", "b.txt")};
+    const Parts parts = partsOf(QStringLiteral("image/jpeg a.jpg, text/plain b.txt"));
     const SmilSlideshow show(bytes, parts);
     QVERIFY(show == SmilSlideshow(bytes, parts) && show == SmilSlideshow(show));
     QVERIFY(show == SmilSlideshow("<!-- -->\n" + bytes, parts)); // the same is shown
@@ -282,26 +214,13 @@ void Showing::equality()
         change(other);
         QVERIFY(other != slide);
     }
-    QVERIFY(parts.at(0) == part("image/jpeg", "a.jpg"));
+    QVERIFY(parts.at(0) == partsOf(QStringLiteral("image/jpeg a.jpg")).first());
     for (QString SmilPart::*const field :
          {&SmilPart::contentId, &SmilPart::location, &SmilPart::name, &SmilPart::type}) {
         SmilPart other = parts.at(0);
         other.*field += u'x';
         QVERIFY(other != parts.at(0));
     }
-}
-
-void Showing::manyParts()
-{
-    Parts parts;
-    for (int i = 0; i < 1000; ++i) {
-        parts << part("image/jpeg", "a.jpg");
-    }
-    const SmilSlideshow show(smil("<par dur='1s'><img src='a.jpg'/></par>"), parts);
-    QCOMPARE(show.count(), 1000);
-    const SmilSlide last = show.slide(999);
-    QCOMPARE(last.parts, QList<int>({999}));
-    QVERIFY(last.cues.first().begin == last.begin && last.cues.first().end == last.end);
 }
 
 QTEST_GUILESS_MAIN(Showing)
