@@ -254,30 +254,25 @@ void Playback::screens()
 /** What no text reads as, but a host may have set. */
 void Playback::oddMeasures()
 {
-    SmilUnit odd(QStringLiteral("50px"));
-    const auto areaOf = [&] {
+    const auto areaOf = [](double value, int unit, bool valid = true) {
+        SmilUnit odd(value, SmilUnit::Unit(unit));
+        odd.valid = valid;
         SmilLayout layout;
-        layout.rootLayoutWidth = layout.rootLayoutHeight = SmilUnit(QStringLiteral("100px"));
+        layout.rootLayoutWidth = layout.rootLayoutHeight = SmilUnit(100, SmilUnit::Px);
         layout.topLayoutWidth = odd;
         layout.regions.append(SmilRegion());
         layout.regions.first().left = layout.regions.first().width = odd;
         return shown(SmilScreen(layout).regionRects().first());
     };
-    QCOMPARE(areaOf(), QStringLiteral("50,0 50x100"));
-    QVERIFY(SmilScreen().size() == QSizeF(0, 0) && SmilScreen().regionIndex(QString()) == -1);
-    const QString whole = QStringLiteral("0,0 100x100");
-    odd.valid = false;
-    QCOMPARE(areaOf(), whole);
-    odd.valid = true;
+    QCOMPARE(areaOf(50, SmilUnit::Px), QStringLiteral("50,0 50x100"));
+    QCOMPARE(areaOf(50, SmilUnit::Px, false), QStringLiteral("0,0 100x100"));
     for (const double value : {qInf(), -qInf(), qQNaN()}) {
-        odd.value = value;
-        QCOMPARE(areaOf(), whole);
+        QCOMPARE(areaOf(value, SmilUnit::Px), QStringLiteral("0,0 100x100"));
     }
-    odd = SmilUnit(QStringLiteral("50px"));
     for (const int unit : {int(SmilUnit::NoUnit), -1, 7}) {
-        odd.unit = unit;
-        QCOMPARE(areaOf(), whole);
+        QCOMPARE(areaOf(50, unit), QStringLiteral("0,0 100x100"));
     }
+    QVERIFY(SmilScreen().size() == QSizeF(0, 0) && SmilScreen().regionIndex(QString()) == -1);
 }
 
 void Playback::fits()
