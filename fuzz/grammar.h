@@ -8,11 +8,6 @@
 
 #include <vector>
 
-struct Piece {
-    QByteArray text; ///< each "#" becomes a number that no other "#" of the same tag has
-    int levels = 0; ///< how many it opens
-};
-
 /** @p text divided at each "~". */
 inline QByteArrayList divided(const char *text)
 {
@@ -20,44 +15,22 @@ inline QByteArrayList divided(const char *text)
 }
 
 /** What keeps a document well formed, wherever it stands inside of an element. */
-inline const std::vector<Piece> &contents()
-{
-    static const std::vector<Piece> all = [] {
-        std::vector<Piece> pieces;
-        for (const QByteArray &text :
-             divided("<x>~<x>~</x>~</x>~<x/>~<x/>~<x></x>~t~\n~ ~\xc3\xa9~\xf0\x9f\x8c\x8a~<!---->~<!-- <x>' -->~"
-                     "<![CDATA[]]>~<![CDATA[</x>]]>~<?p?>~<?p <x>\"?>~&a;~&\xc3\xa9;~&lt;~&#65;~>~'~"
-                     "<par/>~<seq/>~<img src='a' region=\"b\"/>~<par dur='2s'><text src='c'/></par>~"
-                     "<img begin='0:0:0.1' end='0:0:9.1' dur='0:0:1.1'/>")) {
-            pieces.push_back({text, text == "<x>" ? 1 : text == "</x>" ? -1 : 0});
-        }
-        return pieces;
-    }();
-    return all;
-}
-
-inline const QByteArrayList &attributes()
-{
-    static const QByteArrayList all = divided(" a=''~ a#=''~ aa#='b'~a=''~a#=''~ab=\"\"~ a='>'~ b=\"/>\"~ a='&lt;'~ "
-                                              "a='&a;'~ #=''~\n b = 't'~ dur='5s'~ src=''");
-    return all;
-}
-
+static const QByteArrayList contents =
+    divided("<x>~<x>~</x>~</x>~<x/>~<x/>~<x></x>~t~\n~ ~\xc3\xa9~\xf0\x9f\x8c\x8a~<!---->~<!-- <x>' -->~"
+            "<![CDATA[]]>~<![CDATA[</x>]]>~<?p?>~<?p <x>\"?>~&a;~&\xc3\xa9;~&lt;~&#65;~>~'~"
+            "<par/>~<seq/>~<img src='a' region=\"b\"/>~<par dur='2s'><text src='c'/></par>~"
+            "<img begin='0:0:0.1' end='0:0:9.1' dur='0:0:1.1'/>");
+static const QByteArrayList attributes = divided(" a=''~ a#=''~ aa#='b'~a=''~a#=''~ab=\"\"~ a='>'~ b=\"/>\"~ a='&lt;'~ "
+                                                 "a='&a;'~ #=''~\n b = 't'~ dur='5s'~ src=''");
 /** What is no XML, or not where it stands, or beyond the limits. */
-inline const QByteArrayList &oddities()
-{
-    static const QByteArrayList all = [] {
-        QByteArrayList list = divided(
-            "<~>~/>~<x~</x~</smil>~='~\"~ a='~ a=\"~ c='<'~<!--~-->~--~<![CDATA[~]]>~<?p ~?>~<!~<!x ~<!DOCTYPE "
-            "smil>~[~]>~"
-            "<!DOCTYPE smil [<!ENTITY a 'x'>]>~&~;~&b~&@;~&\xc8\xa0;~&#x0;~&#xfffe;~%p;~\x01~\xef\xbf\xbe~\xef\xbf\xbf~"
-            "\xef\xbf\xbd~\xed\xa0\x80~\xef\xbb\xbf~\xe2~\xff~\x80~<?xml version='1.0'?>~<x a='>~ encoding='GBK'");
-        list << QByteArray(1, '\0') << QByteArray(1000, 'n');
-        return list;
-    }();
-    return all;
-}
+static const QByteArrayList oddities =
+    divided(
+        "<~>~/>~<x~</x~</smil>~='~\"~ a='~ a=\"~ c='<'~<!--~-->~--~<![CDATA[~]]>~<?p ~?>~<!~<!x ~<!DOCTYPE smil>~[~]>~"
+        "<!DOCTYPE smil [<!ENTITY a 'x'>]>~&~;~&b~&@;~&\xc8\xa0;~&#x0;~&#xfffe;~%p;~\x01~\xef\xbf\xbe~\xef\xbf\xbf~"
+        "\xef\xbf\xbd~\xed\xa0\x80~\xef\xbb\xbf~\xe2~\xff~\x80~<?xml version='1.0'?>~<x a='>~ encoding='GBK'")
+    << QByteArray(1, '\0') << QByteArray(1000, 'n');
 
+/** With a number for each "#" that no other "#" of the same tag has. */
 inline QByteArray numbered(const QByteArray &text)
 {
     QByteArray result;
@@ -86,7 +59,7 @@ inline QByteArray prologue(uint8_t declared, uint8_t type)
 /**
  * Makes a document of about @p longest characters at most out of a fuzzer's bytes, so that mutated bytes give another
  * document of the grammar. The first bytes choose the encoding and the prologue. Each further one adds one of
- * contents() or oddities(), puts one of attributes() into the tag before, as often as the next byte says, or repeats
+ * contents or oddities, puts one of attributes into the tag before, as often as the next byte says, or repeats
  * what precedes it. In the end, what is open is closed.
  */
 inline QByteArray documentOf(const uint8_t *data, size_t size, int longest)
@@ -119,19 +92,20 @@ inline QByteArray documentOf(const uint8_t *data, size_t size, int longest)
             ++i;
         } else if (byte >= 0xc0) {
             starts.push_back({int(text.size()), level});
-            text += oddities().at(next % oddities().size());
+            text += oddities.at(next % oddities.size());
             ++i;
         } else if (byte >= 0x80 && text.endsWith('>')) {
-            const QByteArray attribute = attributes().at(byte % attributes().size());
+            const QByteArray attribute = attributes.at(byte % attributes.size());
             text.insert(text.size() - (text.endsWith("/>") ? 2 : 1),
                         attribute.repeated(qMin(next % 80, qMax(0, room) / int(attribute.size()))));
             ++i;
         } else {
-            const Piece &piece = contents().at(byte % contents().size());
-            if (level + piece.levels >= 0) {
+            const QByteArray piece = contents.at(byte % contents.size());
+            const int levels = piece == "<x>" ? 1 : piece == "</x>" ? -1 : 0;
+            if (level + levels >= 0) {
                 starts.push_back({int(text.size()), level});
-                text += piece.text;
-                level += piece.levels;
+                text += piece;
+                level += levels;
             }
         }
     }

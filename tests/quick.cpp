@@ -3,8 +3,9 @@
 
 #include "cases.h"
 
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
 #include <QtNetwork/QTcpServer>
-#include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickItemGrabResult>
@@ -23,7 +24,6 @@ public:
     }
 
 private Q_SLOTS:
-    void init();
     void places_data() { addCases("places.txt"); }
     void places();
     void messages_data() { addCases("messages.txt"); }
@@ -34,38 +34,33 @@ private Q_SLOTS:
     void hugeTexts();
     void sounds();
     void installed();
-
-private:
-    QVariantList parts(const QString &names) const;
-    void write(const char *name, const QByteArray &bytes) const;
-
-    QScopedPointer<QTemporaryDir> folder; // with a part of each kind and a QtMultimedia that plays nothing
 };
+
+/** With a part of each kind, and a QtMultimedia that plays nothing. */
+static QString folder()
+{
+    return QFINDTESTDATA("media");
+}
 
 /** A slideshow in a window. Before the installed QML modules come those in a folder. */
 class Shown : public QQuickView
 {
 public:
-    Shown(const QVariant &smil, const QVariantList &parts, const QString &modules,
+    Shown(const QVariant &smil, const QVariantList &parts, const QString &modules = folder(),
           const QSize &window = QSize(360, 488))
     {
         engine()->addImportPath(QStringLiteral(MODULE_DIR));
         engine()->addImportPath(modules);
-        QQmlComponent component(engine());
-        component.setData("import Smil 1.0\nSlideshow {}", QUrl());
-        item = qobject_cast<QQuickItem *>(component.createWithInitialProperties(
-            {std::make_pair(QStringLiteral("smil"), smil), std::make_pair(QStringLiteral("parts"), QVariant(parts))}));
-        if (!item) {
-            qFatal("%s", qPrintable(component.errorString()));
-        }
-        item->setParent(contentItem());
-        item->setParentItem(contentItem());
-        item->setSize(window);
-        item->setFocus(true);
+        setInitialProperties({{QStringLiteral("smil"), smil}, {QStringLiteral("parts"), parts}});
+        setResizeMode(SizeRootObjectToView);
         resize(window);
+        setSource(QUrl::fromLocalFile(folder() + QStringLiteral("/Message.qml")));
+        item = rootObject();
+        if (!item) {
+            qFatal("%s", qPrintable(errors().value(0).toString()));
+        }
         show();
     }
-    ~Shown() override { delete item; }
 
     QVariant get(const char *name) const { return item->property(name); }
     void set(const char *name, const QVariant &value) { item->setProperty(name, value); }
@@ -109,80 +104,37 @@ public:
     QQuickItem *item;
 };
 
-void Quick::write(const char *name, const QByteArray &bytes) const
+static void write(const QString &name, const QByteArray &bytes)
 {
-    QFile file(folder->filePath(QLatin1String(name)));
+    QFile file(name);
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
-void Quick::init()
-{
-    folder.reset(new QTemporaryDir);
-    QVERIFY(QDir(folder->path()).mkdir(QStringLiteral("QtMultimedia")));
-    write("QtMultimedia/qmldir",
-          "module QtMultimedia\nMediaPlayer 5.15 MediaPlayer.qml\nMediaPlayer 6.0 MediaPlayer.qml\n"
-          "VideoOutput 5.15 VideoOutput.qml\nVideoOutput 6.0 VideoOutput.qml\nAudioOutput 6.0 AudioOutput.qml\n");
-    write("QtMultimedia/AudioOutput.qml", "import QtQuick 2.15\nQtObject {}");
-    write("QtMultimedia/VideoOutput.qml", "import QtQuick 2.15\nItem { property var source }");
-    write("QtMultimedia/MediaPlayer.qml", R"(
-        import QtQuick 2.15
-        QtObject {
-            enum Values { NoError, Loaded, LoadedMedia }
-            property url source
-            property var videoOutput
-            property var audioOutput
-            property int duration: 3000 // known while it is made
-            property int position
-            property int status: MediaPlayer.Loaded
-            property int mediaStatus: MediaPlayer.LoadedMedia
-            property int error: MediaPlayer.NoError
-            property bool plays
-            function seek(to) { position = to }
-            function play() { plays = true }
-            function pause() { plays = false }
-        })");
-    QVERIFY(QFile::copy(QFINDTESTDATA("../examples/holiday/beach.jpg"), folder->filePath(QStringLiteral("a b.jpg"))));
-    write("huge.bmp",
-          QByteArray::fromHex("424d0000000000000000360000002800000020a1070020a107000100180000000000")
-              + QByteArray(99, 0));
-    write("drawn.png", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
-    write("moving.gif", QByteArray::fromHex("47494638396101000100800000ff0000ffffff2c00000000010001000002024401003b"));
-    write("text.txt", "<b>bold</b>");
-    write("card.vcf", "BEGIN:VCARD");
-    write("sound.amr", "#!AMR\n");
-    write("film.3gp", QByteArray::fromHex("0000001466747970336770340000000033677034"));
-    write("list.wav", "<?xml version='1.0'?><playlist xmlns='http://xspf.org/ns/0/'/>");
-}
-
 /** The parts of these names, divided by ", ": files of the folder, or what "name=source" or "name:=text" says. */
-QVariantList Quick::parts(const QString &names) const
+static QVariantList parts(const QString &names)
 {
     QVariantList parts;
     for (const QString &each : names.split(QStringLiteral(", "), Qt::SkipEmptyParts)) {
-        const int sign = each.indexOf(QLatin1Char('='));
-        const bool isText = sign > 0 && each.at(sign - 1) == QLatin1Char(':');
-        QVariantMap part;
-        part[QStringLiteral("name")] = each.left(isText ? sign - 1 : sign);
-        part[isText ? QStringLiteral("text") : QStringLiteral("source")] =
-            sign < 0 ? QVariant(QUrl::fromLocalFile(folder->filePath(each))) : each.mid(sign + 1);
-        parts.append(part);
+        const QStringList sides = each.split(QRegularExpression(QStringLiteral(":?=")));
+        const QString member = each.contains(QLatin1String(":=")) ? QStringLiteral("text") : QStringLiteral("source");
+        const QString value =
+            sides.value(1, QUrl::fromLocalFile(QDir(folder()).filePath(each)).toString(QUrl::FullyEncoded));
+        parts.append(QVariantMap{{QStringLiteral("name"), sides.first()}, {member, value}});
     }
     return parts;
 }
 
-/** The colour of the area that is nearest to the one looked for; that itself when there is hardly a difference. */
-static QString nearest(const QColor &wanted, const QImage &area)
+/** That colour, when the area has a pixel that hardly differs from it, and else the colour of its first pixel. */
+static QString colourIn(const QImage &area, const QColor &wanted)
 {
-    QColor found = wanted;
-    int least = 1000;
     for (int i = 0; i < area.width() * area.height(); ++i) {
         const QColor seen = area.pixelColor(i % area.width(), i / area.width());
-        const int difference =
-            qAbs(seen.red() - wanted.red()) + qAbs(seen.green() - wanted.green()) + qAbs(seen.blue() - wanted.blue());
-        found = difference < least ? seen : found;
-        least = qMin(least, difference);
+        if (qAbs(seen.red() - wanted.red()) + qAbs(seen.green() - wanted.green()) + qAbs(seen.blue() - wanted.blue())
+            < 24) {
+            return wanted.name();
+        }
     }
-    return least < 24 ? wanted.name() : found.name();
+    return area.isNull() ? QString() : area.pixelColor(0, 0).name();
 }
 
 /** Areas are in pixels of the message, each of which is two wide in these windows, from the left side on. */
@@ -198,12 +150,10 @@ void Quick::places()
     const QDir parts(QFINDTESTDATA("../examples/holiday"));
     QVariantList all;
     for (const QString &name : parts.entryList(QDir::Files)) {
-        QVariantMap part;
-        part[QStringLiteral("contentId")] = name;
-        part[QStringLiteral("source")] = QUrl::fromLocalFile(parts.filePath(name));
-        all.append(part);
+        all.append(QVariantMap{{QStringLiteral("contentId"), name},
+                               {QStringLiteral("source"), QUrl::fromLocalFile(parts.filePath(name))}});
     }
-    Shown shown(smil.readAll(), all, folder->path(), QSize(width.toInt(), height.toInt()));
+    Shown shown(smil.readAll(), all, folder(), QSize(width.toInt(), height.toInt()));
     shown.set("slide", slide.toInt() - 1);
     QImage picture;
     QStringList seen;
@@ -214,11 +164,9 @@ void Quick::places()
         seen.clear();
         for (const QString &place : expected) {
             const QStringList numbers = place.split(QRegularExpression(QStringLiteral("[ ,x]")));
-            const QRect area(numbers.at(0).toInt(), numbers.at(1).toInt(), numbers.at(2).toInt(),
-                             numbers.at(3).toInt());
-            const QImage part =
-                picture.copy(left.toInt() + 2 * area.x(), 2 * area.y(), 2 * area.width(), 2 * area.height());
-            seen += place.section(QLatin1Char(' '), 0, 1) + QLatin1Char(' ') + nearest(QColor(numbers.at(4)), part);
+            const auto number = [&](int i) { return 2 * numbers.at(i).toInt(); };
+            const QImage part = picture.copy(left.toInt() + number(0), number(1), number(2), number(3));
+            seen += place.section(u' ', 0, 1) + u' ' + colourIn(part, QColor(numbers.at(4)));
         }
         return seen == expected;
     };
@@ -233,12 +181,11 @@ void Quick::messages()
     QFETCH(QString, message);
     QFETCH(QString, parts);
     QFETCH(QString, seen);
-    QVariantMap smil;
-    smil[QStringLiteral("type")] = QStringLiteral("application/smil");
-    smil[QStringLiteral("text")] = message;
+    const QVariantMap smil{{QStringLiteral("type"), QStringLiteral("application/smil")},
+                           {QStringLiteral("text"), message}};
     for (const bool isPart : {false, true}) {
         const Shown shown(isPart ? QVariant() : message,
-                          this->parts(parts) + (isPart ? QVariantList{smil} : QVariantList()), folder->path());
+                          ::parts(parts) + (isPart ? QVariantList{smil} : QVariantList()));
         (void)QTest::qWaitFor([&] { return shown.seen() == seen; });
         COMPARE_SEEN(QStringLiteral("shows ") + message, shown.seen(), seen);
         const QRectF window(0, 0, 360, 440);
@@ -269,7 +216,7 @@ void Quick::playing()
 {
     const QString text = QStringLiteral(
         "<smil><head/><body><text dur='2s'/><par><text end='1s'/><text dur='2s'/></par><text/></body></smil>");
-    Shown shown(text, QVariantList(), folder->path());
+    Shown shown(text, QVariantList());
     STEP(, "slide 0 of 3, 0 of 9 s");
     STEP(shown.set("position", 2.5), "slide 1 of 3, 2.5 of 9 s");
     QCOMPARE(shown.visible("named").size(), 2);
@@ -313,7 +260,7 @@ void Quick::turning()
 {
     const QString smil =
         QStringLiteral("<smil><head/><body><text dur='2s'/><text dur='2s'/><text dur='2s'/></body></smil>");
-    Shown shown(smil, QVariantList(), folder->path());
+    Shown shown(smil, QVariantList());
     QVERIFY(QTest::qWaitForWindowExposed(&shown));
     const auto tap = [&](int x, int y) { QTest::mouseClick(&shown, Qt::LeftButton, {}, QPoint(x, y)); };
     STEP(tap(180, 10), "slide 1 of 3, 2 of 6 s"); // on a text
@@ -339,25 +286,18 @@ void Quick::listed()
     const QString smil =
         QStringLiteral("<smil><head/><body><par><img src='a b.jpg' alt='A'/><audio src='b.amr'/></par></body></smil>");
     const QString text = QString(1023, QLatin1Char('a')) + QStringLiteral("\U0001f600");
-    const Shown shown(smil, parts(QStringLiteral("text.txt, huge.bmp, a b.jpg, card.vcf, c.txt:=") + text),
-                      folder->path());
-    QString seen;
-    const QVariantList slides = shown.get("slides").toList();
-    for (const QVariant &slide : slides) {
-        const QVariantList media = slide.toList();
-        for (const QVariant &medium : media) {
-            for (const char *const field : {"kind", "part", "name", "alt", "text", "source"}) {
-                const QString value = medium.toMap().value(QLatin1String(field)).toString();
-                seen += (value == text.left(1023) ? QStringLiteral("1023 letters") : value) + QLatin1Char('|');
-            }
-        }
-        seen += QLatin1Char('\n');
-    }
-    seen.replace(QUrl::fromLocalFile(folder->path()).toString(), QStringLiteral("file:"));
-    COMPARE_SEEN(QStringLiteral("lists it"), seen,
-                 QStringLiteral("image|2|a b.jpg|A||file:/a b.jpg|audio|-1|b.amr||||\n"
-                                "text|0|text.txt||<b>bold</b>||image|1|huge.bmp||||\n"
-                                "file|3|card.vcf||||text|4|c.txt||1023 letters||\n"));
+    const Shown shown(smil, parts(QStringLiteral("text.txt, huge.bmp, a b.jpg, card.vcf, c.txt:=") + text));
+    QString seen = QString::fromUtf8(QJsonDocument(shown.get("slides").toJsonArray()).toJson(QJsonDocument::Compact));
+    seen.replace(QUrl::fromLocalFile(folder()).toString(), QStringLiteral("file:"));
+    seen.replace(text.left(1023), QStringLiteral("1023 letters"));
+    COMPARE_SEEN(
+        QStringLiteral("lists it"), seen,
+        QStringLiteral(R"([[{"alt":"A","kind":"image","name":"a b.jpg","part":2,"source":"file:/a%20b.jpg","text":""},)"
+                       R"({"alt":"","kind":"audio","name":"b.amr","part":-1,"source":"","text":""}],)"
+                       R"([{"alt":"","kind":"text","name":"text.txt","part":0,"source":"","text":"<b>bold</b>"},)"
+                       R"({"alt":"","kind":"image","name":"huge.bmp","part":1,"source":"","text":""}],)"
+                       R"([{"alt":"","kind":"file","name":"card.vcf","part":3,"source":"","text":""},)"
+                       R"({"alt":"","kind":"text","name":"c.txt","part":4,"source":"","text":"1023 letters"}]])"));
 }
 
 /** As much as Qt can lay out at once is shown, in words that break and of whole characters. */
@@ -368,8 +308,7 @@ void Quick::hugeTexts()
         media += QStringLiteral("<text src='%1.txt'/>").arg(i);
         texts += QStringLiteral("%1.txt:=%2, ").arg(i).arg(QStringLiteral("\U0001f600").repeated(i ? 32768 : 9));
     }
-    const Shown shown(QStringLiteral("<smil><head/><body><par>%1</par></body></smil>").arg(media), parts(texts),
-                      folder->path());
+    const Shown shown(QStringLiteral("<smil><head/><body><par>%1</par></body></smil>").arg(media), parts(texts));
     const QString seen = shown.seen().remove(QRegularExpression(QStringLiteral("[^\U0001f600\u200b8]")));
     const QString face = QStringLiteral("\U0001f600"), word = face.repeated(40) + QStringLiteral("\u200b");
     COMPARE_SEEN(QStringLiteral("shows 40 texts of 64 KiB"), seen,
@@ -402,28 +341,27 @@ void Quick::sounds()
     QTcpServer server;
     QVERIFY(server.listen(QHostAddress::LocalHost));
     const QString url = QStringLiteral("http://127.0.0.1:%1/a").arg(server.serverPort());
-    write("list.mp3", "#EXTM3U\n" + url.toUtf8());
-    write("list.wma", "[playlist]\nFile1=" + url.toUtf8());
-    write("hidden.mp3", QByteArray("ID3\3\0\0\0\0\0\0", 10) + "#EXTM3U\n" + url.toUtf8());
+    const QTemporaryDir lists;
+    const QByteArray list = "#EXTM3U\n" + url.toUtf8();
+    write(lists.filePath(QStringLiteral("list.mp3")), list);
+    write(lists.filePath(QStringLiteral("list.wma")), "[playlist]\nFile1=" + url.toUtf8());
+    write(lists.filePath(QStringLiteral("hidden.mp3")), QByteArray("ID3\3\0\0\0\0\0\0", 10) + list);
     const QString smil = QStringLiteral(
         "<smil><head/><body><par><audio src='sound.amr' begin='1s'/><text end='2s'/><img src='b.jpg' dur='1s'/>"
-        "<audio src='list.mp3'/><audio src='list.wma'/><audio src='hidden.mp3'/><audio src='list.wav'/><audio "
-        "src='text.txt'/>"
-        "<audio src='a.mp3'/></par><video src='film.3gp'/></body></smil>");
+        "<audio src='list.mp3'/><audio src='list.wma'/><audio src='hidden.mp3'/><audio src='list.wav'/>"
+        "<audio src='text.txt'/><audio src='a.mp3'/></par><video src='film.3gp'/></body></smil>");
     const QVariantList given = parts(
-        QStringLiteral("sound.amr, list.mp3, list.wma, hidden.mp3, list.wav, text.txt, film.3gp, b.jpg=%1, a.mp3=%1")
-            .arg(url));
-    const QString player = folder->filePath(QStringLiteral("QtMultimedia/MediaPlayer.qml"));
-    QVERIFY(QFile::rename(player, player + QStringLiteral(".away")));
+        QStringLiteral("sound.amr, list.mp3=file:%2/list.mp3, list.wma=file:%2/list.wma, list.wav, text.txt, film.3gp, "
+                       "hidden.mp3=file:%2/hidden.mp3, b.jpg=%1, a.mp3=%1")
+            .arg(url, lists.path()));
     {
         static QString printed;
         qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) { printed += text; });
-        const Shown shown(smil, given, folder->path());
+        const Shown shown(smil, given, folder() + QStringLiteral("/broken"));
         qInstallMessageHandler(nullptr);
         COMPARE_SEEN(QStringLiteral("has no player"), printed + heard(shown), QString());
     }
-    QVERIFY(QFile::rename(player + QStringLiteral(".away"), player));
-    Shown shown(smil, given, folder->path());
+    Shown shown(smil, given);
     const QList<QQuickItem *> drawn = shown.visible("named");
     HEARD(STEP(, "slide 0 of 2, 0 of 7 s"), "sound.amr paused at 0");
     QTRY_COMPARE(shown.get("duration").toDouble(), 9.0);
@@ -453,11 +391,13 @@ void Quick::installed()
     if (!isHeard || std::none_of(paths.begin(), paths.end(), isThere)) {
         QSKIP("There is no QtMultimedia, or nothing to hear it with.");
     }
-    write("sound.wav",
+    const QTemporaryDir sounds;
+    const QString sound = sounds.filePath(QStringLiteral("sound.wav"));
+    write(sound,
           QByteArray::fromHex("52494646644b000057415645666d74201000000001000100401f0000401f000001000800"
                               "64617461404b0000")
               + QByteArray(0x1f40 * 2, '\x80'));
-    Shown shown(QString(), parts(QStringLiteral("sound.wav")), QString());
+    Shown shown(QString(), parts(QStringLiteral("sound.wav=file:") + sound), QString());
     QTRY_COMPARE(qRound(shown.get("duration").toDouble()), 2);
     shown.call("play");
     QTRY_VERIFY(shown.get("atEnd").toBool());

@@ -1,0 +1,5 @@
+import Smil 1.0
+
+Slideshow {
+    focus: true
+}
