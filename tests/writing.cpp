@@ -58,6 +58,10 @@ static void checkPieces(SmilDocument model, const QString &expected)
     }
     const QString renders = QStringLiteral("renders pieces of ") + ModelDump::of(model);
     COMPARE_SEEN(renders, piece(parser.render(model)), expected);
+    for (int type = -1; type <= 5; ++type) {
+        SmilRef ref(type);
+        QCOMPARE(parser.render(ref).isNull(), type < 0 || type > 4); // nothing for an unknown kind
+    }
     COMPARE_SEEN(renders, QStringLiteral("<smil>%1%2</smil>").arg(head, body), expected);
     COMPARE_SEEN(renders, nodes, body.mid(6).chopped(nodes.isEmpty() ? 1 : 7));
     COMPARE_SEEN(renders, piece(parser.render(model.header.layout)),
