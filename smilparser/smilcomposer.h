@@ -48,7 +48,7 @@ public:
      * nextSlide(), and one whose room is taken. @p seconds is how long it lasts; a value that is not finite and above 0
      * means that this is not known.
      *
-     * @return the SmilRef::src of the medium, which is name() of @p name: send its part with that as Content-Location
+     * @return the SmilRef::src of the medium, which is name() of @p name. Send its part with that as Content-Location
      * and as the name of its Content-Type. If @p type is no SmilRef::Type, nothing is added, and the result is null.
      */
     QString add(SmilRef::Type type, const QString &name, double seconds = 0);

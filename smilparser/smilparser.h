@@ -468,7 +468,7 @@ public:
     bool parseSmilBody(QDomElement &body);
 
     /**
-     * Reads the timeline inside @p element into @p node: replaces SmilNode::dur, and appends a node for each "par" and
+     * Reads the timeline inside @p element into @p node. Replaces SmilNode::dur, and appends a node for each "par" and
      * "seq" child and a reference for each "text", "img", "audio", "video" and "ref" child, their names in any letter
      * case. Other children are skipped with all they hold. SmilNode::type is not changed, nor is the element, and no
      * member of the parser is used. A null element counts as empty.

@@ -171,7 +171,8 @@ void Quick::places()
         return seen == expected;
     };
     (void)QTest::qWaitFor(looksRight);
-    picture.save(QStringLiteral("player-%1x%2-%3.png").arg(width, height, slide)); // for whoever wants to look
+    const QString name = QStringLiteral("/player-%1x%2-%3.png").arg(width, height, slide);
+    picture.save(QCoreApplication::applicationDirPath() + name); // for whoever wants to look
     COMPARE_SEEN(QStringLiteral("looks at slide ") + slide, seen.join(QStringLiteral("; ")), colours);
 }
 
