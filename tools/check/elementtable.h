@@ -7,8 +7,9 @@
 #include <QtCore/QStringList>
 #include <QtXml/QDomElement>
 
-/** What the library reads and writes of an element. */
+/** What the library reads and writes of elements. */
 struct Element {
+    QStringList names; ///< in lower case in the timeline
     QStringList attributes;
     QStringList first; ///< children of which the first is read
     QStringList all; ///< children that are all read
