@@ -38,10 +38,9 @@ QList<Child> childrenOf(const QDomElement &element, const QString &name)
     QStringList seen;
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         const QString childName = anyCase ? child.tagName().toLower() : child.tagName();
-        const bool isAgain = seen.contains(childName);
-        const bool isFirst = !isAgain && known.first.contains(childName);
+        const bool isFirst = known.first.contains(childName) && !seen.contains(childName);
         seen += isFirst ? QStringList(childName) : QStringList();
-        children.append({child, childName, isAgain, !isFirst && !known.all.contains(childName)});
+        children.append({child, childName, !isFirst && !known.all.contains(childName)});
     }
     return children;
 }

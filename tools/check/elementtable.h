@@ -22,7 +22,6 @@ const Element &elementNamed(const QString &name);
 struct Child {
     QDomElement element;
     QString name; ///< in lower case in the timeline, where the library knows names in any
-    bool isAgain; ///< one of this name, of which only the first is read, was before it
     bool isLost; ///< the library does not read it
 };
 

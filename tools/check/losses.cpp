@@ -51,7 +51,8 @@ static void walk(const QDomElement &element, const QString &name, Findings &foun
     for (const Child &child : children) {
         const int line = child.element.lineNumber();
         if (child.isLost) {
-            const QString again = child.isAgain ? QStringLiteral("another ") : QString();
+            const QString again =
+                elementNamed(name).first.contains(child.name) ? QStringLiteral("another ") : QString();
             found.add(
                 "lost-element", line,
                 QStringLiteral("lost when written back: %1%2 in %3").arg(again, nameOf(child.element.tagName()), name));

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "json/json.h"
 #include "base/bounds.h"
 #include "base/escaping.h"
+#include "commands/commands.h"
 #include "input/content.h"
 
 #include <smilparser/smilplayback.h>
@@ -123,7 +123,7 @@ static void addMessage(const Message &message, QJsonObject &json)
     json.insert(QLatin1String("from"), header(mms.from));
     json.insert(QLatin1String("to"), array(mms.to, header));
     json.insert(QLatin1String("subject"), header(mms.subject));
-    json.insert(QLatin1String("date"), text(mms.date.isValid() ? mms.date.toString(Qt::ISODate) : QString()));
+    json.insert(QLatin1String("date"), text(mms.date.toString(Qt::ISODate)));
     json.insert(QLatin1String("parts"), array(mms.parts, partObject));
 }
 
