@@ -5,7 +5,6 @@
 #include "commands/commands.h"
 #include "output/filenames.h"
 #include "require.h"
-#include "json/json.h"
 
 #include <smilparser/mmslogger.h>
 

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "json/json.h"
 #include "base/escaping.h"
 #include "cases.h"
 #include "commands/commands.h"

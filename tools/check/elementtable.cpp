@@ -3,49 +3,31 @@
 
 #include "check/elementtable.h"
 
-#include <QtCore/QMap>
+#include <algorithm>
+#include <iterator>
 
 static QStringList words(const char *text)
 {
-    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-}
-
-static const char timeline[] = "par seq text img audio video ref";
-
-static const struct {
-    const char *elements;
-    const char *attributes;
-    const char *first;
-    const char *all;
-} table[] = {
-    {"smil", "", "head body", ""},
-    {"head", "id title class", "layout", "meta"},
-    {"meta", "id name content", "", ""},
-    {"layout", "", "root-layout topLayout", "region"},
-    {"root-layout topLayout", "width height", "", ""},
-    {"region", "id width height top bottom left right fit", "", ""},
-    {"body par seq", "dur", "", timeline},
-    {"text img audio video ref", "src region", "", ""},
-};
-
-static QMap<QString, Element> byName()
-{
-    QMap<QString, Element> result;
-    for (const auto &row : table) {
-        const QStringList names = words(row.elements);
-        for (const QString &name : names) {
-            result.insert(name, {words(row.attributes), words(row.first), words(row.all)});
-        }
-    }
-    return result;
+    return QString::fromLatin1(text).split(QLatin1Char(' '));
 }
 
 const Element &elementNamed(const QString &name)
 {
-    static const QMap<QString, Element> known = byName();
+    static const QStringList timeline = words("par seq text img audio video ref");
+    static const Element table[] = {
+        {words("smil"), {}, words("head body"), {}},
+        {words("head"), words("id title class"), words("layout"), words("meta")},
+        {words("meta"), words("id name content"), {}, {}},
+        {words("layout"), {}, words("root-layout topLayout"), words("region")},
+        {words("root-layout topLayout"), words("width height"), {}, {}},
+        {words("region"), words("id width height top bottom left right fit"), {}, {}},
+        {words("body par seq"), words("dur"), {}, timeline},
+        {words("text img audio video ref"), words("src region"), {}, {}},
+    };
     static const Element unknown;
-    const auto found = known.constFind(name);
-    return found == known.constEnd() ? unknown : *found;
+    const auto found = std::find_if(std::begin(table), std::end(table),
+                                    [&name](const Element &element) { return element.names.contains(name); });
+    return found == std::end(table) ? unknown : *found;
 }
 
 QList<Child> childrenOf(const QDomElement &element, const QString &name)
@@ -56,10 +38,9 @@ QList<Child> childrenOf(const QDomElement &element, const QString &name)
     QStringList seen;
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         const QString childName = anyCase ? child.tagName().toLower() : child.tagName();
-        const bool isAgain = seen.contains(childName);
-        const bool isFirst = !isAgain && known.first.contains(childName);
+        const bool isFirst = known.first.contains(childName) && !seen.contains(childName);
         seen += isFirst ? QStringList(childName) : QStringList();
-        children.append({child, childName, isAgain, !isFirst && !known.all.contains(childName)});
+        children.append({child, childName, !isFirst && !known.all.contains(childName)});
     }
     return children;
 }

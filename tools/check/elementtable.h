@@ -7,8 +7,9 @@
 #include <QtCore/QStringList>
 #include <QtXml/QDomElement>
 
-/** What the library reads and writes of an element. */
+/** What the library reads and writes of elements. */
 struct Element {
+    QStringList names; ///< in lower case in the timeline
     QStringList attributes;
     QStringList first; ///< children of which the first is read
     QStringList all; ///< children that are all read
@@ -21,7 +22,6 @@ const Element &elementNamed(const QString &name);
 struct Child {
     QDomElement element;
     QString name; ///< in lower case in the timeline, where the library knows names in any
-    bool isAgain; ///< one of this name, of which only the first is read, was before it
     bool isLost; ///< the library does not read it
 };
 

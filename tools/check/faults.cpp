@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "check/checks.h"
 #include "check/elementtable.h"
+#include "check/findings.h"
 #include "input/content.h"
 
 #include <set>
@@ -54,7 +54,7 @@ static void checkMeasures(const QDomElement &element, const QString &name, Findi
         }
         const QString problem = problemOf(value, attribute == measures.last(), positions.contains(attribute));
         if (!problem.isEmpty()) {
-            found.add(SmilUnit(value).valid ? Finding::WrongMeasure : Finding::UnreadMeasure, element.lineNumber(),
+            found.add(SmilUnit(value).valid ? "wrong-measure" : "unread-measure", element.lineNumber(),
                       QStringLiteral("%1%2 of %3").arg(problem, attribute, name), excerpt(value));
         }
     }
@@ -71,16 +71,15 @@ static void checkMedium(const QDomElement &element, const QString &name, Walk &w
     MessageParts &parts = walk.message.parts;
     const int part = parts.find(src);
     if (src.isEmpty()) {
-        walk.found.add(Finding::MissingSrc, line, QStringLiteral("no src: %1").arg(name));
+        walk.found.add("missing-src", line, QStringLiteral("no src: %1").arg(name));
     } else if (part >= 0) {
         walk.parts.insert(part);
         const QString type = parts.read(part).type;
         if (!mayPlay(name, kindOfType(type))) {
-            walk.found.add(Finding::WrongKind, line, QStringLiteral("the part of %1 is %2:").arg(name, type),
-                           excerpt(src));
+            walk.found.add("wrong-kind", line, QStringLiteral("the part of %1 is %2:").arg(name, type), excerpt(src));
         }
     } else if (parts.areKnown()) {
-        walk.found.add(Finding::MissingPart, line, QStringLiteral("no such part: src of %1").arg(name), excerpt(src));
+        walk.found.add("missing-part", line, QStringLiteral("no such part: src of %1").arg(name), excerpt(src));
     }
 }
 
@@ -88,9 +87,9 @@ static void checkRegion(const QDomElement &element, Walk &walk)
 {
     const QString id = element.attribute(QStringLiteral("id"));
     if (id.isEmpty()) {
-        walk.found.add(Finding::MissingId, element.lineNumber(), QStringLiteral("region without id"));
+        walk.found.add("missing-id", element.lineNumber(), QStringLiteral("region without id"));
     } else if (!walk.regions.try_emplace(id, element.lineNumber()).second) {
-        walk.found.add(Finding::DuplicateRegion, element.lineNumber(),
+        walk.found.add("duplicate-region", element.lineNumber(),
                        QStringLiteral("more than one region: %1").arg(excerpt(id)));
     }
 }
@@ -106,7 +105,7 @@ static void visit(const QDomElement &element, const QString &name, Walk &walk)
     const QList<Child> children = childrenOf(element, name);
     for (const Child &child : children) {
         if (isNode(name) && isNode(child.name)) {
-            walk.found.add(Finding::NestedTimeline, child.element.lineNumber(),
+            walk.found.add("nested-timeline", child.element.lineNumber(),
                            QStringLiteral("nested: %1 in %2").arg(child.name, name));
         }
         if (!child.isLost) {
@@ -121,13 +120,12 @@ static void checkReferences(Walk &walk)
     for (const auto &[region, line] : walk.references) {
         used.insert(region);
         if (walk.regions.count(region) == 0) {
-            walk.found.add(Finding::UnknownRegion, line, QStringLiteral("no such region: %1").arg(excerpt(region)));
+            walk.found.add("unknown-region", line, QStringLiteral("no such region: %1").arg(excerpt(region)));
         }
     }
     for (const auto &[region, line] : walk.regions) {
         if (used.count(region) == 0) {
-            walk.found.add(Finding::UnusedRegion, line,
-                           QStringLiteral("nothing plays in region: %1").arg(excerpt(region)));
+            walk.found.add("unused-region", line, QStringLiteral("nothing plays in region: %1").arg(excerpt(region)));
         }
     }
 }
@@ -154,14 +152,14 @@ void findFaults(const QDomElement &smil, Message &message, Findings &found)
     checkReferences(walk);
     const MessageParts &parts = message.parts;
     if (message.smil.isEmpty() && message.problem.isNone()) {
-        found.add(Finding::NoSmil, 0, QStringLiteral("has no SMIL part"));
+        found.add("no-smil", 0, QStringLiteral("has no SMIL part"));
     }
     for (int i = 0; i < parts.size(); ++i) {
         const QString name = excerpt(parts.at(i).name);
         if (isHidden(i, parts)) {
-            found.add(Finding::DuplicatePart, smil.lineNumber(), QStringLiteral("another part has the name"), name);
+            found.add("duplicate-part", smil.lineNumber(), QStringLiteral("another part has the name"), name);
         } else if (walk.parts.count(i) == 0 && !smil.isNull() && !parts.headers().at(i).isSmil()) {
-            found.add(Finding::UnusedPart, smil.lineNumber(), QStringLiteral("nothing refers to the part"), name);
+            found.add("unused-part", smil.lineNumber(), QStringLiteral("nothing refers to the part"), name);
         }
     }
 }

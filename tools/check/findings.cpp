@@ -6,31 +6,19 @@
 #include "base/escaping.h"
 
 #include <algorithm>
-#include <iterator>
-
-// In the order of Finding.
-static const char *const names[] = {
-    "unread-measure",  "wrong-measure", "unknown-region", "unused-region",  "duplicate-region",
-    "missing-id",      "missing-src",   "empty-timeline", "blank-time",     "crowded-slide",
-    "nested-timeline", "no-smil",       "missing-part",   "duplicate-part", "unused-part",
-    "wrong-kind",      "lost",          "moved-top-size", "lost-in-body",   "lost-element",
-    "lost-attribute",  "changed-order"};
-static_assert(std::size(names) == std::size_t(Finding::ChangedOrder) + 1, "every finding has a name");
 
 static const int shownDetails = 3;
 
-static QString nameOf(Finding finding)
+const QStringList &findingNames()
 {
-    return QLatin1String(names[int(finding)]);
-}
-
-QStringList findingNames()
-{
-    QStringList all;
-    for (const char *const name : names) {
-        all.append(QLatin1String(name));
-    }
-    return all;
+    static const QStringList names =
+        QStringLiteral(
+            "unread-measure wrong-measure unknown-region unused-region duplicate-region missing-id missing-src "
+            "empty-timeline blank-time crowded-slide nested-timeline no-smil missing-part duplicate-part "
+            "unused-part wrong-kind lost moved-top-size lost-in-body lost-element lost-attribute "
+            "changed-order")
+            .split(QLatin1Char(' '));
+    return names;
 }
 
 QString excerpt(const QString &text)
@@ -38,11 +26,11 @@ QString excerpt(const QString &text)
     return quoted(shortened(text, bounds::quotation));
 }
 
-void Findings::add(Finding finding, int line, const QString &subject, const QString &detail)
+void Findings::add(const char *name, int line, const QString &subject, const QString &detail)
 {
-    const auto [index, isNew] = indexes.try_emplace({finding, subject}, int(entries.size()));
+    const auto [index, isNew] = indexes.try_emplace(subject, int(entries.size()));
     if (isNew) {
-        entries.append({finding, line, subject, {}, 0});
+        entries.append({QLatin1String(name), line, subject, {}, 0});
     }
     Entry &entry = entries[index->second];
     ++entry.count;
@@ -56,10 +44,11 @@ QStringList Findings::lines(const QString &file, const QStringList &ignored) con
 {
     QList<Entry> sorted = entries;
     std::stable_sort(sorted.begin(), sorted.end(), [](const Entry &a, const Entry &b) { return a.line < b.line; });
+    const QString lost = QStringLiteral("lost");
     QStringList lines;
     for (const Entry &entry : std::as_const(sorted)) {
-        const bool isLost = entry.finding > Finding::Lost;
-        if (ignored.contains(nameOf(entry.finding)) || (isLost && ignored.contains(nameOf(Finding::Lost)))) {
+        const bool isLost = findingNames().indexOf(entry.name) > findingNames().indexOf(lost);
+        if (ignored.contains(entry.name) || (isLost && ignored.contains(lost))) {
             continue;
         }
         const QString place = entry.line > 0 ? QLatin1Char(':') + QString::number(entry.line) : QString();
@@ -71,7 +60,7 @@ QStringList Findings::lines(const QString &file, const QStringList &ignored) con
         if (entry.count > 1) {
             text += QStringLiteral(" (%1 times)").arg(entry.count);
         }
-        lines.append(text + QLatin1String(" [") + nameOf(entry.finding) + QLatin1Char(']'));
+        lines.append(text + QLatin1String(" [") + entry.name + QLatin1Char(']'));
     }
     return lines;
 }

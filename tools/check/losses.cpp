@@ -3,8 +3,8 @@
 
 #include "base/bounds.h"
 #include "base/escaping.h"
-#include "check/checks.h"
 #include "check/elementtable.h"
+#include "check/findings.h"
 
 static QString nameOf(const QString &name)
 {
@@ -28,16 +28,16 @@ static void findInAttributes(const QDomElement &element, const QString &name, Fi
     names.sort(); // a DOM keeps them in an order that differs from run to run
     for (const QString &attribute : std::as_const(names)) {
         if (!elementNamed(name).attributes.contains(attribute)) {
-            found.add(Finding::LostAttribute, element.lineNumber(),
+            found.add("lost-attribute", element.lineNumber(),
                       QStringLiteral("lost when written back: %1 of %2").arg(nameOf(attribute), name));
         }
     }
     if (name == QLatin1String("body") && isRead(element, "dur")) {
-        found.add(Finding::LostInBody, element.lineNumber(), QStringLiteral("lost when written back: dur of body"),
+        found.add("lost-in-body", element.lineNumber(), QStringLiteral("lost when written back: dur of body"),
                   excerpt(element.attribute(QStringLiteral("dur"))));
     }
     if (name == QLatin1String("topLayout") && (isRead(element, "width") || isRead(element, "height"))) {
-        found.add(Finding::MovedTopSize, element.lineNumber(),
+        found.add("moved-top-size", element.lineNumber(),
                   QStringLiteral("written back as the root-layout's size: topLayout"));
     }
 }
@@ -51,14 +51,15 @@ static void walk(const QDomElement &element, const QString &name, Findings &foun
     for (const Child &child : children) {
         const int line = child.element.lineNumber();
         if (child.isLost) {
-            const QString again = child.isAgain ? QStringLiteral("another ") : QString();
+            const QString again =
+                elementNamed(name).first.contains(child.name) ? QStringLiteral("another ") : QString();
             found.add(
-                Finding::LostElement, line,
+                "lost-element", line,
                 QStringLiteral("lost when written back: %1%2 in %3").arg(again, nameOf(child.element.tagName()), name));
             continue;
         }
         if (name == QLatin1String("body") && isMedium(child.name)) {
-            found.add(Finding::LostInBody, line, QStringLiteral("lost when written back: media directly in body"),
+            found.add("lost-in-body", line, QStringLiteral("lost when written back: media directly in body"),
                       excerpt(child.element.attribute(QStringLiteral("src"))));
         } else {
             outOfOrder = outOfOrder || (mediaSeen && isNode(child.name));
@@ -67,7 +68,7 @@ static void walk(const QDomElement &element, const QString &name, Findings &foun
         walk(child.element, child.name, found);
     }
     if (outOfOrder) {
-        found.add(Finding::ChangedOrder, element.lineNumber(),
+        found.add("changed-order", element.lineNumber(),
                   QStringLiteral("written back in another order: media before nested elements in %1").arg(name));
     }
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "base/timetext.h"
-#include "check/checks.h"
+#include "check/findings.h"
 
 #include <smilparser/smilplayback.h>
 
@@ -23,7 +23,7 @@ void findTiming(const QDomElement &smil, const SmilLayout &layout, Findings &fou
     double seen = 0; // until when something can be seen
     const auto findBlank = [&](double until) {
         if (seen < until) {
-            found.add(Finding::BlankTime, bodyLine, QStringLiteral("nothing can be seen:"),
+            found.add("blank-time", bodyLine, QStringLiteral("nothing can be seen:"),
                       QStringLiteral("from %1 to %2").arg(clockText(seen), clockText(until)));
         }
     };
@@ -38,7 +38,7 @@ void findTiming(const QDomElement &smil, const SmilLayout &layout, Findings &fou
                           : QStringLiteral("in region %1:").arg(excerpt(cue.ref.region)));
         double &end = ends[{subject, region}];
         if (cue.begin < end) {
-            found.add(Finding::CrowdedSlide, cue.line < 0 ? bodyLine : cue.line, subject, excerpt(cue.ref.src));
+            found.add("crowded-slide", cue.line < 0 ? bodyLine : cue.line, subject, excerpt(cue.ref.src));
         }
         end = qMax(end, cue.end);
         if (cue.ref.type != SmilRef::Audio) {
@@ -47,7 +47,7 @@ void findTiming(const QDomElement &smil, const SmilLayout &layout, Findings &fou
         }
     }
     if (ends.empty()) {
-        found.add(Finding::EmptyTimeline, bodyLine, QStringLiteral("nothing plays"));
+        found.add("empty-timeline", bodyLine, QStringLiteral("nothing plays"));
     } else {
         findBlank(timeline.duration());
     }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "check/checks.h"
+#include "check/findings.h"
 #include "commands/commands.h"
 
 #include <QtCore/QIODevice>

@@ -22,6 +22,9 @@ const Command *const allCommands[] = {&showCommand,  &renderCommand,  &storyboar
 /** Writes the model of the message to @p out, as an indented outline. */
 void show(const Message &message, QIODevice &out);
 
+/** Writes the same as a line of JSON, with what plays when and where, or why the message or its SMIL cannot be read. */
+void showJson(const Message &message, QIODevice &out);
+
 /** Writes the model to @p out as indented XML. */
 void render(const Message &message, QIODevice &out);
 

@@ -53,13 +53,12 @@ static QStringList lost(const Message &message, const QStringList &srcs, const Q
     return lines;
 }
 
-static void write(const Message &message, const QString &path, QIODevice &out, Result &result)
+static Result writeParts(const Message &message, const QString &path, QIODevice &out)
 {
     if (!QDir().mkpath(path)) {
-        result.ok = false;
-        result.problems.append(path + QLatin1String(": is no folder, and none can be made there"));
-        return;
+        return failure(path, QStringLiteral("is no folder, and none can be made there"));
     }
+    Result result;
     QStringList srcs;
     const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
     for (const SmilCue &cue : cues) {
@@ -77,17 +76,14 @@ static void write(const Message &message, const QString &path, QIODevice &out, R
         }
     }
     result.problems += lost(message, srcs, path, names);
+    return result;
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, [&](Message &message) {
-        if (!message.parts.areKnown()) {
-            return failure(file, QStringLiteral("is a SMIL part alone, without others"));
-        }
-        Result result;
-        write(message, arguments.folder, out, result);
-        return result;
+        return message.parts.areKnown() ? writeParts(message, arguments.folder, out)
+                                        : failure(file, QStringLiteral("is a SMIL part alone, without others"));
     });
 }
 

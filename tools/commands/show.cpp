@@ -6,7 +6,6 @@
 #include "base/timetext.h"
 #include "commands/commands.h"
 #include "input/content.h"
-#include "json/json.h"
 
 #include <smilparser/smilplayback.h>
 
@@ -32,30 +31,23 @@ static QString size(const SmilUnit &width, const SmilUnit &height)
                                          : width.toString() + QLatin1String(" x ") + height.toString();
 }
 
-static QString position(QLatin1String edge, const SmilUnit &distance)
-{
-    return distance.valid ? QLatin1String(", ") + edge + QLatin1Char(' ') + distance.toString() : QString();
-}
-
 static QString describe(const SmilRegion &region)
 {
-    QString text = QLatin1String("region ") + quoted(region.id) + QLatin1String(": ")
-        + size(region.width, region.height) + position(QLatin1String("left"), region.left)
-        + position(QLatin1String("top"), region.top) + position(QLatin1String("right"), region.right)
-        + position(QLatin1String("bottom"), region.bottom);
-    if (!region.fit.isEmpty()) {
-        text += QLatin1String(", fit ") + quoted(region.fit);
+    QString text =
+        QLatin1String("region ") + quoted(region.id) + QLatin1String(": ") + size(region.width, region.height);
+    for (const auto &[edge, distance] : {std::pair(QLatin1String(", left "), region.left),
+                                         {QLatin1String(", top "), region.top},
+                                         {QLatin1String(", right "), region.right},
+                                         {QLatin1String(", bottom "), region.bottom}}) {
+        text += distance.valid ? edge + distance.toString() : QString();
     }
-    return text;
+    return region.fit.isEmpty() ? text : text + QLatin1String(", fit ") + quoted(region.fit);
 }
 
 static QString describe(const SmilRef &ref)
 {
-    QString text = elementName(ref.type) + QLatin1Char(' ') + quoted(ref.src);
-    if (!ref.region.isEmpty()) {
-        text += QLatin1String(" in ") + quoted(ref.region);
-    }
-    return text;
+    const QString text = elementName(ref.type) + QLatin1Char(' ') + quoted(ref.src);
+    return ref.region.isEmpty() ? text : text + QLatin1String(" in ") + quoted(ref.region);
 }
 
 static void showContents(QIODevice &out, int level, const SmilNode &node)
@@ -80,10 +72,7 @@ static void showHeader(QIODevice &out, const SmilHeader &header)
         const QString id = meta.id.isEmpty() ? QString() : QLatin1String(", id ") + quoted(meta.id);
         line(out, 2, QLatin1String("meta ") + quoted(meta.name) + QLatin1String(": ") + quoted(meta.content) + id);
     }
-}
-
-static void showLayout(QIODevice &out, const SmilLayout &layout)
-{
+    const SmilLayout &layout = header.layout;
     line(out, 1, QStringLiteral("layout"));
     line(out, 2, QLatin1String("root-layout: ") + size(layout.rootLayoutWidth, layout.rootLayoutHeight));
     if (layout.topLayoutWidth.valid || layout.topLayoutHeight.valid) {
@@ -117,7 +106,6 @@ static void showMessage(QIODevice &out, const Message &message)
 static void showSmil(QIODevice &out, const SmilDocument &document)
 {
     showHeader(out, document.header);
-    showLayout(out, document.header.layout);
     const SmilNode &body = document.body.root;
     line(out, 1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
     showContents(out, 2, body);

@@ -10,34 +10,23 @@
 #include <algorithm>
 #include <cstdio>
 
-/** Reads up to @p size bytes in all. */
-static void readUpTo(QFile &file, qint64 size, QByteArray &bytes)
-{
-    // A pipe gives what is there so far, and nothing at its end only.
-    QByteArray more;
-    do {
-        more = file.read(size - bytes.size());
-        bytes += more;
-    } while (!more.isEmpty());
-}
-
 static QString readFile(const QString &name, QByteArray &bytes)
 {
     QFile file(name);
-    const bool opened =
-        name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    qint64 largest = bounds::presentation;
-    if (opened) {
-        readUpTo(file, largest + 1, bytes);
-        if (isMms(bytes)) {
-            largest = bounds::message;
-            readUpTo(file, largest + 1, bytes);
-        }
-    }
-    if (!opened || file.error() != QFileDevice::NoError) {
+    if (!(name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly))) {
         return file.errorString();
     }
-    return bytes.size() <= largest ? QString() : QStringLiteral("larger than %1 MiB").arg(largest / bounds::mebibyte);
+    // A pipe gives what is there so far, and nothing at its end only.
+    QByteArray more;
+    qint64 largest = 0;
+    do {
+        largest = isMms(bytes) ? bounds::message : bounds::presentation;
+        more = file.read(largest + 1 - bytes.size());
+        bytes += more;
+    } while (!more.isEmpty());
+    return file.error() != QFileDevice::NoError ? file.errorString()
+        : bytes.size() > largest                ? QStringLiteral("larger than %1 MiB").arg(largest / bounds::mebibyte)
+                                                : QString();
 }
 
 /** The part that is the SMIL: the one to start with, or else the first; -1 for none. */
@@ -77,15 +66,11 @@ static bool looksLikeXml(const QByteArray &bytes)
 
 static QString missingElement(SmilParser::Outcome outcome, const QDomDocument &dom)
 {
-    switch (outcome) {
-    case SmilParser::NoSmil:
-        return QStringLiteral("Fail to find SMIL document! The root element is %1, not \"smil\".")
-            .arg(quoted(dom.documentElement().tagName().left(bounds::quotation)));
-    case SmilParser::NoHead:
-        return QStringLiteral("Fail to find SMIL head!");
-    default:
-        return QStringLiteral("Fail to find SMIL body!");
-    }
+    const QString root = quoted(dom.documentElement().tagName().left(bounds::quotation));
+    return outcome == SmilParser::NoHead ? QStringLiteral("Fail to find SMIL head!")
+        : outcome == SmilParser::NoBody
+        ? QStringLiteral("Fail to find SMIL body!")
+        : QStringLiteral("Fail to find SMIL document! The root element is %1, not \"smil\".").arg(root);
 }
 
 static void parse(SmilParser::ReadOptions options, Message &message)
@@ -130,7 +115,7 @@ Message readBytes(const QByteArray &bytes, const QString &file, const QString &f
     QString problem;
     if (isMms(bytes)) {
         problem = takeApart(bytes, message);
-        message.problem = problem.isEmpty() ? Problem() : Problem{file, problem};
+        message.problem = {problem.isEmpty() ? QString() : file, problem};
     } else {
         message.smil = bytes;
         const Folder files = folder.isEmpty() ? Folder() : Folder(folder, problem);

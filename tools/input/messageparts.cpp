@@ -6,63 +6,57 @@
 
 #include <QtCore/QMimeDatabase>
 
-void MessageParts::add(const SmilPart &headers, const QByteArray &data)
-{
-    Part part;
-    for (const QString &name : {headers.name, headers.location, headers.contentId}) {
-        part.name = part.name.isEmpty() ? name : part.name;
-    }
-    part.data = data;
-    m_headers.append(headers);
-    m_parts.append(part);
-}
-
-void MessageParts::addNames()
+MessageParts::MessageParts(const QList<SmilPart> &headers)
+    : m_areKnown(true)
+    , m_headers(headers)
+    , m_parts(headers.size())
 {
     // What identifies one part goes before what another is merely called.
     for (QString SmilPart::*const name : {&SmilPart::contentId, &SmilPart::location, &SmilPart::name}) {
         for (int i = 0; i < size(); ++i) {
-            m_names.add(i, m_headers.at(i).*name);
+            const QString &said = headers.at(i).*name;
+            m_names.add(i, said);
+            m_parts[i].name = said.isEmpty() ? m_parts.at(i).name : said;
         }
     }
 }
 
-MessageParts::MessageParts(const Folder &folder, const QString &smil)
-    : m_folder(folder)
-    , m_areKnown(true)
+/** Nothing is read yet: the folder may hold much that the message does not name. */
+static QList<SmilPart> headersOf(const Folder &folder, const QString &smil)
 {
     const QMimeDatabase types;
     const QString smilName = nameIn(folder.path(), smil);
+    QList<SmilPart> headers;
     for (const QString &name : folder.files()) {
         SmilPart part;
         part.name = name;
-        add(part);
-        // Nothing is read yet: the folder may hold much that the message does not name.
-        m_headers.last().type = name == smilName ? QStringLiteral("application/smil")
-                                                 : types.mimeTypeForFile(name, QMimeDatabase::MatchExtension).name();
+        part.type = name == smilName ? QStringLiteral("application/smil")
+                                     : types.mimeTypeForFile(name, QMimeDatabase::MatchExtension).name();
+        headers.append(part);
     }
-    addNames();
+    return headers;
+}
+
+MessageParts::MessageParts(const Folder &folder, const QString &smil)
+    : MessageParts(headersOf(folder, smil))
+{
+    m_folder = folder;
 }
 
 MessageParts::MessageParts(const MmsMessage &message)
-    : m_areKnown(true)
+    : MessageParts(message.parts)
 {
-    for (int i = 0; i < int(message.parts.size()); ++i) {
-        add(message.parts.at(i), message.data.at(i));
+    for (int i = 0; i < size(); ++i) {
+        m_parts[i].data = message.data.at(i);
     }
-    addNames();
 }
 
 const MessageParts::Part &MessageParts::read(int index)
 {
     Part &part = m_parts[index];
     if (part.type.isNull() && part.problem.isEmpty()) {
-        if (!m_folder.path().isNull()) {
-            part.problem = m_folder.read(part.name, part.data);
-        }
-        if (part.problem.isEmpty()) {
-            part.type = recognisedType(part.data);
-        }
+        part.problem = m_folder.path().isNull() ? QString() : m_folder.read(part.name, part.data);
+        part.type = part.problem.isEmpty() ? recognisedType(part.data) : QString();
     }
     return part;
 }

@@ -52,8 +52,7 @@ public:
     QStringList problems(const QString &file) const;
 
 private:
-    void add(const SmilPart &headers, const QByteArray &data = QByteArray());
-    void addNames();
+    explicit MessageParts(const QList<SmilPart> &headers);
 
     Folder m_folder; ///< that has the data, or none: then the parts have it
     bool m_areKnown = false;

@@ -3,7 +3,6 @@
 
 #include "input/mms.h"
 #include "base/bounds.h"
-#include "input/assignednumbers.h"
 #include "input/wspreader.h"
 
 /** An encoded string: a text, or data that begins with the number of its character set. */

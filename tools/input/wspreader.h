@@ -4,10 +4,10 @@
 #ifndef SMILTOOL_WSPREADER_H
 #define SMILTOOL_WSPREADER_H
 
-#include <QtCore/QByteArray>
+#include <QtCore/QString>
 
 /**
- * WspReader of a message in the encoding of its headers, read from the front. What is not there reads as nothing, and
+ * Bytes of a message in the encoding of its headers, read from the front. What is not there reads as nothing, and
  * makes them bad for good. See WAP-230-WSP section 8.
  */
 struct WspReader {
@@ -36,5 +36,11 @@ struct WspReader {
     /** Whether this calls a header or a parameter by its number or its name. */
     bool is(quint64 assigned, const char *name) const;
 };
+
+/** The content type that has the number, such as "image/jpeg"; "0x7b" for a number that messages are not made of. */
+QString mediaType(quint64 number);
+
+/** The charset that has the number, such as "utf-8"; null for one that texts in messages are not written in. */
+QString charsetName(quint64 number);
 
 #endif

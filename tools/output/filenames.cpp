@@ -20,22 +20,18 @@ static QString bare(QString name)
     return name.remove(around);
 }
 
-static QString extensionOf(const QString &name)
+/** The name with a suffix before its extension, and as much of its beginning as there is room for. */
+static QString fitted(const QString &name, const QString &suffix)
 {
     const int longest = 16;
     const auto dot = name.lastIndexOf(QLatin1Char('.'));
-    return dot > 0 && name.size() - dot <= longest ? name.mid(dot) : QString();
-}
-
-/** As much of the beginning as there is room for, and the end. */
-static QString fitted(const QString &beginning, const QString &end)
-{
-    const auto most = bounds::fileName - end.toUtf8().size();
-    QString kept = beginning.left(bounds::fileName);
+    const QString extension = dot > 0 && name.size() - dot <= longest ? name.mid(dot) : QString();
+    const auto most = bounds::fileName - (suffix + extension).toUtf8().size();
+    QString kept = name.chopped(extension.size()).left(bounds::fileName);
     while (kept.toUtf8().size() > most || (!kept.isEmpty() && kept.at(kept.size() - 1).isHighSurrogate())) {
         kept.chop(1);
     }
-    return kept + end;
+    return kept + suffix + extension;
 }
 
 QString safeName(const QString &name)
@@ -49,16 +45,7 @@ QString safeName(const QString &name)
             kept += c;
         }
     }
-    const QString safe = QString::fromStdU32String(kept);
-    const QString extension = extensionOf(safe);
-    return fitted(safe.chopped(extension.size()), extension);
-}
-
-/** The same safe name with a number before its extension: "photo-2.jpg". */
-static QString numberedName(const QString &safe, int number)
-{
-    const QString extension = extensionOf(safe);
-    return fitted(safe.chopped(extension.size()), QStringLiteral("-%1%2").arg(number).arg(extension));
+    return fitted(QString::fromStdU32String(kept), QString());
 }
 
 static QString nameOf(int part, const Message &message)
@@ -87,11 +74,11 @@ QVector<QString> fileNames(const Message &message, const QStringList &srcs)
             give(part, name);
         }
     }
-    int number = 1; // for all names: none is tried twice, however many parts have names that differ at the end only
+    int number = 1; // as in "photo-2.jpg"; one for all, so that parts of like names do not try all numbers each
     for (int part = 0; part < int(names.size()); ++part) {
         const QString name = names.at(part).isEmpty() ? nameOf(part, message) : QString();
         if (!name.isEmpty() && !give(part, name)) {
-            while (!give(part, numberedName(name, ++number))) { }
+            while (!give(part, fitted(name, QStringLiteral("-%1").arg(++number)))) { }
         }
     }
     return names;

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "json/json.h"
 #include "base/bounds.h"
 #include "base/escaping.h"
+#include "commands/commands.h"
 #include "input/content.h"
 
 #include <smilparser/smilplayback.h>
@@ -13,9 +13,14 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
+static QJsonValue stated(bool isStated, const QJsonValue &value)
+{
+    return isStated ? value : QJsonValue(QJsonValue::Undefined);
+}
+
 static QJsonValue text(const QString &text)
 {
-    return text.isNull() ? QJsonValue(QJsonValue::Undefined) : QJsonValue(text);
+    return stated(!text.isNull(), text);
 }
 
 static QJsonValue header(const QString &header)
@@ -48,25 +53,16 @@ static QJsonArray array(const List &elements, Make make)
     return result;
 }
 
-static QJsonValue measure(const SmilUnit &measure)
-{
-    static const char *const units[] = {"pt", "in", "cm", "px", "%", "s", ""};
-    return !measure.valid ? QJsonValue(QJsonValue::Undefined)
-                          : object({{"value", number(measure.value)},
-                                    {"unit", QLatin1String(units[measure.unit])},
-                                    {"text", measure.toString()}});
-}
-
 static QJsonObject regionObject(const SmilRegion &region)
 {
     return object({{"id", text(region.id)},
                    {"fit", text(region.fit)},
-                   {"width", measure(region.width)},
-                   {"height", measure(region.height)},
-                   {"left", measure(region.left)},
-                   {"top", measure(region.top)},
-                   {"right", measure(region.right)},
-                   {"bottom", measure(region.bottom)}});
+                   {"width", text(region.width.toString())},
+                   {"height", text(region.height.toString())},
+                   {"left", text(region.left.toString())},
+                   {"top", text(region.top.toString())},
+                   {"right", text(region.right.toString())},
+                   {"bottom", text(region.bottom.toString())}});
 }
 
 static QJsonObject headerObject(const SmilHeader &header)
@@ -75,10 +71,10 @@ static QJsonObject headerObject(const SmilHeader &header)
     const auto metaObject = [](const SmilMeta &meta) {
         return object({{"id", text(meta.id)}, {"name", text(meta.name)}, {"content", text(meta.content)}});
     };
-    const QJsonObject layoutObject = object({{"rootLayoutWidth", measure(layout.rootLayoutWidth)},
-                                             {"rootLayoutHeight", measure(layout.rootLayoutHeight)},
-                                             {"topLayoutWidth", measure(layout.topLayoutWidth)},
-                                             {"topLayoutHeight", measure(layout.topLayoutHeight)},
+    const QJsonObject layoutObject = object({{"rootLayoutWidth", text(layout.rootLayoutWidth.toString())},
+                                             {"rootLayoutHeight", text(layout.rootLayoutHeight.toString())},
+                                             {"topLayoutWidth", text(layout.topLayoutWidth.toString())},
+                                             {"topLayoutHeight", text(layout.topLayoutHeight.toString())},
                                              {"regions", array(layout.regions, regionObject)}});
     return object({{"id", text(header.id)},
                    {"className", text(header.className)},
@@ -98,22 +94,18 @@ static QJsonObject cueObject(const SmilCue &cue, const SmilScreen &screen, int p
     for (auto param = cue.params.cbegin(); param != cue.params.cend(); ++param) {
         params.insert(param.key(), text(param.value()));
     }
-    QJsonObject result = object({{"begin", number(cue.begin)},
-                                 {"end", number(cue.end)},
-                                 {"ref", refObject(cue.ref)},
-                                 {"alt", text(cue.alt)},
-                                 {"params", params}});
-    if (cue.ref.type != SmilRef::Audio) {
-        // When nothing shares the area with it.
-        const QRectF area =
-            screen.regionRects().value(screen.regionIndex(cue.ref.region), QRectF(QPointF(), screen.size()));
-        result.insert(QLatin1String("area"),
-                      object({{"x", area.x()}, {"y", area.y()}, {"width", area.width()}, {"height", area.height()}}));
-    }
-    if (part >= 0) {
-        result.insert(QLatin1String("part"), part);
-    }
-    return result;
+    const bool isSound = cue.ref.type == SmilRef::Audio;
+    const QRectF area = screen.rects({cue}).constFirst(); // when nothing shares it
+    return object(
+        {{"begin", number(cue.begin)},
+         {"end", number(cue.end)},
+         {"ref", refObject(cue.ref)},
+         {"alt", text(cue.alt)},
+         {"params", params},
+         {"area",
+          stated(!isSound,
+                 object({{"x", area.x()}, {"y", area.y()}, {"width", area.width()}, {"height", area.height()}}))},
+         {"part", stated(part >= 0, part)}});
 }
 
 static void addMessage(const Message &message, QJsonObject &json)
@@ -131,17 +123,8 @@ static void addMessage(const Message &message, QJsonObject &json)
     json.insert(QLatin1String("from"), header(mms.from));
     json.insert(QLatin1String("to"), array(mms.to, header));
     json.insert(QLatin1String("subject"), header(mms.subject));
-    json.insert(QLatin1String("date"), text(mms.date.isValid() ? mms.date.toString(Qt::ISODate) : QString()));
+    json.insert(QLatin1String("date"), text(mms.date.toString(Qt::ISODate)));
     json.insert(QLatin1String("parts"), array(mms.parts, partObject));
-}
-
-static void addProblem(const Problem &problem, QJsonObject &json)
-{
-    json.insert(QLatin1String("error"), problem.text);
-    if (problem.line != 0) {
-        json.insert(QLatin1String("line"), problem.line);
-        json.insert(QLatin1String("column"), problem.column);
-    }
 }
 
 static QByteArray written(const QJsonObject &object)
@@ -179,7 +162,7 @@ static void writeSmil(const Message &message, QIODevice &out)
     writeList(out, "nodes", nodes, [](const NodeAtDepth &at) {
         return object({{"depth", at.second},
                        {"type", QLatin1String(at.first->type == SmilNode::Seq ? "seq" : "par")},
-                       {"dur", measure(at.first->dur)},
+                       {"dur", text(at.first->dur.toString())},
                        {"refs", array(at.first->refs, refObject)}});
     });
     const SmilScreen screen(message.document.header.layout);
@@ -190,22 +173,20 @@ static void writeSmil(const Message &message, QIODevice &out)
 
 void showJson(const Message &message, QIODevice &out)
 {
-    QJsonObject json = object({{"file", message.file}});
+    const Problem &problem = message.problem;
+    const bool isComplete = message.outcome == SmilParser::Complete;
     const SmilSlideshow show = message.isReadable() ? message.slideshow() : SmilSlideshow();
-    if (!message.problem.isNone()) {
-        addProblem(message.problem, json);
-    }
-    if (message.isReadable()) {
-        json.insert(QLatin1String("duration"), number(show.duration()));
-    }
+    QJsonObject json = object({{"file", message.file},
+                               {"error", text(problem.text)},
+                               {"line", stated(problem.line != 0, problem.line)},
+                               {"column", stated(problem.line != 0, problem.column)},
+                               {"duration", stated(message.isReadable(), number(show.duration()))},
+                               {"header", stated(isComplete, headerObject(message.document.header))}});
     if (!message.mms.parts.isEmpty()) {
         addMessage(message, json);
     }
-    if (message.outcome == SmilParser::Complete) {
-        json.insert(QLatin1String("header"), headerObject(message.document.header));
-    }
     out.write(written(json).chopped(1));
-    if (message.outcome == SmilParser::Complete) {
+    if (isComplete) {
         writeSmil(message, out);
     }
     if (message.isReadable()) {
