@@ -3,7 +3,6 @@
 
 #include "commandline.h"
 #include "check/findings.h"
-#include "commands/commands.h"
 
 #include <smilparser/smilparser_version.h>
 
@@ -33,9 +32,12 @@ static const struct OptionRow {
     {"v version", "Print the version."},
 };
 
-static QStringList namesOf(const OptionRow &option)
+static QCommandLineOption optionOf(const OptionRow &row)
 {
-    return QString::fromLatin1(option.names).split(QLatin1Char(' '));
+    const QStringList names = QString::fromLatin1(row.names).split(QLatin1Char(' '));
+    const QString more = names.last() == QLatin1String("ignore") ? findingNames().join(QLatin1String(", ")) : QString();
+    return QCommandLineOption(names, QLatin1String(row.summary) + more, QLatin1String(row.value),
+                              QLatin1String(row.byDefault));
 }
 
 /** Without a command, only what every command has. */
@@ -62,17 +64,13 @@ static QString helpText()
     return text + QLatin1String("\n  help        Prints this, or the help of a command.");
 }
 
-/** All options are known, so that a word is a value or a file whatever the command; the help has the command's own. */
 static void setUp(QCommandLineParser &parser, const Command *command)
 {
     for (const OptionRow &row : options) {
-        const QString names = qstrcmp(row.names, "ignore") == 0 ? findingNames().join(QLatin1String(", ")) : QString();
-        QCommandLineOption option(namesOf(row), QLatin1String(row.summary) + names, QLatin1String(row.value),
-                                  QLatin1String(row.byDefault));
-        if (!hasOption(command, namesOf(row).last())) {
-            option.setFlags(QCommandLineOption::HiddenFromHelp);
+        const QCommandLineOption option = optionOf(row);
+        if (hasOption(command, option.names().last())) {
+            parser.addOption(option);
         }
-        parser.addOption(option);
     }
     const QString file = QStringLiteral("FILE");
     if (command) {
@@ -101,7 +99,8 @@ static Arguments argumentsOf(const QCommandLineParser &parser)
     Arguments arguments;
     arguments.files = parser.positionalArguments().mid(1);
     arguments.parts = parser.value(QStringLiteral("parts"));
-    arguments.output = parser.value(QStringLiteral("output"));
+    const QString output = parser.value(QStringLiteral("output"));
+    arguments.output = output == QLatin1String("-") ? QString() : output;
     arguments.folder = parser.value(QStringLiteral("directory"));
     arguments.ignored = parser.values(QStringLiteral("ignore"));
     arguments.size = sizeOf(parser.value(QStringLiteral("size")));
@@ -145,8 +144,11 @@ static QString problemWith(const Command &command, const Arguments &arguments)
 
 QString parse(const QStringList &words, CommandLine &line)
 {
+    // This one knows the options of every command, to find the command among their values.
     QCommandLineParser all;
-    setUp(all, nullptr);
+    for (const OptionRow &row : options) {
+        all.addOption(optionOf(row));
+    }
     all.parse(words);
     const QStringList given = all.positionalArguments();
     const bool help = given.value(0) == QLatin1String("help");
@@ -160,18 +162,12 @@ QString parse(const QStringList &words, CommandLine &line)
     if (!parser.parse(words)) {
         return parser.errorText();
     }
-    for (const OptionRow &option : options) {
-        const QString other = namesOf(option).last();
-        if (parser.isSet(other) && !hasOption(line.command, other)) {
-            return QStringLiteral("Unknown option '%1'.").arg(other);
-        }
-    }
     const bool version = parser.isSet(QStringLiteral("version"));
     if (help || version || parser.isSet(QStringLiteral("help"))) {
         line.answer = version ? QStringLiteral("smiltool " SMILPARSER_VERSION_STRING "\n")
                               : parser.helpText().trimmed() + QLatin1Char('\n');
         return QString();
     }
-    line.arguments = argumentsOf(parser);
+    line.arguments = argumentsOf(all);
     return line.command ? problemWith(*line.command, line.arguments) : QStringLiteral("no command given.");
 }

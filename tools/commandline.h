@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_COMMANDLINE_H
 #define SMILTOOL_COMMANDLINE_H
 
-#include "commands/command.h"
+#include "commands/commands.h"
 
 /** What the tool is told to do. */
 struct CommandLine {

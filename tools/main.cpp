@@ -3,17 +3,15 @@
 
 #include "base/escaping.h"
 #include "commandline.h"
+#include "output/outputfile.h"
 
 #include <smilparser/mmslogger.h>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
 
-#include <cerrno>
 #include <clocale>
 #include <csignal>
-#include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <langinfo.h>
 #include <unistd.h>
@@ -22,15 +20,15 @@ bool MMSLogger::qdebugEnabled = false;
 
 enum ExitStatus { Success = 0, Failure = 1, BadUsage = 2 };
 
-/** Writes to standard output, or else why not to standard error. */
-static bool print(const QByteArray &text)
+/** Writes the file, or to standard output, or else why not to standard error. */
+static bool write(const QString &file, const QByteArray &data)
 {
-    const bool isWritten = std::fwrite(text.constData(), 1, size_t(text.size()), stdout) == size_t(text.size())
-        && std::fflush(stdout) == 0;
-    if (!isWritten) {
-        printError(QLatin1String("smiltool: standard output: ") + QString::fromLocal8Bit(std::strerror(errno)));
+    const QString problem = writeFile(file, data);
+    if (!problem.isEmpty()) {
+        printError((file.isNull() ? QStringLiteral("smiltool: standard output") : file) + QLatin1String(": ")
+                   + problem);
     }
-    return isWritten;
+    return problem.isEmpty();
 }
 
 static int run(const Command &command, const Arguments &arguments)
@@ -41,11 +39,11 @@ static int run(const Command &command, const Arguments &arguments)
         QBuffer out;
         out.open(QIODevice::WriteOnly);
         const Result result = command.run(file, arguments, out);
-        const bool isPrinted = print(out.data());
+        const bool isWritten = out.data().isEmpty() || write(arguments.output, out.data());
         for (const QString &problem : result.problems) {
             printError(problem);
         }
-        if (!isPrinted) {
+        if (!isWritten) {
             return Failure;
         }
         status = result.ok ? status : Failure;
@@ -96,7 +94,7 @@ int main(int argc, char *argv[])
     }
     qInstallMessageHandler(ignoreMessage);
     if (!line.answer.isEmpty()) {
-        return print(line.answer.toUtf8()) ? Success : Failure;
+        return write(QString(), line.answer.toUtf8()) ? Success : Failure;
     }
     return run(*line.command, line.arguments);
 }

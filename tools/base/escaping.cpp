@@ -26,21 +26,13 @@ static bool joins(const std::u32string &text, size_t i)
 template<typename Escape>
 static QString escape(const QString &text, Escape escaped)
 {
-    QString result;
-    result.reserve(text.size());
     const std::u32string characters = text.toStdU32String();
+    std::u32string result;
     for (size_t i = 0; i < characters.size(); ++i) {
         const char32_t c = characters[i];
-        if (needsEscaping(c) && !joins(characters, i)) {
-            result += escaped(c);
-        } else if (QChar::requiresSurrogates(c)) {
-            result += QChar(QChar::highSurrogate(c));
-            result += QChar(QChar::lowSurrogate(c));
-        } else {
-            result += QChar(ushort(c));
-        }
+        result += needsEscaping(c) && !joins(characters, i) ? escaped(c).toStdU32String() : std::u32string(1, c);
     }
-    return result;
+    return QString::fromStdU32String(result);
 }
 
 QString printable(const QString &text)
@@ -61,11 +53,6 @@ QString printableXml(const QString &xml)
         xml, [](uint c) { return c == '\n' ? QString(QLatin1Char('\n')) : QStringLiteral("&#x%1;").arg(c, 0, 16); });
 }
 
-static QString backslashed(QString text)
-{
-    return text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
-}
-
 QByteArray printableJson(const QByteArray &json)
 {
     if (std::none_of(json.cbegin(), json.cend(), [](char c) { return c < 0x20 || c == 0x7f; })) {
@@ -80,9 +67,10 @@ QByteArray printableJson(const QByteArray &json)
         .toUtf8();
 }
 
-QString quoted(const QString &text)
+QString quoted(QString text)
 {
-    return QLatin1Char('"') + printable(backslashed(text)) + QLatin1Char('"');
+    text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
+    return QLatin1Char('"') + printable(text) + QLatin1Char('"');
 }
 
 QString shortened(const QString &text, int most)

@@ -25,7 +25,7 @@ QString printableXml(const QString &xml);
 QByteArray printableJson(const QByteArray &json);
 
 /** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
-QString quoted(const QString &text);
+QString quoted(QString text);
 
 /** At most that many characters, as QString counts them, of the text; "\u2026" is the last when some are left out. */
 QString shortened(const QString &text, int most);
