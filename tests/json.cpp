@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "json/json.h"
-#include "base/escaping.h"
+#include "base/text.h"
 #include "cases.h"
 #include "commands/commands.h"
 #include "mmsbytes.h"

@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "base/bounds.h"
-#include "base/escaping.h"
-#include "base/timetext.h"
+#include "base/text.h"
 #include "commands/commands.h"
-#include "drawing/captions.h"
 #include "drawing/media.h"
-#include "drawing/svg.h"
 #include "output/outputfile.h"
 
 #include <algorithm>
@@ -91,7 +88,7 @@ void storyboard(Message &message, QIODevice &out)
     Svg svg(out, page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
             (duration + QLatin1Char(' ') + words.join(QLatin1String("; "))).trimmed(), styleSheet);
     svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
-    Media media(svg, screen.scale, message.parts);
+    Media media{svg, screen.scale, message.parts};
     for (int i = 0; i < pictures.size(); ++i) {
         svg.beginGroup(QPointF(margin + i % columns * cellWidth, margin + i / columns * cellHeight));
         draw(svg, media, pictures.at(i), screen);

@@ -3,14 +3,44 @@
 
 #include "drawing/captions.h"
 #include "base/bounds.h"
-#include "base/escaping.h"
-#include "base/timetext.h"
+#include "base/text.h"
 #include "drawing/typesetting.h"
 
 #include <algorithm>
 
 static const double narrowest = 80; // that enough of a long name still fits into
 static const int mostLines = 6; // below a frame
+
+/** The screen of the message, or one as large as a phone's where that cannot be drawn. */
+static SmilScreen screenOf(SmilLayout layout)
+{
+    const SmilScreen screen(layout);
+    const QSizeF size = screen.size();
+    if (qMin(size.width(), size.height()) >= 1 && qMax(size.width(), size.height()) <= bounds::screen) {
+        return screen;
+    }
+    const QSizeF phone = SmilScreen(SmilLayout()).size();
+    layout.rootLayoutWidth = SmilUnit(phone.width(), SmilUnit::Px);
+    layout.rootLayoutHeight = SmilUnit(phone.height(), SmilUnit::Px);
+    return SmilScreen(layout);
+}
+
+QRectF scaled(const QRectF &rectangle, double scale)
+{
+    return QRectF(rectangle.topLeft() * scale, rectangle.size() * scale);
+}
+
+ScaledScreen::ScaledScreen(const SmilLayout &layout)
+    : pixels(screenOf(layout))
+    , scale(qMin(frameWidth / pixels.size().width(), frameHeight / pixels.size().height()))
+    , size(pixels.size() * scale)
+{
+}
+
+QRectF ScaledScreen::visible(const QRectF &place) const
+{
+    return scaled(place.intersected(QRectF(QPointF(), pixels.size())), scale);
+}
 
 /** A line with a sign for the kind of the medium. */
 static QString withSign(const SmilRef &ref, const QString &text)

@@ -3,7 +3,7 @@
 
 #include "json/json.h"
 #include "base/bounds.h"
-#include "base/escaping.h"
+#include "base/text.h"
 #include "input/content.h"
 
 #include <smilparser/smilplayback.h>

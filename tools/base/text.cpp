@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "base/escaping.h"
+#include "base/text.h"
+
+#include <QtCore/qnumeric.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -80,4 +82,23 @@ QString shortened(const QString &text, int most)
     }
     const int end = most - 1 - (text.at(most - 2).isHighSurrogate() ? 1 : 0);
     return text.left(end) + QChar(0x2026);
+}
+
+QString lengthText(double seconds)
+{
+    return qIsFinite(seconds) ? QString::number(seconds) + QLatin1Char('s') : QString(QChar(0x221e));
+}
+
+QString clockText(double seconds)
+{
+    if (!(seconds < 1e9)) { // what follows has no room for more than a few million times that
+        return lengthText(seconds);
+    }
+    const qint64 thousandths = qRound64(1000 * seconds);
+    const qint64 whole = thousandths / 1000;
+    const QString clock = whole < 3600
+        ? QString::asprintf("%lld:%02lld", whole / 60, whole % 60)
+        : QString::asprintf("%lld:%02lld:%02lld", whole / 3600, whole / 60 % 60, whole % 60);
+    const qint64 rest = thousandths % 1000;
+    return rest == 0 ? clock : clock + QString::asprintf(".%03lld", rest);
 }
