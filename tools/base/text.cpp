@@ -5,7 +5,6 @@
 
 #include <QtCore/qnumeric.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <string>
 
@@ -57,9 +56,6 @@ QString printableXml(const QString &xml)
 
 QByteArray printableJson(const QByteArray &json)
 {
-    if (std::none_of(json.cbegin(), json.cend(), [](char c) { return c < 0x20 || c == 0x7f; })) {
-        return json; // as almost all are
-    }
     const auto unit = [](ushort c) { return QStringLiteral("\\u%1").arg(c, 4, 16, QLatin1Char('0')); };
     return escape(QString::fromUtf8(json),
                   [&unit](uint c) {
