@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "base/escaping.h"
+#include "base/text.h"
 #include "commands/commands.h"
 #include "output/filenames.h"
 #include "require.h"

@@ -18,7 +18,6 @@ private Q_SLOTS:
     void textFromStrangersIsEscaped();
     void lostOutputIsAnError_data();
     void lostOutputIsAnError();
-    void closedInputIsAnError();
     void inputIsReadToItsEnd();
     void messageAsItIsSent();
     void completionKnowsEveryOption();
@@ -28,31 +27,26 @@ private Q_SLOTS:
 
 void Tool::samples_data()
 {
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("sample");
-    for (const char *const command : {"show", "render", "check", "storyboard"}) {
-        for (const char *const sample : {"holiday", "greeting", "nested"}) {
-            if (qstrcmp(command, "storyboard") != 0 || qstrcmp(sample, "holiday") != 0) {
-                QTest::addRow("%s %s", command, sample) << QString::fromLatin1(command) << QString::fromLatin1(sample);
-            }
-        }
+    QTest::addColumn<QStringList>("words");
+    for (const char *const words :
+         {"show holiday", "show greeting", "show nested", "render holiday", "render greeting", "render nested",
+          "check holiday", "check greeting", "check nested", "storyboard --parts=holiday holiday",
+          "storyboard greeting", "storyboard nested", "render --bare holiday"}) {
+        QTest::newRow(words) << QString::fromLatin1(words).split(QLatin1Char(' '));
     }
-    QTest::newRow("storyboard --parts=holiday holiday")
-        << QStringLiteral("storyboard --parts=holiday") << QStringLiteral("holiday");
-    QTest::newRow("render --bare holiday") << QStringLiteral("render --bare") << QStringLiteral("holiday");
 }
 
 void Tool::samples()
 {
-    QFETCH(QString, command);
-    QFETCH(QString, sample);
-    const QStringList words = command.split(QLatin1Char(' '));
+    QFETCH(QStringList, words);
+    const QString sample = words.takeLast();
     const Outcome outcome = smiltool(words + QStringList(sample + QStringLiteral(".smil")));
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.out,
-             command.contains(QStringLiteral("--parts")) ? inDocs("figures/storyboard.svg")
-                                                         : golden(sample + QLatin1Char('.') + words.join(QString())));
-    QCOMPARE(outcome.status, words.first() == QStringLiteral("check") && !outcome.out.isEmpty() ? 1 : 0);
+             words.size() > 1 && words.first() == QLatin1String("storyboard")
+                 ? inDocs("figures/storyboard.svg")
+                 : golden(sample + QLatin1Char('.') + words.join(QString())));
+    QCOMPARE(outcome.status, words.first() == QLatin1String("check") && !outcome.out.isEmpty() ? 1 : 0);
 }
 
 void Tool::problems_data()
@@ -178,6 +172,7 @@ void Tool::lostOutputIsAnError_data()
         QTest::newRow(words) << QStringLiteral("$tool %1 >/dev/full").arg(QLatin1String(words))
                              << QStringLiteral("smiltool: standard output: No space left on device\n");
     }
+    QTest::newRow("a closed input") << QStringLiteral("$tool show - <&-") << QStringLiteral("-: Bad file descriptor\n");
     QTest::newRow("a device") << QStringLiteral("$tool storyboard holiday.smil -o /dev/full")
                               << QStringLiteral("/dev/full: No space left on device\n");
     for (const char *const words : {"storyboard holiday.smil", "compose holiday/beach.txt"}) {
@@ -200,12 +195,6 @@ void Tool::lostOutputIsAnError()
     QCOMPARE(outcome.status, 1);
     QCOMPARE(readFile(folder.filePath(QStringLiteral("old"))), QStringLiteral("old\n"));
     QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList(QStringLiteral("old")));
-}
-
-void Tool::closedInputIsAnError()
-{
-    QCOMPARE(runScript(QTemporaryDir().path(), QStringLiteral("$tool show - <&-")).err,
-             QStringLiteral("-: Bad file descriptor\n"));
 }
 
 void Tool::inputIsReadToItsEnd()
@@ -269,67 +258,57 @@ void Tool::completionKnowsEveryOption()
 
 void Tool::examples()
 {
+    const auto example = [](const char *name, const QStringList &arguments, const QByteArray &input = QByteArray()) {
+        return run(QStringLiteral(EXAMPLES_BIN_DIR "/") + QLatin1String(name), arguments, input);
+    };
     Outcome composed;
     for (const QStringList &way : {QStringList(QStringLiteral("dom")), QStringList()}) {
-        composed = run(QStringLiteral(EXAMPLES_BIN_DIR "/compose"), way);
+        composed = example("compose", way);
         QCOMPARE(composed.status, 0);
         QCOMPARE(composed.out.contains(QLatin1String("xml:lang")), !way.isEmpty());
         const Outcome rendered = smiltool("render -", composed.out.toUtf8());
         QCOMPARE(rendered.out, golden(QStringLiteral("compose.render")));
     }
-    const QString read = QStringLiteral(EXAMPLES_BIN_DIR "/read");
-    const Outcome listed = run(read, {}, composed.out.toUtf8());
+    const Outcome listed = example("read", {}, composed.out.toUtf8());
     QCOMPARE(listed.err, golden(QStringLiteral("read.err")));
     QCOMPARE(listed.status, 0);
-    const Outcome ofPhone = run(read, {}, "<smil><head/><body><par dur='5000ms'/></body></smil>");
-    QCOMPARE(ofPhone.err, QStringLiteral("slide, \"5s\"\n"));
-    QCOMPARE(run(read, {}, "<smil><head/></smil>").status, 1);
+    QCOMPARE(example("read", {}, "<smil><head/><body><par dur='5000ms'/></body></smil>").err,
+             QStringLiteral("slide, \"5s\"\n"));
+    QCOMPARE(example("read", {}, "<smil><head/></smil>").status, 1);
     const QStringList parts = {QStringLiteral("beach.jpg"), QStringLiteral("HARBOUR.JPG"), QStringLiteral("card.vcf")};
-    const Outcome shown = run(QStringLiteral(EXAMPLES_BIN_DIR "/show"), parts,
-                              readFile(QStringLiteral(EXAMPLES_DIR "/holiday.smil")).toUtf8());
-    QCOMPARE(shown.err, golden(QStringLiteral("show.err")));
+    const QString holiday = QStringLiteral(EXAMPLES_DIR "/holiday.smil");
+    QCOMPARE(example("show", parts, readFile(holiday).toUtf8()).err, golden(QStringLiteral("show.err")));
+    QCOMPARE(example("first", {holiday}).err, QStringLiteral("\"\" has 3 slides\n"));
 
-    const Outcome sent = run(QStringLiteral(EXAMPLES_BIN_DIR "/send"), {});
+    const Outcome sent = example("send", {});
     QCOMPARE(sent.err, QStringLiteral("beach___boats.jpg, hello.txt, harbour.jpg, waves.amr\n"));
-    QCOMPARE(run(read, {}, sent.out.toUtf8()).err.count(QStringLiteral("slide, \"8s\"\n")), 1);
+    QCOMPARE(example("read", {}, sent.out.toUtf8()).err.count(QStringLiteral("slide, \"8s\"\n")), 1);
 
-    const QString forward = QStringLiteral(EXAMPLES_BIN_DIR "/forward");
-    QVERIFY(run(forward, {}, sent.out.toUtf8()).out.contains(QLatin1String("title=\"Fwd: Two days at the sea\"")));
+    QVERIFY(
+        example("forward", {}, sent.out.toUtf8()).out.contains(QLatin1String("title=\"Fwd: Two days at the sea\"")));
     const Outcome forwarded =
-        run(forward, {QStringLiteral("a b.jpg"), QStringLiteral("card.vcf"), QStringLiteral("A_b.jpg")});
+        example("forward", {QStringLiteral("a b.jpg"), QStringLiteral("card.vcf"), QStringLiteral("A_b.jpg")});
     QCOMPARE(forwarded.err, QStringLiteral("a_b.jpg, card.vcf, A_b-2.jpg\n"));
     QCOMPARE(forwarded.out.count(QLatin1String("<img ")), 2);
-    QCOMPARE(run(QStringLiteral(EXAMPLES_BIN_DIR "/first"), {QStringLiteral(EXAMPLES_DIR "/holiday.smil")}).err,
-             QStringLiteral("\"\" has 3 slides\n"));
 }
 
 /** Each piece of C++ on a page is a part of an example, which is compiled. */
 void Tool::codeOnPages()
 {
-    const auto captured = [](const QString &file, const char *pattern) {
-        QStringList texts;
-        auto match = QRegularExpression(QLatin1String(pattern), QRegularExpression::DotMatchesEverythingOption)
-                         .globalMatch(readFile(file));
-        while (match.hasNext()) {
-            texts << match.next().captured(1);
-        }
-        return texts;
-    };
-    QStringList compiled;
-    for (const QFileInfo &file : QDir(QStringLiteral(EXAMPLES_DIR)).entryInfoList({QStringLiteral("*.cpp")})) {
-        for (QString code : captured(file.filePath(), "//! \\[\\w+\\]\n(.*?\n) *//! ")) {
-            const bool indented = code.startsWith(QLatin1String("    "));
-            compiled << (indented ? code.remove(QRegularExpression(QStringLiteral("(?m)^    "))) : code);
-        }
+    const auto textOf = [](const QFileInfo &file) { return readFile(file.filePath()); };
+    const QDir folder(QStringLiteral(EXAMPLES_DIR));
+    QString compiled;
+    for (const QFileInfo &file : folder.entryInfoList({QStringLiteral("*.cpp")})) {
+        const QString text = textOf(file);
+        compiled += text + QString(text).remove(QRegularExpression(QStringLiteral("(?m)^    ")));
     }
-    QStringList pages(QStringLiteral(EXAMPLES_DIR "/../README.md"));
-    for (const QFileInfo &page :
-         QDir(QStringLiteral(EXAMPLES_DIR "/../docs")).entryInfoList({QStringLiteral("*.md")})) {
-        pages << page.filePath();
-    }
-    for (const QString &page : std::as_const(pages)) {
-        for (const QString &code : captured(page, "```cpp\n(.*?)```\n")) {
-            QVERIFY2(compiled.contains(code), qPrintable(page + QStringLiteral(":\n") + code));
+    QFileInfoList pages = QDir(folder.filePath(QStringLiteral("../docs"))).entryInfoList({QStringLiteral("*.md")});
+    pages.append(QFileInfo(folder, QStringLiteral("../README.md")));
+    const QRegularExpression piece(QStringLiteral("(?s)```cpp\n(.*?)```\n"));
+    for (const QFileInfo &page : std::as_const(pages)) {
+        for (auto found = piece.globalMatch(textOf(page)); found.hasNext();) {
+            const QString code = found.next().captured(1);
+            QVERIFY2(compiled.contains(code), qPrintable(page.fileName() + QStringLiteral(":\n") + code));
         }
     }
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "base/timetext.h"
+#include "base/text.h"
 #include "check/findings.h"
 
 #include <smilparser/smilplayback.h>

@@ -33,48 +33,38 @@ static QString recognise(const QString &name, SmilRef::Type &type)
                                 : QString();
 }
 
-/** Adds the files in their order, and a line for each that is to be sent under another name, or else all problems. */
-static Result add(const QStringList &files, const QString &output, SmilComposer &composer)
+/** Adds the files in their order. Says which are to be sent under another name, or else which cannot be sent. */
+static Result add(const Arguments &arguments, SmilComposer &composer)
 {
-    Result result;
-    QStringList renamed;
-    for (const QString &file : files) {
+    const QString output = arguments.output.isNull() ? QStringLiteral("/dev/stdout") : arguments.output;
+    Result renamed;
+    Result failed = {false, {}};
+    for (const QString &file : arguments.files) {
         SmilRef::Type type = SmilRef::Ref;
         const QString problem =
             isSameFile(file, output) ? QStringLiteral("is the output itself") : recognise(file, type);
         if (!problem.isEmpty()) {
-            result.ok = false;
-            result.problems += failure(file, problem).problems;
+            failed.problems += failure(file, problem).problems;
             continue;
         }
         const QString src = composer.add(type, file);
         if (src != QFileInfo(file).fileName()) {
-            renamed.append(QStringLiteral("%1: to be sent as %2").arg(file, src));
+            renamed.problems.append(QStringLiteral("%1: to be sent as %2").arg(file, src));
         }
     }
-    if (result.ok) {
-        result.problems = renamed;
-    }
-    return result;
+    return failed.problems.isEmpty() ? renamed : failed;
 }
 
 static Result run(const QString &, const Arguments &arguments, QIODevice &out)
 {
     SmilComposer composer(arguments.size, arguments.seconds);
-    const Result added =
-        add(arguments.files, arguments.toFile() ? arguments.output : QStringLiteral("/dev/stdout"), composer);
-    if (!added.ok) {
-        return added;
+    const Result added = add(arguments, composer);
+    if (added.ok) {
+        SmilDocument message = composer.message();
+        message.header.title = arguments.title;
+        out.write(SmilParser(message).toXml() + '\n');
     }
-    SmilDocument message = composer.message();
-    message.header.title = arguments.title;
-    const QByteArray text = SmilParser(message).toXml() + '\n';
-    if (!arguments.toFile()) {
-        out.write(text);
-        return added;
-    }
-    const QString problem = writeFile(arguments.output, text);
-    return problem.isEmpty() ? added : failure(arguments.output, problem);
+    return added;
 }
 
 const Command composeCommand = {"compose",

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "base/bounds.h"
-#include "base/escaping.h"
-#include "base/timetext.h"
+#include "base/text.h"
 #include "commands/commands.h"
 #include "input/content.h"
 

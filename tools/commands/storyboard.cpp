@@ -2,15 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "base/bounds.h"
-#include "base/escaping.h"
-#include "base/timetext.h"
+#include "base/text.h"
 #include "commands/commands.h"
-#include "drawing/captions.h"
 #include "drawing/media.h"
-#include "drawing/svg.h"
 #include "output/outputfile.h"
-
-#include <QtCore/QBuffer>
 
 #include <algorithm>
 
@@ -93,7 +88,7 @@ void storyboard(Message &message, QIODevice &out)
     Svg svg(out, page, QStringLiteral("Storyboard of %1").arg(printable(message.file)),
             (duration + QLatin1Char(' ') + words.join(QLatin1String("; "))).trimmed(), styleSheet);
     svg.rectangle(QRectF(QPointF(), page), QStringLiteral("page"));
-    Media media(svg, screen.scale, message.parts);
+    Media media{svg, screen.scale, message.parts};
     for (int i = 0; i < pictures.size(); ++i) {
         svg.beginGroup(QPointF(margin + i % columns * cellWidth, margin + i / columns * cellHeight));
         draw(svg, media, pictures.at(i), screen);
@@ -102,31 +97,27 @@ void storyboard(Message &message, QIODevice &out)
     svg.text(QPointF(margin, page.height() - 4), duration + more);
 }
 
-/** Draws to a file, but never over the message or a part that it refers to. */
-static Result drawTo(const QString &name, const QString &folder, Message &message)
+/** Why the picture cannot be written there: it would take the place of the message or of a part that it refers to. */
+static QString problemWith(const QString &output, const QString &folder, const Message &message)
 {
-    if (isSameFile(message.file, name)) {
-        return failure(name, QStringLiteral("is the message itself"));
+    if (isSameFile(message.file, output)) {
+        return QStringLiteral("is the message itself");
     }
-    const int part = message.parts.find(nameIn(folder, name));
+    const int part = message.parts.find(nameIn(folder, output));
     const QList<SmilCue> cues = SmilTimeline(message.dom.documentElement()).cues();
-    if (part >= 0 && std::any_of(cues.cbegin(), cues.cend(), [&](const SmilCue &cue) {
-            return message.parts.find(cue.ref.src) == part;
-        })) {
-        return failure(name, QStringLiteral("is a part of the message"));
-    }
-    QBuffer picture;
-    picture.open(QIODevice::WriteOnly);
-    storyboard(message, picture);
-    const QString problem = writeFile(name, picture.data());
-    return problem.isEmpty() ? Result() : failure(name, problem);
+    const bool isPart = part >= 0 && std::any_of(cues.cbegin(), cues.cend(), [&](const SmilCue &cue) {
+                            return message.parts.find(cue.ref.src) == part;
+                        });
+    return isPart ? QStringLiteral("is a part of the message") : QString();
 }
 
 static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, [&](Message &message) {
-        if (arguments.toFile()) {
-            return drawTo(arguments.output, arguments.parts, message);
+        const QString &output = arguments.output;
+        const QString problem = output.isNull() ? output : problemWith(output, arguments.parts, message);
+        if (!problem.isEmpty()) {
+            return failure(output, problem);
         }
         storyboard(message, out);
         return Result();

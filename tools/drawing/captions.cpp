@@ -3,14 +3,44 @@
 
 #include "drawing/captions.h"
 #include "base/bounds.h"
-#include "base/escaping.h"
-#include "base/timetext.h"
+#include "base/text.h"
 #include "drawing/typesetting.h"
 
 #include <algorithm>
 
 static const double narrowest = 80; // that enough of a long name still fits into
 static const int mostLines = 6; // below a frame
+
+/** The screen of the message, or one as large as a phone's where that cannot be drawn. */
+static SmilScreen screenOf(SmilLayout layout)
+{
+    const SmilScreen screen(layout);
+    const QSizeF size = screen.size();
+    if (qMin(size.width(), size.height()) >= 1 && qMax(size.width(), size.height()) <= bounds::screen) {
+        return screen;
+    }
+    const QSizeF phone = SmilScreen(SmilLayout()).size();
+    layout.rootLayoutWidth = SmilUnit(phone.width(), SmilUnit::Px);
+    layout.rootLayoutHeight = SmilUnit(phone.height(), SmilUnit::Px);
+    return SmilScreen(layout);
+}
+
+QRectF scaled(const QRectF &rectangle, double scale)
+{
+    return QRectF(rectangle.topLeft() * scale, rectangle.size() * scale);
+}
+
+ScaledScreen::ScaledScreen(const SmilLayout &layout)
+    : pixels(screenOf(layout))
+    , scale(qMin(frameWidth / pixels.size().width(), frameHeight / pixels.size().height()))
+    , size(pixels.size() * scale)
+{
+}
+
+QRectF ScaledScreen::visible(const QRectF &place) const
+{
+    return scaled(place.intersected(QRectF(QPointF(), pixels.size())), scale);
+}
 
 /** A line with a sign for the kind of the medium. */
 static QString withSign(const SmilRef &ref, const QString &text)
@@ -35,44 +65,33 @@ bool isPicture(const QString &type)
     return types.contains(type);
 }
 
-static bool isDrawn(const QString &type)
+/** Writes the line into the area where no other label is. Returns whether it fits. */
+static bool addLabel(const QRectF &area, const QString &line, int region, QList<Label> &labels)
 {
-    return isPicture(type) || type == QLatin1String("text/plain");
-}
-
-/** The first line of the area, from @p from on, that no other label takes; -1 when there is none. */
-static int freeLine(const QRectF &area, const QList<Label> &labels, int from, double length)
-{
-    for (int line = from; (line + 1) * lineHeight <= area.height(); ++line) {
-        const QRectF text(area.x(), area.y() + line * lineHeight, length, lineHeight);
-        const auto taken = [&text](const Label &label) { return label.area.intersects(text); };
-        if (std::none_of(labels.cbegin(), labels.cend(), taken)) {
-            return line;
-        }
+    const QString text = area.width() < narrowest ? line : elided(line, area.width() - 8);
+    QRectF place(area.x(), area.y(), width(text) + 8, lineHeight);
+    const auto isThere = [&place](const Label &label) { return label.area.intersects(place); };
+    while (std::any_of(labels.cbegin(), labels.cend(), isThere)) {
+        place.translate(0, lineHeight);
     }
-    return -1;
+    const bool fits = place.width() <= area.width() && place.bottom() <= area.bottom();
+    if (fits) {
+        labels.append({place, area.width(), text, region});
+    }
+    return fits;
 }
 
-/** Writes the id of the region and the name into the area, if they fit. A name that does not is listed below. */
+/** Writes the id of the region, once, and the name into the area. A name that does not fit is listed below. */
 static void label(const Shown &shown, const QString &id, Picture &picture)
 {
-    const QRectF &area = shown.area;
+    QList<Label> &labels = picture.labels;
     const auto isNamed = [&shown](const Label &label) { return label.region == shown.region; };
-    const bool withId = !id.isEmpty() && 2 * lineHeight <= area.height()
-        && std::none_of(picture.labels.cbegin(), picture.labels.cend(), isNamed);
-    int next = 0;
-    for (const QString &line : withId ? QStringList{id, shown.name} : QStringList{shown.name}) {
-        const bool isId = withId && next == 0;
-        const QString text = area.width() < narrowest ? line : elided(line, area.width() - 8);
-        const double length = width(text) + 8;
-        const int free = length <= area.width() ? freeLine(area, picture.labels, next, length) : -1;
-        if (free >= 0) {
-            const QRectF taken(area.x(), area.y() + free * lineHeight, length, lineHeight);
-            picture.labels.append({taken, area.width(), text, isId ? shown.region : -1});
-        } else if (!isId) {
-            picture.below.append(lineBelow(line, id.isEmpty() ? id : QLatin1String(" in ") + id));
-        }
-        next = qMax(0, free) + 1;
+    const bool hasRoom = 2 * lineHeight <= shown.area.height();
+    if (!id.isEmpty() && hasRoom && std::none_of(labels.cbegin(), labels.cend(), isNamed)) {
+        addLabel(shown.area, id, shown.region, labels);
+    }
+    if (!addLabel(shown.area, shown.name, -1, labels)) {
+        picture.below.append(lineBelow(shown.name, id.isEmpty() ? id : QLatin1String(" in ") + id));
     }
 }
 
@@ -95,7 +114,8 @@ static void add(const SmilCue &cue, int part, const QRectF &place, const ScaledS
     } else if (area.isEmpty()) {
         picture.below.append(lineBelow(name, remark + QLatin1String(", off screen in ") + quoted(id)));
     } else {
-        const bool drawn = part >= 0 && isDrawn(parts.read(part).type);
+        const QString type = part < 0 ? QString() : parts.read(part).type;
+        const bool drawn = isPicture(type) || type == QLatin1String("text/plain");
         picture.shown.append({place, area, cue.fit, region, name + remark,
                               words + (id.isEmpty() ? id : QLatin1String(" in ") + id), drawn ? part : -1, isMissing});
         if (!drawn) {

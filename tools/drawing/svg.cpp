@@ -17,10 +17,9 @@ Svg::Svg(QIODevice &device, const QSizeF &size, const QString &title, const QStr
     attribute("height", height);
     attribute("viewBox", QStringLiteral("0 0 %1 %2").arg(width, height));
     attribute("role", QStringLiteral("img"));
-    attribute("aria-labelledby", QStringLiteral("title desc"));
-    textElement("title", QStringLiteral("title"), title);
-    textElement("desc", QStringLiteral("desc"), description);
-    textElement("style", QString(), QLatin1String(style));
+    writer.writeTextElement(QStringLiteral("title"), title);
+    writer.writeTextElement(QStringLiteral("desc"), description);
+    writer.writeTextElement(QStringLiteral("style"), QLatin1String(style));
 }
 
 void Svg::beginGroup(const QPointF &corner)
@@ -81,12 +80,4 @@ void Svg::areaAttributes(const QRectF &area)
     attribute("y", QString::number(area.y()));
     attribute("width", QString::number(area.width()));
     attribute("height", QString::number(area.height()));
-}
-
-void Svg::textElement(const char *name, const QString &id, const QString &text)
-{
-    writer.writeStartElement(QLatin1String(name));
-    attribute("id", id);
-    writer.writeCharacters(text);
-    writer.writeEndElement();
 }

@@ -22,7 +22,7 @@ public:
     void endGroup() { writer.writeEndElement(); }
 
     /** What a viewer says of the element that this is in. */
-    void title(const QString &text) { textElement("title", QString(), text); }
+    void title(const QString &text) { writer.writeTextElement(QStringLiteral("title"), text); }
     void rectangle(const QRectF &area, const QString &kind);
     void text(const QPointF &at, const QString &line, const QString &kind = QString());
 
@@ -34,7 +34,6 @@ public:
 private:
     void attribute(const char *name, const QString &value);
     void areaAttributes(const QRectF &area);
-    void textElement(const char *name, const QString &id, const QString &text);
 
     QXmlStreamWriter writer;
 };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "drawing/typesetting.h"
-#include "base/escaping.h"
+#include "base/text.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTextBoundaryFinder>

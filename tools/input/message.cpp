@@ -3,7 +3,7 @@
 
 #include "input/message.h"
 #include "base/bounds.h"
-#include "base/escaping.h"
+#include "base/text.h"
 
 #include <QtCore/QFile>
 

@@ -3,17 +3,17 @@
 
 #include "output/outputfile.h"
 
-#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 
-#include <sys/stat.h>
+#include <filesystem>
+#include <unistd.h>
 
-static bool writeAll(QFileDevice &out, QIODevice::OpenMode mode, const QByteArray &data)
+// What a buffer loses in the end, QSaveFile does not report.
+static const QIODevice::OpenMode unbuffered = QIODevice::WriteOnly | QIODevice::Unbuffered;
+
+static bool writeAll(QFileDevice &out, const QByteArray &data)
 {
-    // What a buffer loses in the end, QSaveFile does not report.
-    if (!out.open(mode | QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return false;
-    }
     // A disk that takes a part of the data says why it takes no more when it is given the rest.
     qint64 written = 0;
     for (qint64 more = 1; more > 0 && written < data.size(); written += more) {
@@ -25,11 +25,12 @@ static bool writeAll(QFileDevice &out, QIODevice::OpenMode mode, const QByteArra
 QString createFile(const QString &name, const QByteArray &data)
 {
     QFile out(name);
-    if (!writeAll(out, QIODevice::NewOnly, data)) {
+    if (!out.open(unbuffered | QIODevice::NewOnly)) {
+        return out.errorString();
+    }
+    if (!writeAll(out, data)) {
         const QString problem = out.errorString();
-        if (out.isOpen()) {
-            out.remove();
-        }
+        out.remove();
         return problem;
     }
     out.close();
@@ -38,21 +39,21 @@ QString createFile(const QString &name, const QByteArray &data)
 
 bool isSameFile(const QString &input, const QString &output)
 {
-    const QString name = input == QLatin1String("-") ? QStringLiteral("/dev/stdin") : input;
-    struct stat read;
-    struct stat written;
-    return stat(QFile::encodeName(name).constData(), &read) == 0 && S_ISREG(read.st_mode)
-        && stat(QFile::encodeName(output).constData(), &written) == 0 && read.st_dev == written.st_dev
-        && read.st_ino == written.st_ino;
+    const auto path = [](const QString &name) { return std::filesystem::path(QFile::encodeName(name).toStdString()); };
+    const auto read = path(input == QLatin1String("-") ? QStringLiteral("/dev/stdin") : input);
+    std::error_code error;
+    return std::filesystem::is_regular_file(read, error) && std::filesystem::equivalent(read, path(output), error);
 }
 
 QString writeFile(const QString &name, const QByteArray &data)
 {
-    struct stat status;
-    if (stat(QFile::encodeName(name).constData(), &status) == 0 && !S_ISREG(status.st_mode)) {
+    const QFileInfo there(name);
+    if (name.isNull() || (there.exists() && !there.isFile())) {
         QFile out(name);
-        return writeAll(out, QIODevice::ExistingOnly, data) ? QString() : out.errorString();
+        const bool isOpen =
+            name.isNull() ? out.open(STDOUT_FILENO, unbuffered) : out.open(unbuffered | QIODevice::ExistingOnly);
+        return isOpen && writeAll(out, data) ? QString() : out.errorString();
     }
     QSaveFile out(name);
-    return writeAll(out, QIODevice::NotOpen, data) && out.commit() ? QString() : out.errorString();
+    return out.open(unbuffered) && writeAll(out, data) && out.commit() ? QString() : out.errorString();
 }

@@ -7,8 +7,8 @@
 #include <QtCore/QString>
 
 /**
- * Writes the file @p name. A file is replaced as a whole or not at all; a device or a pipe is
- * written to. Returns why that failed, to be written after its name, or else nothing.
+ * Writes the file @p name, or to standard output if that is null. A file is replaced as a whole or not at all; a device
+ * or a pipe is written to. Returns why that failed, to be written after its name, or else nothing.
  */
 QString writeFile(const QString &name, const QByteArray &data);
 

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "base/escaping.h"
+#include "base/text.h"
 
-#include <algorithm>
+#include <QtCore/qnumeric.h>
+
 #include <cstdio>
 #include <string>
 
@@ -26,21 +27,13 @@ static bool joins(const std::u32string &text, size_t i)
 template<typename Escape>
 static QString escape(const QString &text, Escape escaped)
 {
-    QString result;
-    result.reserve(text.size());
     const std::u32string characters = text.toStdU32String();
+    std::u32string result;
     for (size_t i = 0; i < characters.size(); ++i) {
         const char32_t c = characters[i];
-        if (needsEscaping(c) && !joins(characters, i)) {
-            result += escaped(c);
-        } else if (QChar::requiresSurrogates(c)) {
-            result += QChar(QChar::highSurrogate(c));
-            result += QChar(QChar::lowSurrogate(c));
-        } else {
-            result += QChar(ushort(c));
-        }
+        result += needsEscaping(c) && !joins(characters, i) ? escaped(c).toStdU32String() : std::u32string(1, c);
     }
-    return result;
+    return QString::fromStdU32String(result);
 }
 
 QString printable(const QString &text)
@@ -61,16 +54,8 @@ QString printableXml(const QString &xml)
         xml, [](uint c) { return c == '\n' ? QString(QLatin1Char('\n')) : QStringLiteral("&#x%1;").arg(c, 0, 16); });
 }
 
-static QString backslashed(QString text)
-{
-    return text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
-}
-
 QByteArray printableJson(const QByteArray &json)
 {
-    if (std::none_of(json.cbegin(), json.cend(), [](char c) { return c < 0x20 || c == 0x7f; })) {
-        return json; // as almost all are
-    }
     const auto unit = [](ushort c) { return QStringLiteral("\\u%1").arg(c, 4, 16, QLatin1Char('0')); };
     return escape(QString::fromUtf8(json),
                   [&unit](uint c) {
@@ -80,9 +65,10 @@ QByteArray printableJson(const QByteArray &json)
         .toUtf8();
 }
 
-QString quoted(const QString &text)
+QString quoted(QString text)
 {
-    return QLatin1Char('"') + printable(backslashed(text)) + QLatin1Char('"');
+    text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
+    return QLatin1Char('"') + printable(text) + QLatin1Char('"');
 }
 
 QString shortened(const QString &text, int most)
@@ -92,4 +78,23 @@ QString shortened(const QString &text, int most)
     }
     const int end = most - 1 - (text.at(most - 2).isHighSurrogate() ? 1 : 0);
     return text.left(end) + QChar(0x2026);
+}
+
+QString lengthText(double seconds)
+{
+    return qIsFinite(seconds) ? QString::number(seconds) + QLatin1Char('s') : QString(QChar(0x221e));
+}
+
+QString clockText(double seconds)
+{
+    if (!(seconds < 1e9)) { // what follows has no room for more than a few million times that
+        return lengthText(seconds);
+    }
+    const qint64 thousandths = qRound64(1000 * seconds);
+    const qint64 whole = thousandths / 1000;
+    const QString clock = whole < 3600
+        ? QString::asprintf("%lld:%02lld", whole / 60, whole % 60)
+        : QString::asprintf("%lld:%02lld:%02lld", whole / 3600, whole / 60 % 60, whole % 60);
+    const qint64 rest = thousandths % 1000;
+    return rest == 0 ? clock : clock + QString::asprintf(".%03lld", rest);
 }

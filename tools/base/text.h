@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_ESCAPING_H
-#define SMILTOOL_ESCAPING_H
+#ifndef SMILTOOL_TEXT_H
+#define SMILTOOL_TEXT_H
 
 #include <QtCore/QString>
 
@@ -25,9 +25,15 @@ QString printableXml(const QString &xml);
 QByteArray printableJson(const QByteArray &json);
 
 /** The text as printable(), in quotation marks, with those in it and backslashes escaped. */
-QString quoted(const QString &text);
+QString quoted(QString text);
 
 /** At most that many characters, as QString counts them, of the text; "\u2026" is the last when some are left out. */
 QString shortened(const QString &text, int most);
+
+/** How long something takes, such as "6.825s"; "\u221e" is infinite. */
+QString lengthText(double seconds);
+
+/** When something happens, such as "0:06.825" or "1:00:00"; as lengthText() when that is in years from now. */
+QString clockText(double seconds);
 
 #endif

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "commands/command.h"
+#include "commands/commands.h"
 
 Result failure(const QString &file, const QString &problem)
 {
