@@ -1,7 +1,11 @@
 import QtQuick 2.15
 
 Item {
-    enum Values { NoError, Loaded, LoadedMedia }
+    enum Values {
+        NoError,
+        Loaded,
+        LoadedMedia
+    }
     property var source
     property var videoOutput
     property var audioOutput
@@ -11,7 +15,7 @@ Item {
     property int mediaStatus: MediaPlayer.LoadedMedia
     property int error: MediaPlayer.NoError
     property bool plays
-    function seek(to) { position = to; }
-    function play() { plays = true; }
-    function pause() { plays = false; }
+    property var seek: to => position = to
+    property var play: () => plays = true
+    property var pause: () => plays = false
 }
