@@ -5,7 +5,7 @@
 #define SMILTOOL_CAPTIONS_H
 
 #include "drawing/scaledscreen.h"
-#include "input/messageparts.h"
+#include "input/message.h"
 
 /** A text on the screen. */
 struct Label {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "input/messageparts.h"
 #include "input/content.h"
+#include "input/message.h"
 
 #include <QtCore/QMimeDatabase>
 
