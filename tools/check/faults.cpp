@@ -74,9 +74,11 @@ static void checkMedium(const QDomElement &element, const QString &name, Walk &w
         walk.found.add("missing-src", line, QStringLiteral("no src: %1").arg(name));
     } else if (part >= 0) {
         walk.parts.insert(part);
-        const QString type = parts.read(part).type;
-        if (!mayPlay(name, kindOfType(type))) {
-            walk.found.add("wrong-kind", line, QStringLiteral("the part of %1 is %2:").arg(name, type), excerpt(src));
+        SmilPart content;
+        content.type = parts.read(part).type;
+        if (!mayPlay(name, content.kind())) {
+            walk.found.add("wrong-kind", line, QStringLiteral("the part of %1 is %2:").arg(name, content.type),
+                           excerpt(src));
         }
     } else if (parts.areKnown()) {
         walk.found.add("missing-part", line, QStringLiteral("no such part: src of %1").arg(name), excerpt(src));
