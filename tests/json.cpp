@@ -35,7 +35,7 @@ void JsonOutput::golden_data()
     QTest::newRow("everything") << bytes;
     QTest::newRow("broken") << message(
         "\xB3", 2,
-        part(sized(text("application/smil") + "\x81\xEA"), smil.left(smil.size() / 2))
+        part(sized(text("application/smil") + "\x81\xEA"), "<smil><head/></smil>")
             + part(sized("\x83\x81\x84") + '\xC0' + text("<a>") + '\x8E' + text("a.txt"), "\xE9t\xE9"));
 }
 
@@ -45,10 +45,7 @@ void JsonOutput::golden()
     QBuffer out;
     out.open(QIODevice::WriteOnly);
     showJson(readBytes(bytes, QStringLiteral("a\u0000b"), QString()), out);
-    QJsonObject json = QJsonDocument::fromJson(out.data()).object();
-    for (const char *const ofTheXmlReader : {"error", "column"}) { // each Qt has its own
-        json.remove(QLatin1String(ofTheXmlReader));
-    }
+    const QJsonObject json = QJsonDocument::fromJson(out.data()).object();
     QFile golden(QFINDTESTDATA("golden/") + QLatin1String(QTest::currentDataTag()) + QLatin1String(".json"));
     QVERIFY(golden.open(QIODevice::ReadOnly));
     const QJsonObject expected = QJsonDocument::fromJson(golden.readAll()).object();

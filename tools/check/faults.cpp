@@ -28,9 +28,11 @@ static bool mayPlay(const QString &element, SmilRef::Type content)
 }
 
 /** What is wrong with the measure, to be written before its name, or nothing. */
-static QString problemOf(const QString &value, bool isTime, bool mayBeNegative)
+static QString problemOf(const QString &attribute, const QString &value)
 {
+    static const QStringList notNegative = QStringLiteral("dur width height").split(QLatin1Char(' '));
     const SmilUnit measure(value);
+    const bool isTime = attribute == QLatin1String("dur");
     if (isTime && SmilUnit().convertClock(value)) {
         return QString();
     }
@@ -40,19 +42,17 @@ static QString problemOf(const QString &value, bool isTime, bool mayBeNegative)
     if ((measure.unit == SmilUnit::Sec) != isTime) {
         return isTime ? QStringLiteral("a length, not a duration: ") : QStringLiteral("a duration, not a length: ");
     }
-    return measure.value < 0 && !mayBeNegative ? QStringLiteral("negative: ") : QString();
+    return measure.value < 0 && notNegative.contains(attribute) ? QStringLiteral("negative: ") : QString();
 }
 
 static void checkMeasures(const QDomElement &element, const QString &name, Findings &found)
 {
-    static const QStringList positions = QStringLiteral("top bottom left right").split(QLatin1Char(' '));
-    static const QStringList measures = positions + QStringLiteral("width height dur").split(QLatin1Char(' '));
+    static const QStringList measures =
+        QStringLiteral("top bottom left right width height dur").split(QLatin1Char(' '));
     for (const QString &attribute : elementNamed(name).attributes) {
         const QString value = element.attribute(attribute);
-        if (!element.hasAttribute(attribute) || !measures.contains(attribute)) {
-            continue;
-        }
-        const QString problem = problemOf(value, attribute == measures.last(), positions.contains(attribute));
+        const bool isMeasure = element.hasAttribute(attribute) && measures.contains(attribute);
+        const QString problem = isMeasure ? problemOf(attribute, value) : QString();
         if (!problem.isEmpty()) {
             found.add(SmilUnit(value).valid ? "wrong-measure" : "unread-measure", element.lineNumber(),
                       QStringLiteral("%1%2 of %3").arg(problem, attribute, name), excerpt(value));
@@ -74,9 +74,11 @@ static void checkMedium(const QDomElement &element, const QString &name, Walk &w
         walk.found.add("missing-src", line, QStringLiteral("no src: %1").arg(name));
     } else if (part >= 0) {
         walk.parts.insert(part);
-        const QString type = parts.read(part).type;
-        if (!mayPlay(name, kindOfType(type))) {
-            walk.found.add("wrong-kind", line, QStringLiteral("the part of %1 is %2:").arg(name, type), excerpt(src));
+        SmilPart content;
+        content.type = parts.read(part).type;
+        if (!mayPlay(name, content.kind())) {
+            walk.found.add("wrong-kind", line, QStringLiteral("the part of %1 is %2:").arg(name, content.type),
+                           excerpt(src));
         }
     } else if (parts.areKnown()) {
         walk.found.add("missing-part", line, QStringLiteral("no such part: src of %1").arg(name), excerpt(src));
@@ -134,15 +136,12 @@ static void checkReferences(Walk &walk)
 static bool isHidden(int part, const MessageParts &parts)
 {
     const SmilPart &headers = parts.headers().at(part);
-    bool isNamed = false;
+    std::set<int> meant;
     for (const QString &name : {headers.contentId, headers.location, headers.name}) {
-        const int found = parts.find(name);
-        if (found == part) {
-            return false;
-        }
-        isNamed = isNamed || found >= 0;
+        meant.insert(parts.find(name));
     }
-    return isNamed;
+    meant.erase(-1);
+    return !meant.empty() && meant.count(part) == 0;
 }
 
 void findFaults(const QDomElement &smil, Message &message, Findings &found)

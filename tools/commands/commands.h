@@ -72,7 +72,11 @@ const Command *const allCommands[] = {&showCommand,  &renderCommand,  &storyboar
 /** Writes the model of the message to @p out, as an indented outline. */
 void show(const Message &message, QIODevice &out);
 
-/** Writes the same as a line of JSON, with what plays when and where, or why the message or its SMIL cannot be read. */
+/** What show() prints of a part. */
+QString partText(const QString &name, const QString &type, const QByteArray &data);
+
+/** Writes the same as show() does as a line of JSON, with what plays when and where, or why the message or its SMIL
+ * cannot be read. */
 void showJson(const Message &message, QIODevice &out);
 
 /** Writes the model to @p out as indented XML. */

@@ -24,12 +24,13 @@ static QString recognise(const QString &name, SmilRef::Type &type)
     if (!problem.isEmpty()) {
         return problem;
     }
-    const QString recognised = recognisedType(file.read(bounds::recognised));
+    SmilPart part;
+    part.type = recognisedType(file.read(bounds::recognised));
     if (file.error() != QFileDevice::NoError) {
         return file.errorString();
     }
-    type = kindOfType(recognised);
-    return type == SmilRef::Ref ? QStringLiteral("is no picture, text, sound or film, but %1").arg(recognised)
+    type = part.kind();
+    return type == SmilRef::Ref ? QStringLiteral("is no picture, text, sound or film, but %1").arg(part.type)
                                 : QString();
 }
 

@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "base/bounds.h"
-#include "base/text.h"
 #include "commands/commands.h"
 #include "input/files.h"
 #include "output/filenames.h"
@@ -12,12 +10,6 @@
 #include <QtCore/QFile>
 
 #include <set>
-
-static QString lineOf(const QString &name, const QString &type, const QByteArray &data)
-{
-    return QStringLiteral("%1, %2, %3 bytes\n")
-        .arg(quoted(name), printable(shortened(type, bounds::header)), QString::number(data.size()));
-}
 
 /** Writes the file, unless it is there already. Returns why that failed, or else nothing. */
 static QString write(const QString &file, const QByteArray &data)
@@ -69,7 +61,7 @@ static Result writeParts(const Message &message, const QString &path, QIODevice 
         const QByteArray &data = message.mms.data.at(i);
         const QString problem = write(path + QLatin1Char('/') + names.at(i), data);
         if (problem.isEmpty()) {
-            out.write(lineOf(names.at(i), message.mms.parts.at(i).type, data).toUtf8());
+            out.write(partText(names.at(i), message.mms.parts.at(i).type, data).toUtf8() + '\n');
         } else {
             result.ok = false;
             result.problems.append(QStringLiteral("%1/%2: %3").arg(path, names.at(i), problem));

@@ -82,6 +82,13 @@ static void showHeader(QIODevice &out, const SmilHeader &header)
     }
 }
 
+QString partText(const QString &name, const QString &type, const QByteArray &data)
+{
+    return QStringLiteral("%1, %2, %3 bytes")
+        .arg(quoted(shortened(name, bounds::header)), printable(shortened(type, bounds::header)),
+             QString::number(data.size()));
+}
+
 static void showMessage(QIODevice &out, const Message &message)
 {
     const MmsMessage &mms = message.mms;
@@ -94,11 +101,7 @@ static void showMessage(QIODevice &out, const Message &message)
         line(out, 1, QLatin1String("date ") + mms.date.toString(Qt::ISODate));
     }
     for (int i = 0; i < int(mms.parts.size()); ++i) {
-        line(out, 1,
-             QStringLiteral("part %1, %2, %3 bytes")
-                 .arg(quoted(shortened(message.parts.at(i).name, bounds::header)),
-                      printable(shortened(mms.parts.at(i).type, bounds::header)),
-                      QString::number(mms.data.at(i).size())));
+        line(out, 1, QLatin1String("part ") + partText(message.parts.at(i).name, mms.parts.at(i).type, mms.data.at(i)));
     }
 }
 

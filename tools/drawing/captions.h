@@ -4,7 +4,7 @@
 #ifndef SMILTOOL_CAPTIONS_H
 #define SMILTOOL_CAPTIONS_H
 
-#include "input/messageparts.h"
+#include "input/message.h"
 
 #include <smilparser/smilplayback.h>
 

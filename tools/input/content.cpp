@@ -4,8 +4,6 @@
 #include "input/content.h"
 #include "base/bounds.h"
 
-#include <smilparser/smilslideshow.h>
-
 #include <QtCore/QMimeDatabase>
 
 #include <algorithm>
@@ -25,13 +23,6 @@ QString recognisedType(const QByteArray &bytes)
     // A text may begin as something else does: "ID3 is what I need".
     const bool isText = type.inherits(QStringLiteral("text/plain")) || isPlain(beginning);
     return isText && !type.inherits(QStringLiteral("application/xml")) ? QStringLiteral("text/plain") : type.name();
-}
-
-SmilRef::Type kindOfType(const QString &type)
-{
-    SmilPart part;
-    part.type = type;
-    return part.kind();
 }
 
 QString elementName(int kind)

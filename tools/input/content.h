@@ -4,16 +4,13 @@
 #ifndef SMILTOOL_CONTENT_H
 #define SMILTOOL_CONTENT_H
 
-#include <smilparser/smilparser.h>
+#include <QtCore/QString>
 
 /**
  * The type of what the bytes are, whatever their name says, as the system tells it from their beginning, such as
  * "image/png". It is "text/plain" for every text except XML, and also when there are none.
  */
 QString recognisedType(const QByteArray &bytes);
-
-/** What plays content of that type, as SmilPart::kind(). */
-SmilRef::Type kindOfType(const QString &type);
 
 /** The name of the element for a SmilRef::Type. */
 QString elementName(int kind);
