@@ -103,12 +103,11 @@ void Storyboard::frames_data()
 void Storyboard::frames()
 {
     QFETCH(QByteArray, body);
-    QFETCH(QString, texts);
     const QByteArray head =
         "<smil><head><layout><root-layout width='184' height='160'/><region id='I'/><region id='over' width='100'/>"
         "<region id='low' height='10'/><region id='two' height='30'/><region id='thin' width='40'/>"
         "<region id='off' left='184'/></layout></head><body>";
-    QCOMPARE(textsIn(smiltool("storyboard -", head + body + "</body></smil>").out), texts);
+    QTEST(textsIn(smiltool("storyboard -", head + body + "</body></smil>").out), "texts");
 }
 
 /** Of a whole message, which has a picture, a text and a card, whatever its SMIL says. */
@@ -131,7 +130,6 @@ void Storyboard::everyPartIsDrawn_data()
 void Storyboard::everyPartIsDrawn()
 {
     QFETCH(QByteArray, smil);
-    QFETCH(QString, texts);
     QFETCH(QString, problem);
     const auto named = [](const QByteArray &type, const QByteArray &name, const QByteArray &data) {
         return part(sized(text(type) + '\x85' + text(name)) + '\xC0' + text("\"<" + name + "@x>"), data);
@@ -141,7 +139,7 @@ void Storyboard::everyPartIsDrawn()
     const QByteArray slides = smil.isEmpty() ? smil : named("application/smil", "smil", smil);
     const Outcome outcome =
         smiltool("storyboard -", message(sized(text("multipart/mixed")), smil.isEmpty() ? 3 : 4, parts + slides));
-    QCOMPARE(textsIn(outcome.out), texts);
+    QTEST(textsIn(outcome.out), "texts");
     QCOMPARE(outcome.out.count(QLatin1String("<image ")), 1);
     const QRegularExpression expected(QRegularExpression::anchoredPattern(problem));
     QVERIFY2(expected.match(outcome.err).hasMatch(), qPrintable(outcome.err));
@@ -299,11 +297,10 @@ void Storyboard::neverDrawsOver_data()
 
 void Storyboard::neverDrawsOver()
 {
-    QFETCH(QString, problem);
     const QTemporaryDir folder;
     const QString script = QStringLiteral("cp nested.smil $old; %1; status=$?; cmp nested.smil $old; exit $status");
     const Outcome outcome = runScript(folder.path(), script.arg(QLatin1String(QTest::currentDataTag())));
-    QVERIFY2(outcome.err.endsWith(problem), qPrintable(outcome.err));
+    QTEST(outcome.err.mid(outcome.err.indexOf(QLatin1String(": "))), "problem");
     QCOMPARE(outcome.out, QString());
     QCOMPARE(outcome.status, 1);
 }
