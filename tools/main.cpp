@@ -66,16 +66,6 @@ static const Command *findCommand(const QString &name)
     return found == std::end(allCommands) ? nullptr : *found;
 }
 
-static QString helpText()
-{
-    QString text = QStringLiteral(
-        "Reads or makes the slide show of a multimedia message.\n\nCommands, each with a --help of its own:");
-    for (const Command *const each : allCommands) {
-        text += QStringLiteral("\n  %1 %2").arg(QLatin1String(each->name), -11).arg(QLatin1String(each->summary));
-    }
-    return text + QLatin1String("\n  help        Prints this, or the help of a command.");
-}
-
 static void setUp(QCommandLineParser &parser, const Command *command)
 {
     for (const OptionRow &row : options) {
@@ -92,7 +82,13 @@ static void setUp(QCommandLineParser &parser, const Command *command)
             file, QLatin1String(command->takes),
             QStringLiteral("%1 %2").arg(QLatin1String(command->name), QLatin1String(command->files)));
     } else {
-        parser.setApplicationDescription(helpText());
+        QString text = QStringLiteral(
+            "Reads or makes the slide show of a multimedia message.\n\nCommands, each with a --help of its own:");
+        for (const Command *const each : allCommands) {
+            text += QStringLiteral("\n  %1 %2").arg(QLatin1String(each->name), -11).arg(QLatin1String(each->summary));
+        }
+        parser.setApplicationDescription(text
+                                         + QLatin1String("\n  help        Prints this, or the help of a command."));
         parser.addPositionalArgument(QStringLiteral("COMMAND"), QStringLiteral("What to do."));
         parser.addPositionalArgument(file, QLatin1String(anyMessage), QStringLiteral("FILE..."));
     }

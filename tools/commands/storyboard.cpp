@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "base/bounds.h"
 #include "base/text.h"
 #include "commands/commands.h"
-#include "drawing/media.h"
+#include "drawing/frame.h"
 #include "output/outputfile.h"
 
 #include <algorithm>

@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "drawing/captions.h"
-#include "base/bounds.h"
 #include "base/text.h"
+#include "drawing/frame.h"
 #include "drawing/typesetting.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "drawing/media.h"
+#include "drawing/frame.h"
 #include "drawing/typesetting.h"
 
 #include <QtCore/QDataStream>

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_CAPTIONS_H
-#define SMILTOOL_CAPTIONS_H
+#ifndef SMILTOOL_FRAME_H
+#define SMILTOOL_FRAME_H
 
+#include "base/bounds.h"
+#include "drawing/svg.h"
 #include "input/message.h"
 
 #include <smilparser/smilplayback.h>
@@ -62,5 +64,19 @@ bool isPicture(const QString &type);
 
 /** Says what the slide of that number shows, and finds the room to say it. */
 Picture pictureOf(int number, const SmilSlide &slide, const ScaledScreen &screen, MessageParts &parts);
+
+/** Draws the parts, each only once in a place: where other frames show it again, they refer to the first. */
+struct Media {
+    Svg &svg;
+    const double scale; ///< units of the picture for each pixel
+    MessageParts &parts;
+    QMap<QByteArray, QString> drawn = {}; ///< the id of each, by all that it depends on
+    qint64 left = bounds::pictures;
+
+    /** Draws what has a part. */
+    void draw(const Shown &shown);
+    void drawPicture(const MessageParts::Part &part, const Shown &shown);
+    void drawText(int part, const QSizeF &size);
+};
 
 #endif
