@@ -3,7 +3,6 @@
 
 #include "commands/commands.h"
 #include "input/files.h"
-#include "output/filenames.h"
 #include "output/outputfile.h"
 
 #include <QtCore/QDir>
