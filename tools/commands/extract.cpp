@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands/commands.h"
-#include "input/files.h"
 #include "output/outputfile.h"
 
 #include <QtCore/QDir>
