@@ -3,7 +3,7 @@
 
 #include "base/text.h"
 #include "commands/commands.h"
-#include "output/filenames.h"
+#include "output/outputfile.h"
 #include "require.h"
 
 #include <smilparser/mmslogger.h>

@@ -36,7 +36,7 @@ void Findings::add(const char *name, int line, const QString &subject, const QSt
     ++entry.count;
     entry.line = qMin(entry.line, line);
     if (!detail.isEmpty() && entry.details.size() <= shownDetails && !entry.details.contains(detail)) {
-        entry.details.append(detail);
+        entry.details.append(entry.details.size() < shownDetails ? detail : QStringLiteral("..."));
     }
 }
 
@@ -54,8 +54,7 @@ QStringList Findings::lines(const QString &file, const QStringList &ignored) con
         const QString place = entry.line > 0 ? QLatin1Char(':') + QString::number(entry.line) : QString();
         QString text = printable(file) + place + QLatin1String(": ") + entry.subject;
         if (!entry.details.isEmpty()) {
-            text += QLatin1Char(' ') + entry.details.mid(0, shownDetails).join(QLatin1String(", "))
-                + (entry.details.size() > shownDetails ? QStringLiteral(", ...") : QString());
+            text += QLatin1Char(' ') + entry.details.join(QLatin1String(", "));
         }
         if (entry.count > 1) {
             text += QStringLiteral(" (%1 times)").arg(entry.count);

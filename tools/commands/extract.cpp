@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "commands/commands.h"
-#include "input/files.h"
-#include "output/filenames.h"
 #include "output/outputfile.h"
 
 #include <QtCore/QDir>

@@ -6,8 +6,6 @@
 #include "commands/commands.h"
 #include "input/content.h"
 
-#include <smilparser/smilplayback.h>
-
 #include <QtCore/QIODevice>
 
 static void line(QIODevice &out, int level, const QString &text)

@@ -6,8 +6,6 @@
 #include "commands/commands.h"
 #include "input/content.h"
 
-#include <smilparser/smilplayback.h>
-
 #include <QtCore/QIODevice>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "output/filenames.h"
 #include "base/bounds.h"
 #include "base/text.h"
 #include "input/content.h"
+#include "output/outputfile.h"
 
 #include <QtCore/QMimeDatabase>
 #include <QtCore/QRegularExpression>
