@@ -3,7 +3,6 @@
 
 #include "base/text.h"
 #include "drawing/frame.h"
-#include "drawing/typesetting.h"
 
 #include <algorithm>
 

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "drawing/frame.h"
-#include "drawing/typesetting.h"
 
 #include <QtCore/QDataStream>
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "drawing/typesetting.h"
 #include "base/text.h"
+#include "drawing/frame.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTextBoundaryFinder>
