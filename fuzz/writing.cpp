@@ -131,7 +131,7 @@ static void requireComposed(Bytes bytes)
     }
     const QByteArray text = SmilParser(composer.message()).toXml();
     require(read(text) == composer.message(), "what is composed is the same when read");
-    const Message message = readBytes(text, QStringLiteral("-"), QString());
+    Message message = readBytes(text, QStringLiteral("-"), QString());
     QBuffer findings;
     findings.open(QIODevice::WriteOnly);
     require(count == 0 || (message.problem.isNone() && !check(message, {}, findings)), "there is nothing to be told");
