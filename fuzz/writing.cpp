@@ -110,7 +110,7 @@ static SmilDocument read(const QByteArray &text)
     return model;
 }
 
-/** Of what is composed, each part is found, and there is nothing to be told. */
+/** Of what is composed, each part is found, and there is nothing to report. */
 static void requireComposed(Bytes bytes)
 {
     SmilParts parts;
@@ -134,7 +134,9 @@ static void requireComposed(Bytes bytes)
     Message message = readBytes(text, QStringLiteral("-"), QString());
     QBuffer findings;
     findings.open(QIODevice::WriteOnly);
-    require(count == 0 || (message.problem.isNone() && !check(message, {}, findings)), "there is nothing to be told");
+    // A sound may be alone on its slide.
+    const bool good = message.problem.isNone() && !check(message, {QStringLiteral("blank-time")}, findings);
+    require(count == 0 || good, "there is nothing to report");
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
