@@ -34,7 +34,7 @@ int main(int argc, char *argv[])
         qInfo() << "slide" << i + 1 << "from" << slide.begin << "to" << slide.end;
         for (int j = 0; j < int(slide.cues.size()); ++j) {
             const SmilCue &cue = slide.cues.at(j);
-            qInfo() << cue.ref.src << "is part" << slide.parts.at(j) << places.at(j) << cue.background;
+            qInfo() << cue.ref.src << "has index" << slide.parts.at(j) << places.at(j) << cue.background;
         }
     }
     //! [show]
