@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-// show NAME...: lists what is to be shown of the message whose SMIL is on standard input, and whose other parts have
-// these names. They are numbered from 0 on; part -1 is missing.
+// show NAME...: lists the slides of a message: its SMIL is on standard input, and its other parts have these names.
 
 #include <smilparser/mmslogger.h>
 #include <smilparser/smilslideshow.h>
