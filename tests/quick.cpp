@@ -289,7 +289,7 @@ void Quick::listed()
     const QString text = QString(1023, QLatin1Char('a')) + QStringLiteral("\U0001f600");
     const Shown shown(smil, parts(QStringLiteral("text.txt, huge.bmp, a b.jpg, card.vcf, c.txt:=") + text));
     QString seen = QString::fromUtf8(QJsonDocument(shown.get("slides").toJsonArray()).toJson(QJsonDocument::Compact));
-    seen.replace(QUrl::fromLocalFile(folder()).toString(), QStringLiteral("file:"));
+    seen.replace(QUrl::fromLocalFile(folder()).toString(QUrl::FullyEncoded), QStringLiteral("file:"));
     seen.replace(text.left(1023), QStringLiteral("1023 letters"));
     COMPARE_SEEN(
         QStringLiteral("lists it"), seen,
