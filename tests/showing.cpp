@@ -196,6 +196,9 @@ void Showing::equality()
     const SmilSlideshow show(bytes, parts);
     QVERIFY(show == SmilSlideshow(bytes, parts) && show == SmilSlideshow(show));
     QVERIFY(show == SmilSlideshow("<!-- -->\n" + bytes, parts)); // the same is shown
+    QVERIFY(show == SmilSlideshow(smil("<par><img src='a.jpg'/></par><img src='b.txt' end='0s'/>"), parts));
+    QVERIFY(SmilSlideshow("<smil><head/><body dur='3s'/></smil>", {})
+            == SmilSlideshow("<smil><head/><body/></smil>", {}));
     for (const QByteArray &other :
          {smil("<par><img src='a.jpg' alt='x'/></par>"), smil("<par dur='3s'><img src='a.jpg'/></par>"),
           smil("<par><img src='a.jpg'/></par>", "<layout/><meta/><meta name='title' content='x'/>"),

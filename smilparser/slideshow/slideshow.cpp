@@ -277,12 +277,12 @@ bool SmilSlideshow::operator==(const SmilSlideshow &other) const
     const auto plain = [](const SmilSlideshowData &show) {
         return std::tie(show.outcome, show.error, show.errorLine, show.errorColumn, show.title, show.layout);
     };
-    const auto timed = [](const SmilTimeline &timeline) {
-        return std::make_tuple(timeline.cues(), timeline.slideBegins(), timeline.duration(), timeline.background());
-    };
-    bool same = count() == other.count() && plain(*d) == plain(*other.d)
-        && timed(d->timeline) == timed(other.d->timeline)
-        && partsOf(d->timeline.cues(), d->names) == partsOf(d->timeline.cues(), other.d->names);
+    // What never plays is on no slide, and without slides the timeline may have a duration that nobody sees.
+    const QList<SmilCue> cues = d->timeline.cuesBetween(-qInf(), qInf());
+    bool same = count() == other.count() && duration() == other.duration() && background() == other.background()
+        && plain(*d) == plain(*other.d) && d->timeline.slideBegins() == other.d->timeline.slideBegins()
+        && cues == other.d->timeline.cuesBetween(-qInf(), qInf())
+        && partsOf(cues, d->names) == partsOf(cues, other.d->names);
     for (int i = int(d->timeline.slideBegins().size()); same && i < count(); ++i) {
         same = slide(i) == other.slide(i);
     }

@@ -103,14 +103,6 @@ static void showMessage(QIODevice &out, const Message &message)
     }
 }
 
-static void showSmil(QIODevice &out, const SmilDocument &document)
-{
-    showHeader(out, document.header);
-    const SmilNode &body = document.body.root;
-    line(out, 1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
-    showContents(out, 2, body);
-}
-
 static void showSlides(QIODevice &out, const SmilSlideshow &show, const MessageParts &parts)
 {
     int number = 0;
@@ -128,6 +120,12 @@ static void showSlides(QIODevice &out, const SmilSlideshow &show, const MessageP
                      + (part < 0 ? quoted(ref.src) + QLatin1String(", missing")
                                  : quoted(shortened(parts.at(part).name, bounds::header))));
         }
+        if (slide.parts.size() > slide.cues.size()) {
+            line(out, 2, QStringLiteral("and %1 more").arg(slide.parts.size() - slide.cues.size()));
+        }
+    }
+    if (number < show.count()) {
+        line(out, 1, QStringLiteral("and %1 more slides").arg(show.count() - number));
     }
 }
 
@@ -136,7 +134,10 @@ void show(const Message &message, QIODevice &out)
     line(out, 0, printable(message.file));
     showMessage(out, message);
     if (message.outcome == SmilParser::Complete) {
-        showSmil(out, message.document);
+        const SmilNode &body = message.document.body.root;
+        showHeader(out, message.document.header);
+        line(out, 1, QLatin1String("body") + (body.dur.valid ? QLatin1String(", ") + body.dur.toString() : QString()));
+        showContents(out, 2, body);
     }
     const SmilSlideshow slideshow = message.slideshow();
     if (message.parts.areKnown()) {

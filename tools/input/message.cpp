@@ -232,7 +232,6 @@ QList<SmilSlide> firstSlides(const SmilSlideshow &show)
         SmilSlide slide = show.slide(i);
         cues += slide.cues.size();
         slide.cues = slide.cues.mid(0, bounds::media);
-        slide.parts = slide.parts.mid(0, bounds::media);
         slides.append(slide);
     }
     return slides;

@@ -102,8 +102,7 @@ Message readMessage(const QString &file, const QString &folder,
 Message readBytes(const QByteArray &bytes, const QString &file, const QString &folder,
                   SmilParser::ReadOptions options = SmilParser::ClockDurations);
 
-/** The first slides with the first media of each: bounds::frames and bounds::media of them, or less of a huge message.
- */
+/** The first bounds::frames slides, or less of a huge message, with their first bounds::media cues and all parts. */
 QList<SmilSlide> firstSlides(const SmilSlideshow &show);
 
 #endif
