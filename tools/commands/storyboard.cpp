@@ -67,7 +67,10 @@ void storyboard(Message &message, QIODevice &out)
     double lines = 0;
     const QList<SmilSlide> slides = firstSlides(show);
     for (const SmilSlide &slide : slides) {
-        const Picture picture = pictureOf(int(pictures.size()) + 1, slide, screen, message.parts);
+        Picture picture = pictureOf(int(pictures.size()) + 1, slide, screen, message.parts);
+        if (slide.parts.size() > slide.cues.size()) {
+            picture.below.append(QStringLiteral("and %1 more").arg(slide.parts.size() - slide.cues.size()));
+        }
         lines = qMax<double>(lines, picture.below.size());
         words.append(picture.heading + QLatin1String(": ")
                      + shortened(picture.words.join(QLatin1String(" + ")), bounds::description));
