@@ -7,6 +7,8 @@
 
 #include <smilparser/smilslideshow.h>
 
+#include <QtCore/QRegularExpression>
+
 #include <numeric>
 
 bool MMSLogger::qdebugEnabled = false;
@@ -101,6 +103,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     messages.take();
     const SmilDocument again = second.parse(SmilParser::KeepRootSize, nullptr, &errorAgain);
     require(errorAgain.isNull() && messages.take().isEmpty(), "what was written can be read");
-    require(SmilParser(again).toXml() == text, "it is the same when read again");
+    // Where XML forbids every character of a text, the attribute is empty; an empty text is not written again.
+    static const QRegularExpression emptyAttribute(QStringLiteral(" \\w+=\"\""));
+    require(SmilParser(again).toXml() == QString::fromUtf8(text).remove(emptyAttribute).toUtf8(),
+            "it is the same when read again");
     return 0;
 }
