@@ -34,8 +34,8 @@ public:
     /**
      * A composer without media, for a screen of @p screen pixels. A side that is not finite, or below 1, is not stated
      * in the message. Other sides are rounded to whole pixels and to six digits. @p slideDuration is how many seconds a
-     * slide lasts if its media do not say; if it is not finite and above 0, it is 5. Durations, including those of
-     * media, are raised to 0.001 s and lowered to 999999 s.
+     * slide lasts if its media do not say; if it is not finite and above 0, it is 5. A duration below 0.001 s or above
+     * 999999 s, also of a medium, is replaced by the nearer of these two.
      */
     explicit SmilComposer(const QSizeF &screen = QSizeF(320, 480), double slideDuration = 5.0);
 
