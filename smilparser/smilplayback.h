@@ -133,8 +133,8 @@ public:
      * When each slide begins, in seconds: ascending, each time once.
      *
      * Each child of "body" in which anything plays gives a slide, which begins when the first thing in it begins to
-     * play. Within the child, another slide begins whenever something begins to play once something that began on the
-     * current slide has ended. Sounds do not count in this. Everything that plays is on a slide.
+     * play. Within the child, another slide begins whenever something begins to play at or after the end of something
+     * that began on the current slide. Sounds do not count in this. Everything that plays is on a slide.
      */
     QList<double> slideBegins() const;
 
