@@ -75,8 +75,8 @@ public:
     void nextSlide();
 
     /**
-     * The message with all media added so far. Each slide is a SmilNode::Par of the body. The composer is not changed,
-     * and you may add more media.
+     * The message with all media added so far. Each slide is a SmilNode::Par of the body. You may add more media
+     * afterwards.
      *
      * - SmilNode::dur is how long the longest of the slide's media lasts, in seconds. If the length of a medium is not
      *   known, a SmilRef::Audio counts as 0 and any other medium as the slide duration. If all of them are 0, it is the

@@ -348,9 +348,9 @@ public:
         AsWritten = 0, ///< nothing
 
         /**
-         * If the "dur" of a "body", "par" or "seq" is a clock value, SmilUnit::convertClock() reads it: "5000ms" is 5
-         * s, and "5" is 5 s, not 5 pixels. Any other "dur" is read as without this option: "12px" is 12 pixels, "1e3s"
-         * is 1000 s, and "indefinite" is not valid.
+         * If the "dur" of a "body", "par" or "seq" is a clock value, SmilUnit::convertClock() reads it: "5000ms" and
+         * "5" are 5 s; without it, "5" is 5 pixels. Any other "dur" is read as without this option: "12px" is 12
+         * pixels, "1e3s" is 1000 s, and "indefinite" is not valid.
          */
         ClockDurations = 1,
 
@@ -421,8 +421,8 @@ public:
     SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);
 
     /**
-     * The same with @p options, which change only the model. Bits that are not a #ReadOption are ignored. @p outcome,
-     * which may be null, is always set to what happened to the input.
+     * The same with @p options. #ClockDurations and #KeepRootSize change only the model, not the tree. Bits that are
+     * not a #ReadOption are ignored. @p outcome, which may be null, is always set to what happened to the input.
      *
      * If you read with #ClockDurations and #KeepRootSize, write the model, and read it again in the same way, the top
      * layout is the same, and so are the durations, to the six digits that SmilUnit::toString() writes.
@@ -495,11 +495,11 @@ public:
      * The model as text: the elements, attributes and values of getContent(), in UTF-8, without an XML declaration.
      * With a negative @p indent it is one line without a line end. Otherwise each element has its own line, which
      * begins with that many blanks for each element around it, as in QDomDocument::toByteArray(). The bytes are the
-     * same on every run, with every Qt and on every machine. Neither the model nor the parser is changed.
+     * same on every run, with every Qt and on every machine.
      *
-     * Attributes are in the order in which getContent() sets them. An element without others inside is written as `<img
-     * src="a"/>`. Tabs and line ends in a text are kept as references. A character that XML does not allow, such as
-     * U+0001 or half a surrogate pair, is left out of its text, and the rest may be empty (`src=""`).
+     * Attributes are in the order in which getContent() sets them. An element with no others inside it is written as
+     * `<img src="a"/>`. Tabs and line ends in a text are kept as references. A character that XML does not allow, such
+     * as U+0001 or half a surrogate pair, is left out of its text, and the rest may be empty (`src=""`).
      *
      * parse() reads the result as #Complete, unless "smil", "body", the nodes and a medium together are nested deeper
      * than #MaxDepth, or deeper than 32 levels around a byte on average.
