@@ -349,8 +349,8 @@ public:
 
         /**
          * If the "dur" of a "body", "par" or "seq" is a clock value, SmilUnit::convertClock() reads it: "5000ms" and
-         * "5" are 5 s; without it, "5" is 5 pixels. Any other "dur" is read as without this option: "12px" is 12
-         * pixels, "1e3s" is 1000 s, and "indefinite" is not valid.
+         * "5" are 5 s. Without this option, "5" is 5 pixels. Any other "dur" is read as without the option: "12px" is
+         * 12 pixels, "1e3s" is 1000 s, and "indefinite" is not valid.
          */
         ClockDurations = 1,
 

@@ -191,8 +191,8 @@ public:
     SmilScreen();
 
     /**
-     * The screen of @p layout on a device of the size @p device, in pixels. If the width of @p device is not finite and
-     * above 0, it is 240; a height that is not is 320.
+     * The screen of @p layout on a device of the size @p device, in pixels. A width of @p device that is not finite and
+     * above 0 counts as 240, and such a height as 320.
      *
      * An inch is 96 pixels, 2.54 cm or 72 pt; the functions below say what percent refer to. A measure counts as not
      * stated if it is invalid, has another unit, or is not finite when converted to pixels.
