@@ -12,16 +12,15 @@
  */
 
 /**
- * Switches the library's debug messages. The library declares the flag and leaves it undefined; the program defines it
- * once, in one of its sources:
- * @code
+ * Turns the library's debug messages on or off. The library declares the flag but does not define it. The program
+ * defines it in one of its sources: @code
  * #include <smilparser/mmslogger.h>
  *
  * bool MMSLogger::qdebugEnabled = false;
  * @endcode
  *
- * The class is visible to the library whatever the program is compiled with. A program that declares the class itself,
- * exported and with this member, does not include this header. No other header of the library includes it.
+ * The library finds the flag whatever visibility the program is compiled with. A program that declares the class
+ * itself, exported and with this member, must not include this header. No other header of the library includes it.
  */
 // Imported by the library, exported by the host: on ELF, Q_DECL_IMPORT does for both. Q_DECL_EXPORT is "protected" in
 // some builds of Qt, and by that the library would look for the flag in itself.

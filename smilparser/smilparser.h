@@ -15,25 +15,26 @@
 
 /**
  * @file
- * What every host needs: the model of a presentation, which is SmilUnit and the records up to SmilDocument; and
- * SmilParser, which reads SMIL text into the model and writes the model as a DOM or as text.
+ * What every host needs. SmilUnit and the records up to SmilDocument are the model of a presentation. SmilParser reads
+ * SMIL text into the model, and writes the model as a DOM or as text.
  *
- * The types of the model are plain values. A copy shares its texts and lists with the source until one of the two is
+ * The types of the model are plain values. A copy shares its texts and lists with the original until one of the two is
  * changed, so it costs the same however much it holds. As with all lists of Qt, a reference into a list that was taken
- * before the copy still changes both. A field may be set to anything: nothing is checked, and the field says how it is
- * written. The order and types of the fields and the numbers of the enumerators are part of the binary interface.
+ * before the list was copied changes both. You may set a field to any value: nothing is checked, and the description of
+ * the field says how it is written. The order and types of the fields and the numbers of the enumerators are part of
+ * the binary interface.
  *
- * Two values are equal ("==") if all their fields are: texts character by character, where a null text equals an empty
- * one; lists record by record, in order; measures by SmilUnit::operator==(). Comparing changes neither value. It takes
- * time in proportion to what the smaller one holds, less what the two share, and one call level per level of nested
- * nodes.
+ * Two values are equal ("==") if all their fields are equal. Texts are compared character by character, and a null text
+ * equals an empty one; lists are compared record by record, in order; measures by SmilUnit::operator==(). Comparing
+ * changes neither value. It takes time in proportion to what the smaller one holds, minus what the two share, and one
+ * call level per level of nested nodes.
  *
  * Every program that uses the library defines MMSLogger::qdebugEnabled, which smilparser/mmslogger.h declares.
  */
 
 /**
- * A size, position or duration: a number and the unit it was written in. By default it is the invalid measure: not
- * #valid, #NoUnit, 0. Cost: reading is linear in the length of the text; everything else is constant.
+ * A size, position or duration: a number and its unit. By default it is the invalid measure: not #valid, #NoUnit, 0.
+ * Cost: reading is linear in the length of the text; everything else is constant.
  */
 class SMILPARSER_EXPORT SmilUnit
 {
@@ -66,7 +67,7 @@ public:
         valid = convert(text);
     }
 
-    /** The measure of @p number in @p kind. It is #valid whatever the two are; toString() says what is written. */
+    /** The measure @p number in unit @p kind. It is #valid whatever the two are; toString() says how it is written. */
     SmilUnit(double number, Unit kind)
         : valid(true)
         , unit(kind)
@@ -78,13 +79,13 @@ public:
      * Reads a number with an optional unit from @p text into #unit and #value. #valid is neither read nor changed.
      *
      * The suffixes "pt", "in", "cm", "px", "%" and "s" are looked for in this order, in lower case and anywhere in the
-     * text. The first of them that is found gives the unit. What precedes its first occurrence is the number; what
-     * follows is ignored. If none is found, the whole text is the number, in pixels. The number is a decimal of the C
-     * locale, with an optional sign, full stop and exponent; white space around it is ignored.
+     * text. The first one that is found gives the unit. The text before its first occurrence is the number; the text
+     * after it is ignored. If none is found, the whole text is the number, in pixels. The number is a decimal of the C
+     * locale, with an optional sign, decimal point and exponent. White space around it is ignored.
      *
-     * @return whether the number was understood. If not (letters, nothing before the suffix, "nan", "inf", too large or
-     * too small for a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing and
-     * returns false.
+     * @return whether the number was understood. If it was not (letters, nothing before the suffix, "nan", "inf", too
+     * large or too small for a double), the unit becomes #NoUnit and the value 0. A null or empty text changes nothing
+     * and returns false.
      */
     bool convert(const QString &text);
 
@@ -99,13 +100,13 @@ public:
      * | D or D.F             | seconds                   | "5" is 5 s                              |
      * | the same and a unit  | "h", "min", "s" or "ms"   | "1.5min" is 90 s, "5000ms" is 5 s       |
      *
-     * MM and SS are one or two digits, 59 at most. Digits are those of ASCII, units are in lower case, and there is no
-     * sign and no exponent. Blanks, tabs, carriage returns and line feeds are ignored around the whole, and not allowed
-     * inside. The value is the double nearest to what is written, however many digits that has; what is too small
-     * becomes 0.
+     * MM and SS are one or two digits, at most 59. Only ASCII digits and units in lower case are allowed, and neither a
+     * sign nor an exponent. Blanks, tabs, carriage returns and line feeds are ignored around the whole, and not allowed
+     * inside. The value is the double nearest to what is written, however many digits that has; a value that is too
+     * small becomes 0.
      *
-     * @return whether @p text is a clock value within the range of a double. If not, as with a null or empty text,
-     * nothing is changed. Store the result in #valid to make a measure of it.
+     * @return whether @p text is a clock value within the range of a double. If it is not, or if it is null or empty,
+     * nothing is changed. Store the result in #valid to complete the measure.
      */
     bool convertClock(const QString &text);
 
@@ -119,19 +120,19 @@ public:
     QString toString() const;
 
     /**
-     * Whether #valid, #unit and #value are the same in both. Units are not converted: 1 in is not 72 pt. Two values
-     * that are not a number are equal here, and so are 0 and -0.
+     * Whether #valid, #unit and #value are the same in both. Units are not converted: 1 in is not equal to 72 pt. Two
+     * values that are NaN are equal here, and so are 0 and -0.
      */
     bool operator==(const SmilUnit &other) const;
     bool operator!=(const SmilUnit &other) const; ///< the opposite of "=="
 
     bool valid; ///< whether the text was understood; an invalid measure is not written
-    int unit; ///< a #Unit; a valid measure of any other kind is written as an empty attribute
+    int unit; ///< a #Unit; a valid measure with any other unit is written as an empty attribute
     double value; ///< the number, in #unit
 };
 Q_DECLARE_TYPEINFO(SmilUnit, Q_MOVABLE_TYPE);
 
-/** One medium of the timeline: a picture, text, sound or film that plays in a region. */
+/** One medium of the timeline: a picture, text, sound or film. */
 class SMILPARSER_EXPORT SmilRef
 {
 public:
@@ -144,13 +145,13 @@ public:
         Ref = 4 ///< "ref", media of any kind
     };
 
-    /** A reference of kind @p kind, which is not checked, with null texts. */
+    /** A reference of type @p kind, which is not checked, with null texts. */
     explicit SmilRef(int kind)
         : type(kind)
     {
     }
 
-    int type; ///< a #Type; a reference of any other kind is not written
+    int type; ///< a #Type; a reference of any other type is not written
     QString src; ///< attribute "src", verbatim: where the media is; null when absent, not written when empty
     QString region; ///< attribute "region", verbatim: the SmilRegion::id to play in, existing or not; as #src
 
@@ -161,10 +162,10 @@ Q_DECLARE_TYPEINFO(SmilRef, Q_MOVABLE_TYPE);
 
 /**
  * One element of the timeline: "par", whose contents play together, or "seq", whose contents play one after another.
- * Nested elements and media are kept apart. Which came before which is not recorded; SmilTimeline knows it.
+ * Nested elements and media are in two lists. The order between the two is not recorded; SmilTimeline knows it.
  *
- * Destroying, writing and comparing a tree takes one call level per level of nesting. SmilParser::parse() makes none
- * deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, copy that first.
+ * Destroying, writing and comparing a tree takes one call level per level of nesting. SmilParser::parse() makes no tree
+ * deeper than SmilParser::MaxDepth. To replace a node by one of its descendants, first copy the descendant.
  */
 class SMILPARSER_EXPORT SmilNode
 {
@@ -181,15 +182,15 @@ public:
     {
     }
 
-    /** The same of kind @p kind, which is not checked. */
+    /** The same, but of type @p kind, which is not checked. */
     explicit SmilNode(int kind)
         : type(kind)
     {
     }
 
     QList<SmilNode> children; ///< the nested "par" and "seq" elements, in document order; written before #refs
-    int type; ///< a #Type; any other kind is written as "par"
-    SmilUnit dur; ///< attribute "dur"; invalid when absent or not understood; "5000ms" takes SmilParser::ClockDurations
+    int type; ///< a #Type; any other type is written as "par"
+    SmilUnit dur; ///< attribute "dur"; invalid when absent or not understood; "5000ms" needs SmilParser::ClockDurations
     QList<SmilRef> refs; ///< the media directly inside this element, in document order
 
     bool operator==(const SmilNode &other) const; ///< whether all fields are equal
@@ -207,9 +208,9 @@ public:
     QString spare4; ///< as #spare1
 
     /**
-     * The root, which stands for "body" itself. Its contents play one after another, as in a "seq", though its
-     * SmilNode::type is SmilNode::Par by default and after parsing. Parsing fills its SmilNode::dur and, from media
-     * directly inside "body", its SmilNode::refs. Only its SmilNode::children are written.
+     * The root, which stands for "body" itself. Its contents play one after another, as in a "seq", although its
+     * SmilNode::type is SmilNode::Par by default and after parsing. Parsing also fills its SmilNode::dur, and its
+     * SmilNode::refs with the media directly inside "body". Only its SmilNode::children are written.
      */
     SmilNode root;
 
@@ -232,8 +233,8 @@ public:
 Q_DECLARE_TYPEINFO(SmilMeta, Q_MOVABLE_TYPE);
 
 /**
- * A rectangle of the screen that media play in, element "region". By default its texts are null and its measures
- * invalid. A measure is invalid, too, when its attribute is absent or not understood; an invalid one is not written.
+ * A rectangle of the screen in which media play, element "region". By default its texts are null and its measures
+ * invalid. A measure is also invalid if its attribute is absent or not understood. An invalid measure is not written.
  */
 class SMILPARSER_EXPORT SmilRegion
 {
@@ -253,8 +254,9 @@ public:
 Q_DECLARE_TYPEINFO(SmilRegion, Q_MOVABLE_TYPE);
 
 /**
- * Where things are shown, element "layout". The measures are as those of SmilRegion. Only one "root-layout" is written,
- * with the size of the *top* layout; SmilParser::KeepRootSize keeps the size that was read.
+ * Where things are shown, element "layout". For its measures, the same holds as in SmilRegion. Only one "root-layout"
+ * is written, with the size of the *top* layout. Read with SmilParser::KeepRootSize to keep the size of the root
+ * layout.
  */
 class SMILPARSER_EXPORT SmilLayout
 {
@@ -314,28 +316,28 @@ Q_DECLARE_TYPEINFO(SmilDocument, Q_MOVABLE_TYPE);
  * Reads one presentation, or writes one.
  *
  * To read, construct a parser from a device or from bytes, and call parse() once. To write, construct it from a model,
- * and call toXml() or getContent() as often as wanted. The references that parse() and getContent() return are to
- * members of the parser and live as long as it does. A parser cannot be copied.
+ * and call toXml() or getContent() as often as you like. parse() and getContent() return references to members of the
+ * parser, which are valid as long as the parser exists. A parser cannot be copied.
  *
- * Each parser, with its DOM and every copy of that, is used by one thread at a time; several parsers may be used at the
- * same time. All they share is MMSLogger::qdebugEnabled, which they read without a lock. A copy of a model may go to
- * another thread.
+ * Only one thread at a time may use a parser, its DOM and the copies of that DOM. Different threads may use different
+ * parsers at the same time. Parsers share only MMSLogger::qdebugEnabled, which they read without a lock. You may pass a
+ * copy of a model to another thread.
  *
- * Nothing is thrown, except by a failing allocation inside Qt. Warnings go to qWarning(). Debug lines go to qDebug()
+ * Nothing is thrown, except if an allocation inside Qt fails. Warnings go to qWarning(). Debug lines go to qDebug()
  * while MMSLogger::qdebugEnabled is true.
  *
- * Cost: constructing from bytes or a model is constant; reading a device copies what it holds. parse() takes a scan of
- * the input, what QDomDocument::setContent() takes for it, and time linear in the elements that are read and in the
- * length of their measures; what is inside of elements that are skipped adds nothing to that. Writing is linear in the
- * number of records, and toXml() in the length of their texts too. Dropping an old tree comes on top. Each level of
- * nested nodes takes one call level.
+ * Cost: constructing from bytes or a model is constant; constructing from a device copies what it holds. parse() scans
+ * the input, calls QDomDocument::setContent(), and then takes time linear in the number of elements that are read and
+ * in the length of their measures; elements inside skipped ones do not count. Writing is linear in the number of
+ * records, and toXml() also in the length of their texts. Destroying an old tree adds to that. Each level of nested
+ * nodes takes one call level.
  */
 class SMILPARSER_EXPORT SmilParser
 {
 public:
     /**
-     * A bound on what is read. parse() reads a document up to where it exceeds this bound or one of the others that
-     * SECURITY.md lists, and reports that it is not well formed. No ordinary message is near them.
+     * A limit on what is read. If a document exceeds this limit, or one of the others that SECURITY.md lists, parse()
+     * reads it only up to that place and reports that it is not well formed. No ordinary message comes near the limits.
      */
     enum Limit {
         MaxDepth = 512 ///< levels of nested elements, of any name; also the deepest `depth` of parseSmilNodes()
@@ -346,42 +348,42 @@ public:
         AsWritten = 0, ///< nothing
 
         /**
-         * A "dur" of "body", "par" or "seq" that is a clock value is read by SmilUnit::convertClock(): "5000ms" is 5 s,
-         * and "5" is 5 s, not 5 pixels. Any other is read as without this option: "12px" is 12 pixels, "1e3s" is
-         * 1000 s, and "indefinite" is not valid.
+         * If the "dur" of a "body", "par" or "seq" is a clock value, SmilUnit::convertClock() reads it: "5000ms" and
+         * "5" are 5 s. Without this option, "5" is 5 pixels. Any other "dur" is read as without the option: "12px" is
+         * 12 pixels, "1e3s" is 1000 s, and "indefinite" is not valid.
          */
         ClockDurations = 1,
 
         /**
-         * SmilLayout::rootLayoutWidth is copied to SmilLayout::topLayoutWidth where no valid one was read, and the
-         * height likewise, so that the size that was read is written. If neither is valid, nothing changes.
+         * If no valid SmilLayout::topLayoutWidth was read, SmilLayout::rootLayoutWidth is copied to it, so that it is
+         * written. The same holds for the height. If neither is valid, none is written.
          */
         KeepRootSize = 2,
 
         /**
-         * The input is UTF-8, whatever its XML declaration says: for text that was decoded already. A byte order mark
-         * at its beginning is dropped. Bytes that are no UTF-8 are an error with Qt 6 (though it may be called another
-         * one) and U+FFFD with Qt 5, as in a document that declares UTF-8. Of the declaration, only what the XML reader
-         * itself refuses is refused.
+         * The input is UTF-8, whatever its XML declaration says. This is for text that was decoded already. A byte
+         * order mark at its beginning is dropped. Bytes that are not UTF-8 are an error with Qt 6 (though its message
+         * may say something else) and become U+FFFD with Qt 5, as in a document that declares UTF-8. A declaration is
+         * refused only if the XML reader itself refuses it.
          */
         DecodedText = 4
     };
-    /** Any of #ReadOption together. */
+    /** Any combination of #ReadOption. */
     Q_DECLARE_FLAGS(ReadOptions, ReadOption)
 
-    /** What became of the input: the rows of the table at parse(), the last one first. */
+    /** What happened to the input. The table at parse() has a row for each of these. */
     enum Outcome {
         Complete = 0, ///< "smil", "head" and "body" were found and read
-        NotWellFormed = 1, ///< it is empty, no XML that Qt reads, beyond a #Limit, or has been read before
+        NotWellFormed = 1, ///< it is empty, not XML that Qt reads, beyond a #Limit, or was read before
         NoSmil = 2, ///< there is no "smil" root element
         NoHead = 3, ///< there is no "head" in "smil"
         NoBody = 4 ///< there is a "head" in "smil", but no "body"
     };
 
     /**
-     * A parser of all that @p device gives from its position to its end. It is read here, by QIODevice::readAll(), and
-     * not opened, moved back, closed or kept. A device that is null, not open (Qt warns of that) or at its end gives no
-     * input.
+     * A parser of everything from the current position of @p device to its end. The constructor reads it with
+     * QIODevice::readAll(). It does not open, rewind, close or keep the device. A device that is null, not open (Qt
+     * warns about that) or at its end gives no input.
      */
     explicit SmilParser(QIODevice *device);
 
@@ -392,7 +394,7 @@ public:
     explicit SmilParser(const SmilDocument &model);
 
     /**
-     * Reads the input into the model, and returns the model in any case:
+     * Reads the input into the model, and always returns the model:
      *
      * | The input                            | Warning                                           | The model       |
      * |--------------------------------------|---------------------------------------------------|-----------------|
@@ -402,114 +404,115 @@ public:
      * | has no "body" in it                  | "Fail to find SMIL body!"                         | only the header |
      * | is complete                          | none                                              | filled          |
      *
-     * The first row is also that of a document beyond a #Limit. In that row alone, @p errorMsg, @p errorLine and
-     * @p errorColumn, each of which may be null, get the XML reader's message and place, as the warning does. Lines
-     * start at 1. The column is the number of UTF-16 code units of its line up to where the reader gave up; in some
-     * cases that is 0 with Qt 6. What the model has no place for is ignored, as is a measure that is not understood.
+     * The first row also applies to a document beyond a #Limit. Only in that row, @p errorMsg, @p errorLine and
+     * @p errorColumn, each of which may be null, are set to the XML reader's message and place, which the warning also
+     * has. Lines start at 1. The column is the number of UTF-16 code units of the line up to where the reader gave up;
+     * with Qt 6 it is sometimes 0. What the model has no place for is ignored, and so is a measure that is not
+     * understood.
      *
-     * The input is read once. A second call finds none, which is the first row, and keeps the model of the first.
+     * The input is read once. A second call finds no input, as in the first row, and keeps the model of the first call.
      *
-     * Every call replaces the tree that an earlier parse() or getContent() left, in copies of dom() too. Elements of
-     * the old tree that the host still holds keep what is inside them, but are no longer in the document. When that
-     * ends, they may only be destroyed, in any order.
+     * Every call replaces the tree that an earlier parse() or getContent() left, also in the copies of dom(). Elements
+     * of the old tree that the host still holds keep what is inside them, but are no longer in the document. When the
+     * document has ended, you may only destroy them, in any order.
      *
-     * The model is the parser's. Copy it if the parser is a temporary.
+     * The model belongs to the parser. Copy it if the parser is a temporary.
      */
     SmilDocument &parse(QString *errorMsg = nullptr, int *errorLine = nullptr, int *errorColumn = nullptr);
 
     /**
-     * The same with @p options, which change nothing but the model. Bits that are no #ReadOption are ignored. In every
-     * case @p outcome, which may be null, gets what became of the input.
+     * The same with @p options. #ClockDurations and #KeepRootSize change only the model, not the tree. Bits that are
+     * not a #ReadOption are ignored. @p outcome, which may be null, is always set to what happened to the input.
      *
-     * What is read with #ClockDurations and #KeepRootSize, written and read so again has the same top layout, and the
-     * same durations to the six digits that SmilUnit::toString() writes.
+     * If you read with #ClockDurations and #KeepRootSize, write the model, and read it again in the same way, the top
+     * layout is the same, and so are the durations, to the six digits that SmilUnit::toString() writes.
      */
     SmilDocument &parse(ReadOptions options, Outcome *outcome = nullptr, QString *errorMsg = nullptr,
                         int *errorLine = nullptr, int *errorColumn = nullptr);
 
     /**
-     * The tree that the last parse() read or the last getContent() made. It has what the model has no place for, and no
-     * XML declaration. It is null before the first of the two, unless render() was called, and after a parse() whose
-     * outcome is #NotWellFormed. Later changes to the model do not show in it.
+     * The tree that the last parse() read or the last getContent() made. It also has what the model has no place for,
+     * but no XML declaration. It is null after a parse() whose outcome is #NotWellFormed. It is also null before the
+     * first parse(), getContent() or render(). Later changes to the model do not show in it.
      *
-     * This is Qt's handle: a change to the tree shows in every copy. A copy keeps the tree when the parser is destroyed
-     * or getContent() begins another one; a further parse() replaces the tree in the copy too, by what it reads or by
-     * nothing. Elements of a tree that no copy keeps may only be destroyed, in any order.
+     * As always in Qt, a change to the tree shows in every copy of the document. A copy keeps the tree when the parser
+     * is destroyed or getContent() makes another one. A further parse() replaces the tree in the copy, too, by what it
+     * reads or by nothing. If no copy keeps a tree, you may only destroy its elements, in any order.
      */
     QDomDocument dom() const;
 
     /**
-     * Reads the first "head" child of @p smil, then the first "body" child, into the model, whichever comes first. The
-     * model is not cleared before. The element and its tree are not changed; they need not be parse()'s.
+     * Reads the first "head" child of @p smil into the model, and then the first "body" child, in whatever order they
+     * are. The model is not cleared before. The element and its tree are not changed, and may come from elsewhere.
      *
-     * @return whether both were found and read. If not, there is one warning as of parse(), or none when
-     * parseSmilNodes() refused the body. Without a head, the body is not looked for. A null element has neither.
+     * @return whether both were found and read. If not, there is one warning, as in parse(), or none if
+     * parseSmilNodes() refused the body. Without a head, the body is not read either. A null element has neither.
      *
-     * The debug lines are "Begin to parse smil document. ", then "Smil document have a head. " and "Smil document have
-     * a body. " as each has been read.
+     * The debug lines are "Begin to parse smil document. ", then "Smil document have a head. " after the head was read,
+     * and "Smil document have a body. " after the body was read.
      */
     bool parseSmilDocument(QDomElement &smil);
 
     /**
      * Reads the attributes of @p head, its "meta" children and its first "layout" child into the model's header. Metas
-     * and regions are appended to those that are there. Attributes replace what is there, absent ones too. The element
-     * is not changed; a null one counts as one without attributes and children. Always true.
+     * and regions are appended to those in the model. Attributes replace those in the model, even if they are absent
+     * here. The element is not changed; a null one counts as one without attributes and children. Always true.
      */
     bool parseSmilHead(QDomElement &head);
 
     /**
      * Reads the first "root-layout", the first "topLayout" and every "region" child of @p layout into the model's
-     * layout. Regions are appended to those that are there. A missing "root-layout" or "topLayout" leaves its two
-     * measures alone. The element is not changed; a null one counts as empty. Always true.
+     * layout. Regions are appended to those in the model. If "root-layout" or "topLayout" is missing, its two measures
+     * are not changed. The element is not changed; a null one counts as empty. Always true.
      */
     bool parseLayout(QDomElement &layout);
 
-    /** Reads @p body into the root of the model's timeline: parseSmilNodes() with it, that root and depth 0. */
+    /** Reads @p body into the root of the model's timeline: parseSmilNodes() with @p body, that root and depth 0. */
     bool parseSmilBody(QDomElement &body);
 
     /**
-     * Reads the timeline inside @p element into @p node. Replaces SmilNode::dur, and appends a node for each "par" and
-     * "seq" child and a reference for each "text", "img", "audio", "video" and "ref" child, their names in any letter
-     * case. Other children are skipped with all they hold. SmilNode::type is not changed, nor is the element, and no
+     * Reads the timeline inside @p element into @p node. Replaces SmilNode::dur. Appends a node for each "par" and
+     * "seq" child, and a reference for each "text", "img", "audio", "video" and "ref" child, their names in any letter
+     * case. Other children are skipped with all that is in them. SmilNode::type and the element are not changed, and no
      * member of the parser is used. A null element counts as empty.
      *
-     * @p depth says how deep @p element is nested: 0 for "body"; a negative one allows for that many levels more.
+     * @p depth says how deep @p element is nested: 0 for "body". A negative depth allows that many more levels.
      *
-     * @return false, without a warning, when something is nested deeper than #MaxDepth. If that is @p element, @p node
-     * is not touched; if it is an element inside, that one and those around it up to @p element are left out, and what
-     * precedes them is kept.
+     * @return false, without a warning, if something is nested deeper than #MaxDepth. If that is @p element, @p node is
+     * not changed. If it is an element inside, that element and those around it, up to @p element, are left out, and
+     * what precedes them is kept.
      */
     bool parseSmilNodes(QDomElement &element, SmilNode &node, int depth);
 
     /**
-     * Makes a new tree of the model under the root element "smil", and returns it. The old tree is dropped, unless a
-     * copy keeps it. The model is not changed, and every model can be written: each field says how, and texts are
-     * written verbatim. There is no XML declaration, document type or namespace.
+     * Makes a new tree of the model under the root element "smil", and returns it. The old tree is destroyed, unless a
+     * copy keeps it. The model is not changed. Every model can be written: the description of each field says how.
+     * Texts are written verbatim. There is no XML declaration, document type or namespace.
      */
     QDomDocument &getContent();
 
     /**
      * The model as text: the elements, attributes and values of getContent(), in UTF-8, without an XML declaration.
-     * With a negative @p indent it is one line without a line end. From 0 on each element has a line, which begins with
-     * that many blanks for each element around it, as in QDomDocument::toByteArray(). The bytes are the same on every
-     * run, Qt and machine. Neither the model nor the parser is changed.
+     * With a negative @p indent it is one line without a line end. Otherwise each element has its own line, which
+     * begins with that many blanks for each element around it, as in QDomDocument::toByteArray(). The bytes are the
+     * same on every run, with every Qt and on every machine.
      *
-     * Attributes stand in the order in which getContent() sets them. An element without others inside is written as
-     * `<img src="a"/>`. Tabs and line ends in a text stay, as references. A character that XML does not allow, such as
-     * U+0001 or half a surrogate pair, is left out of its text, and what is left may be empty (`src=""`).
+     * Attributes are in the order in which getContent() sets them. An element with no others inside it is written as
+     * `<img src="a"/>`. Tabs and line ends in a text are kept as references. A character that XML does not allow, such
+     * as U+0001 or half a surrogate pair, is left out of its text, and the rest may be empty (`src=""`).
      *
-     * parse() reads all this back as #Complete, unless "smil", "body", the nodes and a medium are together deeper than
-     * #MaxDepth, or than 32 levels around a byte on average.
+     * parse() reads the result as #Complete, unless "smil", "body", the nodes and a medium together are nested deeper
+     * than #MaxDepth, or deeper than 32 levels around a byte on average.
      */
     QByteArray toXml(int indent = -1) const;
 
     /**
-     * Each of these returns a new element for its record, with all that it holds. The caller appends it where it
-     * belongs. The record is not changed. The result is null only for a SmilRef of unknown kind.
+     * Each of these returns a new element for its record, with everything in it. The caller appends the element where
+     * it belongs. The record is not changed. The result is null only for a SmilRef of unknown type.
      *
-     * The element belongs to the parser's document, which ends when getContent() begins another one, parse() fails, or
-     * the parser is destroyed, unless the host keeps a copy of dom(). An element that is in no document by then may
-     * only be destroyed.
+     * The element belongs to the parser's document. That ends when getContent() makes another one, parse() fails, or
+     * the parser is destroyed, unless the host keeps a copy of dom(). If the element was not appended by then, you may
+     * only destroy it.
      */
     QDomElement render(SmilDocument &model);
     QDomElement render(SmilHeader &header); ///< @copydoc render(SmilDocument&)

@@ -16,14 +16,15 @@
 /**
  * @file
  * How a message is shown: *when* each medium plays (SmilTimeline), *where* on the screen (SmilScreen), and *which* part
- * of the message it is (SmilParts). SmilSlideshow, in smilslideshow.h, puts these together and shows a whole message.
+ * of the message it is (SmilParts). SmilSlideshow, in smilslideshow.h, uses these to make slides of a whole message.
  *
- * All are plain values: a copy shares what it holds with the source until one of the two is changed, and costs the same
- * however much that is. What has been moved from may only be destroyed or assigned to. Fields may be set to anything:
- * nothing is checked. None of these classes warns or throws, and nothing is NaN unless a host sets it to that.
+ * All classes are plain values: a copy shares what it holds with the original until one of the two is changed, and
+ * costs the same however much that is. You may only destroy a value that was moved from, or assign to it. You may set a
+ * field to any value: nothing is checked. None of these classes warns or throws. No number is NaN unless the host sets
+ * it to NaN.
  */
 
-/** One medium of the timeline, and when it plays: one for each element that names a medium, even if it never plays. */
+/** One medium of the timeline, and when it plays. Each media element has a cue, even if it never plays. */
 class SMILPARSER_EXPORT SmilCue
 {
 public:
@@ -39,20 +40,21 @@ public:
     QString alt; ///< attribute "alt", verbatim: words in place of the medium; null when absent
 
     /**
-     * Attribute "value" of its children "param", verbatim, by their "name"; null when absent. The first of several with
-     * one name counts; one whose name is absent or empty is left out. Only "param" in lower case is read.
+     * Attribute "value" of each child "param", by its attribute "name". Values are verbatim, and null if absent. If
+     * several have the same name, the first one counts. A "param" whose name is absent or empty is left out. Only
+     * "param" in lower case is read.
      */
     QMap<QString, QString> params;
 
     /**
-     * The colour behind it: its parameter "background-color", or else attribute "background-color", or else
-     * "backgroundColor", of the first region whose SmilRegion::id is SmilRef::region. Verbatim; null when none of them
-     * is stated. An empty one is not stated.
+     * The colour behind the medium: its "background-color" in #params. If that is not stated, it is the attribute
+     * "background-color", or else "backgroundColor", of its region, which is the first one whose SmilRegion::id is
+     * SmilRef::region. Verbatim; null if none of them is stated. An empty one counts as not stated.
      */
     QString background;
 
     QString fit; ///< the SmilRegion::fit of that region, for SmilScreen::fitted(); null when there is none
-    int line; ///< of its element in the text that was parsed, from 1 on; -1 where the tree was made otherwise
+    int line; ///< the line of its element in the text, from 1 on; -1 if the tree was not read from a text
 
     double begin; ///< seconds from the beginning of the message; may be infinite
     double end; ///< as #begin, and never before it; equal to it when the medium never plays
@@ -66,54 +68,54 @@ private:
 Q_DECLARE_TYPEINFO(SmilCue, Q_MOVABLE_TYPE);
 
 /**
- * When everything plays. It is read from the DOM, because the model keeps neither "begin" and "end" nor the order of
- * media and nodes in a "seq".
+ * When everything plays. A timeline is made of the DOM, because the model has neither "begin" and "end" nor the order
+ * of media and nodes in a "seq".
  *
- * Cost: constructing takes time linear in the number of elements and in the length of the times, n log n in the number
- * of media and in that of the params of each, and one call level per level of nesting; a stack of 512 KiB is enough.
- * Choosing from the cues is linear in the number of all cues. Texts are shared.
+ * Cost: constructing takes time linear in the number of elements and in the length of the times, and n log n in the
+ * number of media and in the number of params of each. It takes one call level per level of nesting; a stack of 512 KiB
+ * is enough. The functions that choose from the cues are linear in the number of all cues. Texts are shared.
  */
 class SMILPARSER_EXPORT SmilTimeline
 {
 public:
-    /** One in which nothing plays, and which takes no time. */
+    /** A timeline on which nothing plays, and which takes no time. */
     SmilTimeline();
 
     /**
      * The timeline of the first child "body" of @p smil, which is the document element of SmilParser::dom() or
-     * SmilParser::getContent(). It is empty when there is no body, or when @p smil is null or no "smil" element. There
-     * need not be a "head"; if there is, colours and fits are those of its first "layout". Nothing in the tree is
-     * changed.
+     * SmilParser::getContent(). It is empty if there is no body, or if @p smil is null or not a "smil" element. Colours
+     * and fits come from the first "layout" of the "head", if there is one. The tree is not changed.
      *
-     * It sees what SmilParser::parseSmilNodes() sees: "par", "seq" and the five media in any letter case. Other
-     * elements are skipped with all they hold, and so are nodes nested deeper than SmilParser::MaxDepth below the body.
-     * "repeatCount", "repeatDur" and their like are ignored: everything plays once.
+     * Like SmilParser::parseSmilNodes(), it reads "par", "seq" and the five media elements, in any letter case. Other
+     * elements are skipped with all that is in them, and so are nodes nested deeper than SmilParser::MaxDepth below the
+     * body. "repeatCount", "repeatDur" and the like are ignored: everything plays once.
      *
-     * **What is stated.** A "dur" is stated when SmilUnit::convertClock(), or else SmilUnit::convert() in
-     * SmilUnit::Sec, gives a finite number above 0. A "begin" or "end" is stated when SmilUnit::convertClock()
-     * understands it; a "+" at its beginning is dropped before. Anything else counts as absent: "indefinite", an event
-     * such as "click", a time before the beginning. A "begin" that is not stated is 0.
+     * **What is stated.** A "dur" is stated if SmilUnit::convertClock(), or else SmilUnit::convert() in SmilUnit::Sec,
+     * gives a finite number above 0. A "begin" or "end" is stated if SmilUnit::convertClock() understands it, after a
+     * "+" at its beginning was dropped. Anything else counts as absent: "indefinite", an event such as "click", a
+     * negative time. A "begin" that is not stated is 0.
      *
-     * **What nothing states.** @p length returns how many seconds a medium takes by itself. It is called for each
-     * medium that states neither "dur" nor "end", once and in document order. The result counts when it is finite and
-     * above 0; @p length may be null. A medium that has no length either is *open*: where nothing else says how long it
-     * lasts, it takes @p slideDuration seconds, which is 5 when it is not finite and above 0.
+     * **What is not stated.** @p length returns how many seconds a medium takes by itself. It is called once for each
+     * medium that states neither "dur" nor "end", in document order. The result is ignored unless it is finite and
+     * above 0. @p length may be null. A medium that has no length either is called *open*. If nothing else says how
+     * long it lasts, it lasts for @p slideDuration seconds. If that is not finite and above 0, it is 5.
      *
-     * **Begin and end.** Everything begins its "begin" after its base. In a "par" the base is the begin of the par; in
-     * a "seq" it is the end of what precedes. It ends at the earlier of its begin plus "dur" and its base plus "end",
-     * and never before its begin. With neither stated, a medium takes its length, and a node takes what is in it:
+     * **Begin and end.** Each element has a base: in a "par" the begin of the par, and in a "seq" the end of what
+     * precedes the element. The element begins at its base plus its "begin". It ends at its begin plus its "dur" or at
+     * its base plus its "end", whichever is earlier, but never before its begin. If it states neither, a medium lasts
+     * for its length, and a node for as long as its contents:
      *
-     * - A "seq", and "body" is one, plays its media and nodes one after another, in document order. An open medium
-     *   takes @p slideDuration; the last one lasts until the seq ends.
-     * - A "par" plays until the last thing in it ends. For this, an open medium takes @p slideDuration, and an open
-     *   audio does not count. If the par would take no time then, and there is an open medium directly in it, it takes
+     * - A "seq" plays its media and nodes one after another, in document order. "body" is a seq, too. An open medium
+     *   takes @p slideDuration; if it is the last thing in the seq, it lasts until the seq ends.
+     * - A "par" plays until the last thing in it ends. An open medium counts as @p slideDuration for this, and an open
+     *   audio does not count. If the par would then take no time, but has an open medium directly in it, the par takes
      *   @p slideDuration. All open media last until the par ends.
      *
-     * Nothing outlasts the node around it. What would begin after the end of that begins and ends there, and so never
-     * plays.
+     * Nothing lasts longer than the node around it. What would begin after the end of that node begins and ends at that
+     * end, so it never plays.
      *
-     * Times are sums from 0 on, in document order, and compared as they are. Those beyond the range of a double are
-     * infinite.
+     * Times are added up from 0 on, in document order, and compared without rounding. A time beyond the range of a
+     * double is infinite.
      */
     explicit SmilTimeline(const QDomElement &smil, double slideDuration = 5.0,
                           const std::function<double(const SmilRef &)> &length = nullptr);
@@ -124,49 +126,49 @@ public:
     SmilTimeline &operator=(SmilTimeline &&other) noexcept; ///< Takes over @p other, as the constructor.
     ~SmilTimeline(); ///< Releases what no copy shares.
 
-    /** Every medium exactly once, by SmilCue::begin; those that begin together are in document order. */
+    /** All media, each once, sorted by SmilCue::begin; media that begin together are in document order. */
     QList<SmilCue> cues() const;
 
     /**
-     * Where a host pages, in seconds: ascending, each once.
+     * When each slide begins, in seconds: ascending, each time once.
      *
-     * Each child of "body" in which anything plays gives a page, which begins when the first thing plays. A further
-     * page begins in it whenever something begins after something that began on the same page has ended; sounds count
-     * for neither. Everything that plays is on a page.
+     * Each child of "body" in which anything plays gives a slide, which begins when the first thing in it begins to
+     * play. Within the child, another slide begins whenever something begins to play at or after the end of something
+     * that began on the current slide. Sounds do not count in this. Everything that plays is on a slide.
      */
     QList<double> slideBegins() const;
 
-    /** The end of "body" in seconds, whether something plays then or not; 0 when empty; may be infinite. */
+    /** The end of "body" in seconds, even if nothing plays until then; 0 if the timeline is empty; may be infinite. */
     double duration() const;
 
     /**
      * The colour behind everything: attribute "background-color", or else "backgroundColor", of the first
-     * "root-layout", or else of the first "topLayout". Verbatim; null when none of them is stated. An empty one is not
-     * stated. There need not be a "body".
+     * "root-layout", or else of the first "topLayout". Verbatim; null if none of them is stated. An empty one counts as
+     * not stated. It is read even if there is no "body".
      */
     QString background() const;
 
     /**
      * What plays @p seconds after the beginning of the message, in the order of cues(): begin <= @p seconds < end.
-     * Nothing plays before 0, at infinity and at NaN.
+     * Nothing plays before 0, at infinity or at NaN.
      */
     QList<SmilCue> cuesAt(double seconds) const;
 
     /**
-     * What plays at some time from @p from until before @p to, in the order of cues(): begin < @p to, end > @p from,
-     * and begin < end. @p to may be infinite. Nothing does if one of them is NaN.
+     * What plays at some time between @p from and @p to, in the order of cues(): begin < @p to, end > @p from, and
+     * begin < end. @p to may be infinite. The list is empty if one of the two is NaN.
      */
     QList<SmilCue> cuesBetween(double from, double to) const;
 
     /**
-     * Everything that the page at @p index of slideBegins() shows, what begins late on it too: cuesBetween() its begin
-     * and that of the next page, or infinity. Nothing for any other @p index.
+     * Everything that the slide at @p index of slideBegins() shows, even if it begins late: cuesBetween() the begin of
+     * this slide and the begin of the next one, or infinity. The list is empty for any other @p index.
      */
     QList<SmilCue> cuesOnSlide(int index) const;
 
     /**
-     * When the next thing after @p seconds begins to play or ends: until then, cuesAt() stays the same. Infinite when
-     * nothing does, and for NaN. What never plays does not count. duration() may be later.
+     * When something next begins to play or ends after @p seconds. Until then, cuesAt() returns the same. The result is
+     * infinite if nothing changes any more, and for NaN. What never plays does not count. duration() may be later.
      */
     double nextChange(double seconds) const;
 
@@ -179,22 +181,21 @@ Q_DECLARE_TYPEINFO(SmilTimeline, Q_MOVABLE_TYPE);
  * Where everything is shown, in pixels of the message: x to the right and y down from the upper left corner of the
  * root layout.
  *
- * Cost: constructing takes n log n in the number of regions, and looking one up log n, both times the length of the
- * ids; rects() takes n log n in the number of cues and regions, times the length of the ids. Everything else is
- * constant.
+ * Cost: constructing takes n log n in the number of regions, regionIndex() takes log n, and rects() takes n log n in
+ * the number of cues and regions, each times the length of the ids. Everything else is constant.
  */
 class SMILPARSER_EXPORT SmilScreen
 {
 public:
-    /** One of no size and without regions. */
+    /** A screen without size and regions. */
     SmilScreen();
 
     /**
-     * The screen of @p layout on a device of that size in pixels. A side of @p device that is not finite and above 0 is
-     * 240 (the width) or 320 (the height). The layout is not changed.
+     * The screen of @p layout on a device of the size @p device, in pixels. A width of @p device that is not finite and
+     * above 0 counts as 240, and such a height as 320.
      *
-     * Pixels count as they are; percent are of the length that they are measured against; an inch is 96 pixels, 2.54 cm
-     * or 72 pt. A measure that is invalid, of another unit, or not finite, also in pixels, counts as not stated.
+     * An inch is 96 pixels, 2.54 cm or 72 pt; the functions below say what percent refer to. A measure counts as not
+     * stated if it is invalid, has another unit, or is not finite when converted to pixels.
      */
     explicit SmilScreen(const SmilLayout &layout, const QSizeF &device = QSizeF(240, 320));
 
@@ -205,59 +206,62 @@ public:
     ~SmilScreen(); ///< Releases what no copy shares.
 
     /**
-     * The size of the root layout; both sides are finite and above 0. On each axis it is the first of these:
+     * The size of the root layout; both sides are finite and above 0. On each axis it is the first of these that is
+     * known:
      *
-     * - the root layout's measure, if that is above 0; percent are of the device;
+     * - the root layout's measure, if that is above 0; percent refer to the device;
      * - the top layout's measure, likewise;
-     * - how far the farthest region reaches, of those whose length is stated, not in percent, and whose "left" or "top"
-     *   is so too or not stated;
-     * - as long to the other side as the device's are to each other, if the other side is known;
-     * - the device's.
+     * - how far the farthest region reaches, if that is above 0. Only regions count whose length is stated, but not in
+     *   percent, and whose "left" or "top" is not in percent either;
+     * - the length that gives the screen the proportions of the device, if the other side is known;
+     * - the device's side.
      */
     QSizeF size() const;
 
     /**
-     * The rectangle of each region, as many and in the same order as SmilLayout::regions. A region that reaches beyond
-     * the edges is not cut off, one of negative length is 0 long, and nothing is infinite.
+     * The rectangle of each region, in the order of SmilLayout::regions. A region that reaches beyond the edges is not
+     * cut off. A negative length counts as 0. No number is infinite.
      *
-     * On each axis, percent are of size(). The length is the stated one, or else what remains between "left" and
-     * "right" ("top" and "bottom"), each of which is 0 when not stated. The region begins at "left", or else so that it
-     * ends at "right", or else at 0. Where all three are stated, "right" is ignored.
+     * Percent refer to size(). The width is the stated one, or else what remains between "left" and "right", each of
+     * which is 0 if not stated. The region begins at "left" if that is stated. If only "right" is stated, the region
+     * ends there. If neither is stated, it begins at 0. If all three are stated, "right" is ignored. The same holds for
+     * "height", "top" and "bottom".
      */
     QList<QRectF> regionRects() const;
 
     /**
-     * The index, in regionRects() and in SmilLayout::regions, of the first region whose SmilRegion::id is @p id; -1
-     * when there is none, and for a null or empty id. The letter case matters.
+     * The index, in regionRects() and in SmilLayout::regions, of the first region whose SmilRegion::id is @p id; -1 if
+     * there is none, or if @p id is null or empty. The letter case matters.
      */
     int regionIndex(const QString &id) const;
 
     /**
-     * Where each of @p cues is shown when all of them are shown together: one rectangle for each, in their order, and
-     * a null one for audio. When they play does not matter.
+     * Where each of @p cues is shown if all of them are shown together: one rectangle for each, in their order. The
+     * rectangle of an audio is null. It does not matter when the cues play.
      *
-     * A medium is shown in the area of its region, or on the whole screen when it names no region or one that the
-     * layout lacks. Those of the same area share it in equal parts in their order: side by side if it is wider than
-     * high, or else one above the other. Areas are the same when their rectangles are, whatever the regions are called.
+     * A medium is shown in the area of its region, or on the whole screen if it names no region or one that the layout
+     * does not have. Media in the same area share it in equal parts, in their order: side by side if the area is wider
+     * than high, and otherwise one above the other. Areas are the same if their rectangles are equal, whatever the
+     * regions are called.
      */
     QList<QRectF> rects(const QList<SmilCue> &cues) const;
 
     /**
-     * The rectangle that the whole of a picture of size @p picture, in pixels of the message, takes when it is shown in
-     * @p area by @p fit, which is its SmilCue::fit. It is in the middle of the area. It may be larger than the area;
-     * then the host cuts it off at the edges.
+     * The rectangle of a whole picture that is shown in @p area. @p picture is the size of the picture in pixels of the
+     * message, and @p fit is its SmilCue::fit. The rectangle is in the middle of the area. It may be larger than the
+     * area; then the host must cut it off at the edges.
      *
      * | fit                            | The rectangle                                                               |
      * |--------------------------------|-----------------------------------------------------------------------------|
      * | "fill"                         | the area: the picture is distorted                                          |
-     * | "slice"                        | the smallest of the picture's shape that covers the area                    |
-     * | "hidden", "scroll", "meetBest" | of the picture's own size if that fits, else as "meet"                      |
-     * | "meet", and anything else      | the largest of the picture's shape that fits in the area                    |
+     * | "slice"                        | the smallest with the picture's proportions that covers the area            |
+     * | "hidden", "scroll", "meetBest" | the picture's own size if that fits in the area, or else as "meet"          |
+     * | "meet", and anything else      | the largest with the picture's proportions that fits in the area            |
      *
      * The letter case matters; null and empty are "anything else".
      *
-     * For a picture whose sides are not both finite and above 0, it is an empty rectangle in the middle of the area,
-     * whatever @p fit says. In an area without width or height, so is everything that must fit in.
+     * If the sides of the picture are not both finite and above 0, the result is an empty rectangle in the middle of
+     * the area, whatever @p fit is. It is also empty if the picture must fit in an area without width or height.
      */
     static QRectF fitted(const QSizeF &picture, const QRectF &area, const QString &fit);
 
@@ -267,8 +271,8 @@ private:
 Q_DECLARE_TYPEINFO(SmilScreen, Q_MOVABLE_TYPE);
 
 /**
- * Which part of a message a SmilRef::src means. The host numbers the parts, from 0 on, and adds the names of each. By
- * default there are none. Cost: log n in the number of names, times the length of the name.
+ * Finds the part of a message that a SmilRef::src means. The host numbers the parts from 0 on, and adds the names of
+ * each. By default there are none. Cost: log n in the number of names, times the length of the name.
  */
 class SMILPARSER_EXPORT SmilParts
 {
@@ -281,19 +285,20 @@ public:
     ~SmilParts(); ///< Releases what no copy shares.
 
     /**
-     * Adds @p name, which is a Content-ID, a Content-Location or a file name, as one that part @p part has: verbatim,
-     * and *bare*. A name is made bare by dropping a quotation mark at its beginning and one at its end, then "cid:" in
-     * any letter case at its beginning, then "<" at its beginning and ">" at its end, each where it is there.
+     * Adds @p name, which is a Content-ID, a Content-Location or a file name, as a name of part @p part: verbatim, and
+     * *bare*. To make a name bare, these are dropped if they are there: first a quotation mark at its beginning and one
+     * at its end, then "cid:" in any letter case at its beginning, then "<" at its beginning and ">" at its end.
      *
-     * A part may have several names. A name that several parts have is that of the first one it was added for. Nothing
-     * changes for a name that is null or has nothing left when it is bare, and for a negative @p part.
+     * A part may have several names. If a name is added for several parts, it means the first of them. A name that is
+     * null or has nothing left when it is bare is not added, and neither is one for a negative @p part.
      */
     void add(int part, const QString &name);
 
     /**
-     * The part that @p src means, or -1. These are tried in turn, each among all parts: the name that is exactly
-     * @p src; the bare name that is @p src bare; that with each %XX decoded, as UTF-8, and bare again; and that in any
-     * letter case. Folders are part of a name: "../b.txt" and "b.txt" are two. A null or empty @p src means no part.
+     * The part that @p src means, or -1. These are looked up in turn, each among all parts: @p src among the verbatim
+     * names; @p src made bare, among the bare names; the same with each %XX decoded, as UTF-8, and made bare again; and
+     * the same in any letter case. Folders are part of a name: "../b.txt" and "b.txt" differ. A null or empty @p src
+     * means no part.
      */
     int find(const QString &src) const;
 
