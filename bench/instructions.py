@@ -18,7 +18,7 @@ import subprocess
 import sys
 import tempfile
 
-QTS = {"Qt 6": "build/bench-qt6/bench/bench", "Qt 5": "build/bench-qt5/bench/bench"}
+QTS = {"Qt 6": "build/qt6/bench/bench", "Qt 5": "build/qt5/bench/bench"}
 
 FLOORS = {"parse": "floor-parse", "write": "floor-write", "show": "parse", "slideshow": "model", "text": "floor-text",
           "show-colliding": "show-differing"}

@@ -41,29 +41,26 @@ static QString decoded(const QString &name)
     return QString::fromUtf8(plain.constData(), plain.size()).mid(1);
 }
 
-namespace
-{
-/** An order in which most names differ at the first look. No hash: a stranger can choose names whose hashes collide. */
-struct ShorterFirst {
-    bool operator()(const QString &one, const QString &other) const
-    {
-        return one.size() != other.size()
-            ? one.size() < other.size()
-            : std::memcmp(one.constData(), other.constData(), one.size() * sizeof(QChar)) < 0;
-    }
-};
-
-/** The first part of which a text is the exact, bare or folded name; -1 when there is none. */
-struct Meanings {
-    int exact = -1; ///< the text is a name
-    int bare = -1; ///< the text is a bare name
-    int folded = -1; ///< the text is a bare name without letter case
-};
-}
-
 class SmilPartsData : public QSharedData
 {
 public:
+    /** Most names differ at the first look. No hash: a stranger can choose names whose hashes collide. */
+    struct ShorterFirst {
+        bool operator()(const QString &one, const QString &other) const
+        {
+            return one.size() != other.size()
+                ? one.size() < other.size()
+                : std::memcmp(one.constData(), other.constData(), one.size() * sizeof(QChar)) < 0;
+        }
+    };
+
+    /** The first part of which a text is the exact, bare or folded name; -1 when there is none. */
+    struct Meanings {
+        int exact = -1; ///< the text is a name
+        int bare = -1; ///< the text is a bare name
+        int folded = -1; ///< the text is a bare name without letter case
+    };
+
     std::map<QString, Meanings, ShorterFirst> names;
 };
 
@@ -102,6 +99,7 @@ void SmilParts::add(int part, const QString &name)
 
 int SmilParts::find(const QString &src) const
 {
+    using Meanings = SmilPartsData::Meanings;
     const auto meaning = [this](const QString &name, int Meanings::*as) {
         const auto found = d->names.find(name);
         return found == d->names.end() ? -1 : found->second.*as;

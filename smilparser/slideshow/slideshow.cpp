@@ -10,20 +10,17 @@
 #include <tuple>
 #include <vector>
 
-namespace
-{
-/** A slide of parts that no slide of the SMIL shows: some in a row in the list of them. */
-struct LeftSlide {
-    double begin;
-    double end;
-    int first;
-    int count;
-};
-}
-
 class SmilSlideshowData : public QSharedData
 {
 public:
+    /** A slide of parts that no slide of the SMIL shows: some in a row in the list of them. */
+    struct LeftSlide {
+        double begin;
+        double end;
+        int first;
+        int count;
+    };
+
     QList<SmilPart> parts;
     SmilParts names;
     SmilLayout layout;
@@ -121,7 +118,7 @@ static void addLeftSlides(SmilSlideshowData &show, double slideDuration, const s
     endSlide();
 }
 
-static SmilCue cueOf(const SmilPart &part, const LeftSlide &slide)
+static SmilCue cueOf(const SmilPart &part, const SmilSlideshowData::LeftSlide &slide)
 {
     SmilCue cue;
     cue.ref.type = part.kind();
@@ -214,7 +211,7 @@ SmilSlide SmilSlideshow::slide(int index) const
         slide.cues = d->timeline.cuesOnSlide(index);
         parts = partsOf(slide.cues, d->names);
     } else {
-        const LeftSlide &left = d->leftSlides[index - read];
+        const SmilSlideshowData::LeftSlide &left = d->leftSlides[index - read];
         slide.begin = left.begin;
         slide.end = left.end;
         parts.assign(d->left.begin() + left.first, d->left.begin() + left.first + left.count);

@@ -22,7 +22,7 @@ bool check(Message &message, const QStringList &ignored, QIODevice &out)
     return !lines.isEmpty();
 }
 
-static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
+static Result runCheck(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, [&](Message &message) {
         return Result{!check(message, arguments.ignored, out), {}};
@@ -34,4 +34,4 @@ const Command checkCommand = {"check",
                               "parts ignore",
                               "Tells what is odd in each message, or lost on writing.",
                               "smiltool check --ignore lost message.smil",
-                              run};
+                              runCheck};

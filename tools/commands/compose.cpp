@@ -56,7 +56,7 @@ static Result add(const Arguments &arguments, SmilComposer &composer)
     return failed.problems.isEmpty() ? renamed : failed;
 }
 
-static Result run(const QString &, const Arguments &arguments, QIODevice &out)
+static Result runCompose(const QString &, const Arguments &arguments, QIODevice &out)
 {
     SmilComposer composer(arguments.size, arguments.seconds);
     const Result added = add(arguments, composer);
@@ -73,6 +73,6 @@ const Command composeCommand = {"compose",
                                 "output size seconds title",
                                 "Makes a message of pictures, texts, sounds and films.",
                                 "smiltool compose beach.jpg hello.txt -o message.smil",
-                                run,
+                                runCompose,
                                 true,
                                 "A picture, a text, a sound or a film."};

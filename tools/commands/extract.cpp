@@ -69,7 +69,7 @@ static Result writeParts(const Message &message, const QString &path, QIODevice 
     return result;
 }
 
-static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
+static Result runExtract(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, [&](Message &message) {
         return message.parts.areKnown() ? writeParts(message, arguments.folder, out)
@@ -82,6 +82,6 @@ const Command extractCommand = {"extract",
                                 "directory",
                                 "Writes the parts of each whole message as files.",
                                 "smiltool extract message.mms -d pictures",
-                                run,
+                                runExtract,
                                 false,
                                 "A message as it is sent; - is standard input."};

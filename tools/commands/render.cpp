@@ -11,7 +11,7 @@ void render(const Message &message, QIODevice &out)
     out.write(printableXml(QString::fromUtf8(SmilParser(message.document).toXml(2))).toUtf8());
 }
 
-static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
+static Result runRender(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     const auto use = [&](const Message &message) {
         if (message.smil.isEmpty()) {
@@ -31,4 +31,4 @@ const Command renderCommand = {"render",
                                "bare",
                                "Prints each message as read and written back.",
                                "smiltool render message.smil > written.smil",
-                               run};
+                               runRender};

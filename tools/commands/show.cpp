@@ -146,7 +146,7 @@ void show(const Message &message, QIODevice &out)
     line(out, 1, QLatin1String("plays ") + lengthText(slideshow.duration()));
 }
 
-static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
+static Result runShow(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     const Message message = readMessage(file, QString());
     if (arguments.json) {
@@ -158,4 +158,4 @@ static Result run(const QString &file, const Arguments &arguments, QIODevice &ou
 }
 
 const Command showCommand = {
-    "show", "FILE...", "json", "Prints an outline of each message.", "smiltool show message.smil", run};
+    "show", "FILE...", "json", "Prints an outline of each message.", "smiltool show message.smil", runShow};

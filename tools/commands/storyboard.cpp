@@ -113,7 +113,7 @@ static QString problemWith(const QString &output, const QString &folder, const M
     return isPart ? QStringLiteral("is a part of the message") : QString();
 }
 
-static Result run(const QString &file, const Arguments &arguments, QIODevice &out)
+static Result runStoryboard(const QString &file, const Arguments &arguments, QIODevice &out)
 {
     return withMessage(file, arguments, [&](Message &message) {
         const QString &output = arguments.output;
@@ -131,4 +131,4 @@ const Command storyboardCommand = {"storyboard",
                                    "output parts",
                                    "Draws a message as a picture, in SVG.",
                                    "smiltool storyboard message.smil -o board.svg",
-                                   run};
+                                   runStoryboard};
