@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "cases.h"
 #include "mmsbytes.h"
 #include "smiltool.h"
 
@@ -12,7 +13,7 @@ class Check : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void findings_data();
+    void findings_data() { addCases("findings.txt"); }
     void findings();
     void toolKnowsWhatTheLibraryKnows();
     void partsAreChecked();
@@ -20,111 +21,19 @@ private Q_SLOTS:
     void manualAndCompletionNameEveryFinding();
 };
 
-void Check::findings_data()
-{
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("lines");
-    const auto row = [](const char *name, const QByteArray &body, const QString &lines,
-                        const QStringList &arguments = {}) {
-        const QByteArray head =
-            body.startsWith("<s") ? "" : "<smil><head><layout><root-layout/><region id='A'/></layout></head>\n";
-        QTest::newRow(name) << head + body << arguments << lines;
-    };
-    const QString repeated =
-        QStringLiteral("-:2: not understood: dur of par \"1m\", \"2m\" (3 times) [unread-measure]\n");
-    row("nothing", "<body><par><img src='a' region='A'/></par></body></smil>", QString());
-    row("an unknown region, and one nothing plays in", "<body><par>\n<img src='a' region='B'/></par></body></smil>",
-        QStringLiteral(
-            "-:1: nothing plays in region: \"A\" [unused-region]\n-:3: no such region: \"B\" [unknown-region]\n"));
-    row("no src", "<body><par><img region='A'/></par></body></smil>",
-        QStringLiteral("-:2: no src: img [missing-src]\n"));
-    row("said once", "<body><par dur='1m'><img src='a' region='A'/></par><par dur='2m'/><par dur='1m'/></body></smil>",
-        repeated);
-    row("ignored", "<body><par dur='1m'><img src='a' region='A'/></par></body></smil>", QString(),
-        {QStringLiteral("--ignore"), QStringLiteral("unread-measure")});
-    row("durations and the size of phones",
-        "<smil><head><layout><root-layout width='9'/><region id='Image'/>\n<region id='Text'/><region id='text'/>"
-        "</layout></head><body><par dur='1ms'><img src='a'/></par><par dur='5'/></body></smil>",
-        QStringLiteral("-:2: nothing plays in region: \"text\" [unused-region]\n"
-                       "-:2: nothing can be seen: from 0:00.001 to 0:05.001 [blank-time]\n"));
-    row("nothing to be seen at first, and while a sound plays",
-        "<body>\n<par><img src='a' region='A' begin='1s' dur='2s'/></par><par dur='2s'><audio "
-        "src='b'/></par></body></smil>",
-        QStringLiteral("-:2: nothing can be seen: from 0:00 to 0:01, from 0:03 to 0:05 (2 times) [blank-time]\n"),
-        {QStringLiteral("--ignore"), QStringLiteral("lost")});
-    row("duration of the body", "<body dur='1ms'><par><img src='a' region='A'/></par></body></smil>",
-        QStringLiteral("-:2: lost when written back: dur of body \"1ms\" [lost-in-body]\n"));
-    row("measures of the wrong kind",
-        "<smil><head><layout><region id='A' width='5s' height='-1px' left='-1px'/></layout></head><body>\n"
-        "<par dur='50%'><img src='a' region='A'/></par><par dur='-5s'/></body></smil>",
-        QStringLiteral("-:1: a duration, not a length: width of region \"5s\" [wrong-measure]\n"
-                       "-:1: negative: height of region \"-1px\" [wrong-measure]\n"
-                       "-:2: a length, not a duration: dur of par \"50%\" [wrong-measure]\n"
-                       "-:2: negative: dur of par \"-5s\" [wrong-measure]\n"));
-    row("more durations than a line has room for",
-        "<body><par dur='a'><img src='a' region='A'/></par><par dur='b'/><par dur='c'/><par dur='d'/></body></smil>",
-        QStringLiteral("-:2: not understood: dur of par \"a\", \"b\", \"c\", ... (4 times) [unread-measure]\n"));
-    row("no duration, and a long one",
-        "<body><par dur='0s'><img src='a' region='A'/></par><par "
-        "dur='0123456789012345678901234567890123456789x'/></body></smil>",
-        QStringLiteral(
-            "-:2: not understood: dur of par \"012345678901234567890123456789012345678\u2026\" [unread-measure]\n"));
-    row("a size that a topLayout states",
-        "<smil><head><layout><root-layout width='9'/><topLayout width='7'/></layout></head><body><par/></body></smil>",
-        QStringLiteral("-:1: written back as the root-layout's size: topLayout [moved-top-size]\n"
-                       "-:1: nothing plays [empty-timeline]\n"));
-    row("what is lost ignored",
-        "<smil><head><layout><root-layout width='9' x=''/><topLayout height='7'/></layout></head>"
-        "<body dur='1s'><q/><par><img src='a'/></par><img src='b'/></body></smil>",
-        QString(), {QStringLiteral("--ignore"), QStringLiteral("lost")});
-    row("one of each on a slide, and one after another",
-        "<body><par><img src='a' region='A'/><text src='b' region='A'/><audio src='c' region='A'/></par>"
-        "<par><video src='d'/><img src='e' region='A' end='1s'/><ref src='f' region='A' begin='1s'/></par>"
-        "<img src='g'/><img src='h'/></body></smil>",
-        QString(), {QStringLiteral("--ignore"), QStringLiteral("lost")});
-    row("two at a time, the later one first",
-        "<body><par>\n<img src='a' region='A' begin='1s'/>\n<video src='b' region='A'/><ref src='c' region='A'/>\n"
-        "<audio src='d'/><AUDIO src='e'/><text src='f' region='B'/><text src='g' region='C'/></par></body></smil>",
-        QStringLiteral(
-            "-:3: two pictures or films at the same time in region \"A\": \"c\", \"a\" (2 times) [crowded-slide]\n"
-            "-:5: two sounds at the same time without a region: \"e\" [crowded-slide]\n"
-            "-:5: two texts at the same time without a region: \"g\" [crowded-slide]\n"),
-        {QStringLiteral("--ignore"), QStringLiteral("lost"), QStringLiteral("--ignore"),
-         QStringLiteral("unknown-region")});
-    row("many at a time",
-        "<body><par>" + QByteArray("<img src='a' region='A'/>").repeated(30000) + "</par></body></smil>",
-        QStringLiteral("-:2: two pictures or films at the same time in region \"A\": \"a\" (29999 times) "
-                       "[crowded-slide]\n"));
-    row("two that name nothing", "<body><par>\n<img/><IMG/></par></body></smil>",
-        QStringLiteral("-:1: nothing plays in region: \"A\" [unused-region]\n"
-                       "-:3: no src: img (2 times) [missing-src]\n"
-                       "-:3: two pictures or films at the same time without a region: \"\" [crowded-slide]\n"));
-    row("nested", "<body><seq>\n<PAR><img src='a' region='A'/></PAR><q><par/></q></seq></body></smil>",
-        QStringLiteral("-:3: nested: par in seq [nested-timeline]\n"),
-        {QStringLiteral("--ignore"), QStringLiteral("lost")});
-    row("crowded and nested, ignored",
-        "<body><par><img src='a' region='A'/><par><img src='b' region='A'/></par></par></body></smil>", QString(),
-        {QStringLiteral("--ignore"), QStringLiteral("crowded-slide"), QStringLiteral("--ignore"),
-         QStringLiteral("nested-timeline"), QStringLiteral("--ignore"), QStringLiteral("lost")});
-    row("regions without id, and with one id",
-        "<smil><head><layout><region/><region/>\n<region id='A'/><region id='A'/></layout></head>"
-        "<body><par><img src='a' region='A'/></par></body></smil>",
-        QStringLiteral("-:1: region without id (2 times) [missing-id]\n"
-                       "-:2: more than one region: \"A\" [duplicate-region]\n"));
-    row("any letter case", "<body><PAR><IMG src='a' region='A'/></PAR></body></smil>", QString());
-    row("an empty timeline", "<body/></smil>",
-        QStringLiteral("-:1: nothing plays in region: \"A\" [unused-region]\n-:2: nothing plays [empty-timeline]\n"));
-    row("another body", "<body><par><img src='a' region='A'/></par></body>\n<body/></smil>",
-        QStringLiteral("-:3: lost when written back: another body in smil [lost-element]\n"));
-}
-
 void Check::findings()
 {
-    QFETCH(QByteArray, body);
-    QFETCH(QStringList, arguments);
+    QFETCH(QString, body);
+    QFETCH(QString, ignored);
     QFETCH(QString, lines);
-    const Outcome outcome = smiltool(QStringList{QStringLiteral("check"), QStringLiteral("-")} + arguments, body);
+    QStringList arguments = {QStringLiteral("check"), QStringLiteral("-")};
+    for (const QString &finding : ignored.split(u' ', Qt::SkipEmptyParts)) {
+        arguments << QStringLiteral("--ignore") << finding;
+    }
+    if (!body.startsWith(QLatin1String("<smil>"))) {
+        body.prepend(QLatin1String("<smil><head><layout><root-layout/><region id='A'/></layout></head>\n"));
+    }
+    const Outcome outcome = smiltool(arguments, body.toUtf8());
     QCOMPARE(outcome.out, lines);
     QCOMPARE(outcome.err, QString());
     QCOMPARE(outcome.status, lines.isEmpty() ? 0 : 1);

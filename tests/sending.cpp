@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
+#include "cases.h"
 #include "smiltool.h"
 
 class Sending : public QObject
@@ -8,7 +9,7 @@ class Sending : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void writesAMessage();
-    void allOrNothing_data();
+    void allOrNothing_data() { addCases("sending.txt"); }
     void allOrNothing();
 };
 
@@ -32,26 +33,6 @@ void Sending::writesAMessage()
 }
 
 /** Of all files, each that cannot be in a message is named. */
-void Sending::allOrNothing_data()
-{
-    QTest::addColumn<QString>("problems");
-    const auto row = [](const char *arguments, const char *problems) {
-        QTest::newRow(arguments) << QString::fromLatin1(problems); // "good" is a text
-    };
-    row("good xml absent -o out",
-        "xml: is no picture, text, sound or film, but application/xml\n"
-        "absent: No such file or directory\n");
-    row("pipe . /dev/zero - good",
-        "pipe: is no plain file\n.: is no plain file\n/dev/zero: is no plain file\n"
-        "-: standard input has no name under which it could be sent\n");
-    row("xml good -o good",
-        "xml: is no picture, text, sound or film, but application/xml\n"
-        "good: is the output itself\n");
-    row("soft -o good", "soft: is the output itself\n");
-    row("hard -o soft", "hard: is the output itself\n");
-    row("good >>hard", "good: is the output itself\n");
-}
-
 void Sending::allOrNothing()
 {
     const QTemporaryDir folder;
