@@ -78,7 +78,7 @@ void Storyboard::everyPartIsDrawn()
     };
     const QByteArray parts = named("image/png", "photo", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16))
         + named("text/plain", "words", "Hello") + named("application/x-card", "card", QByteArray("\0\1", 2));
-    const QByteArray slides = smil.isEmpty() ? smil : named("application/smil", "smil", smil);
+    const QByteArray slides = smil.isEmpty() ? QByteArray() : named("application/smil", "smil", smil.toUtf8());
     const Outcome outcome =
         smiltool("storyboard -", message(sized(text("multipart/mixed")), smil.isEmpty() ? 3 : 4, parts + slides));
     QTEST(textsIn(outcome.out), "texts");
