@@ -31,12 +31,12 @@ static const struct OptionRow {
     const char *byDefault = nullptr;
 } options[] = {
     {"json", "Print a line of JSON for each message."},
-    {"bare", "Write what a host writes that gives the library no options."},
+    {"bare", "Write what the library writes when it is given no options."},
     {"o output", "Write to the file OUT, not to standard output.", "OUT"},
     {"d directory", "The folder to write into; it is made when missing.", "DIR"},
     {"parts", "The folder with the other parts of a SMIL part; a whole message has its own.", "DIR"},
     {"ignore",
-     "Say nothing of findings called NAME; may be repeated. lost stands for all after it. The names: ", "NAME"},
+     "Do not report findings called NAME; may be repeated. lost stands for all after it. The names: ", "NAME"},
     {"size", "The size of the screen in pixels, instead of 320x480.", "WxH", "320x480"},
     {"seconds", "How long a slide lasts, instead of 5 seconds.", "N", "5"},
     {"title", "The title of the message.", "TEXT"},

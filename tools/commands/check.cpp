@@ -32,6 +32,6 @@ static Result runCheck(const QString &file, const Arguments &arguments, QIODevic
 const Command checkCommand = {"check",
                               "FILE...",
                               "parts ignore",
-                              "Tells what is odd in each message, or lost on writing.",
+                              "Reports what is odd in each message, and what is lost when it is written back.",
                               "smiltool check --ignore lost message.smil",
                               runCheck};

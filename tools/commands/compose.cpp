@@ -71,7 +71,7 @@ static Result runCompose(const QString &, const Arguments &arguments, QIODevice 
 const Command composeCommand = {"compose",
                                 "FILE...",
                                 "output size seconds title",
-                                "Makes a message of pictures, texts, sounds and films.",
+                                "Makes the SMIL of a message of pictures, texts, sounds and films.",
                                 "smiltool compose beach.jpg hello.txt -o message.smil",
                                 runCompose,
                                 true,
