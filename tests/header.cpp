@@ -8,6 +8,7 @@
 #include <smilparser/smilcomposer.h>
 #include <smilparser/smilparser.h>
 #include <smilparser/smilplayback.h>
+#include <smilparser/smilslideshow.h>
 
 #include <cstddef>
 
@@ -43,6 +44,8 @@ SmilDocument callAll(SmilParser &parser)
     const SmilScreen screen(parser.parse().header.layout);
     SmilParts parts{};
     parts.add(int(screen.rects(timeline.cuesAt(0)).size()), SmilCue{}.ref.src);
+    const SmilSlideshow show(QByteArray(), {SmilPart()}, {}, 5.0, [](int) { return 1.0; });
+    parts.add(show.count(), SmilPart{}.name + SmilSlide{}.cues.value(0).alt);
     // What has a default can be made of empty braces.
     SmilDocument document{};
     document.header = {};
