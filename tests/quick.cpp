@@ -6,6 +6,8 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtNetwork/QTcpServer>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickItemGrabResult>
@@ -34,6 +36,7 @@ private Q_SLOTS:
     void hugeTexts();
     void sounds();
     void installed();
+    void codeOnPages();
 };
 
 /** With a part of each kind, and a QtMultimedia that plays nothing. */
@@ -402,6 +405,25 @@ void Quick::installed()
     QTRY_COMPARE(qRound(shown.get("duration").toDouble()), 2);
     shown.call("play");
     QTRY_VERIFY(shown.get("atEnd").toBool());
+}
+
+/** What a reader copies first plays the message of the app. */
+void Quick::codeOnPages()
+{
+    for (const char *const page : {"../README.md", "../docs/qml.md"}) {
+        QFile file(QFINDTESTDATA(page));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString code = QString::fromUtf8(file.readAll()).section(QStringLiteral("```qml\n"), 1, 1);
+        QQmlEngine engine;
+        engine.addImportPath(QStringLiteral(MODULE_DIR));
+        const QVariantMap message{{QStringLiteral("parts"), parts(QStringLiteral("text.txt"))}};
+        engine.rootContext()->setContextProperty(QStringLiteral("message"), message);
+        QQmlComponent component(&engine);
+        component.setData(code.section(QStringLiteral("```"), 0, 0).toUtf8(), QUrl());
+        const QScopedPointer<QObject> slideshow(component.create());
+        QVERIFY2(slideshow && slideshow->property("playing").toBool() && slideshow->property("count").toInt() == 1,
+                 qPrintable(QLatin1String(page) + component.errorString()));
+    }
 }
 
 QTEST_MAIN(Quick)
