@@ -17,7 +17,7 @@ private Q_SLOTS:
     void everyPartIsDrawn();
     void noPictureIsTooLarge();
     void regions();
-    void partsAreDrawn_data();
+    void partsAreDrawn_data() { addCases("drawn.txt"); }
     void partsAreDrawn();
     void picturesFitTheirPlace();
     void drawsTo();
@@ -139,40 +139,13 @@ void Storyboard::regions()
     QVERIFY2(fifth.startsWith(QLatin1String("translate(16 1")), qPrintable(fifth));
 }
 
-void Storyboard::partsAreDrawn_data()
-{
-    QTest::addColumn<QByteArray>("part");
-    QTest::addColumn<QString>("drawn"); // the texts, or where the picture is in a region of 100 x 30
-    const auto row = [](const char *name, const QByteArray &part, const char *drawn) {
-        QTest::newRow(name) << part << QString::fromUtf8(drawn);
-    };
-    row("a text", "Hel\tlo\r\n<b>\xe2\x80\xae", "Hel lo / <b> / 1 · 0:00 · 5s / Plays 5s.");
-    row("words", QByteArray("It rains all day. ").repeated(200),
-        "It rains all / day. It rains… / 1 · 0:00 · 5s / Plays 5s.");
-    row("one word", QByteArray("\xe6\x97\xa5").repeated(2000),
-        "日日日日日日日日 / 日日日日日日日… / 1 · 0:00 · 5s / Plays 5s.");
-    row("a text that begins as a picture does", "P3 is what I need", "P3 is what I / need / 1 · 0:00 · 5s / Plays 5s.");
-    row("to the left", "\xd7\xa9\xd7\x9c", "של / 1 · 0:00 · 5s / Plays 5s.");
-    row("a character that the limit cuts", "a" + QByteArray("\xe6\x97\xa5").repeated(6000),
-        "a日日日日日日日 / 日日日日日日日… / 1 · 0:00 · 5s / Plays 5s.");
-    const QByteArray png("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
-    row("a picture", png + QByteArray("\0\0\0\x0a\0\0\0\x14", 8), "45 5 10 20");
-    row("a larger picture", png + QByteArray("\0\0\3\xe8\0\0\3\xe8", 8), "35 0 30 30");
-    row("a picture that is cut off", png, "0 0 100 30");
-    row("a GIF", QByteArray("GIF89a\x0a\0\x14\0", 10), "45 5 10 20");
-    row("a JPEG with a comment", QByteArray("\xff\xd8\xff\xfe\0\5aaa\xff\xc4\0\3a\xff\xc2\0\x0b\x08\0\x14\0\x0a", 23),
-        "45 5 10 20");
-    row("a JPEG without a size", QByteArray("\xff\xd8\xff\xfe\0\0", 6).repeated(9), "0 0 100 30");
-    row("a sound", "#!AMR\n\x3c\x91", "I / ▣ part / 1 · 0:00 · 5s / Plays 5s.");
-}
-
 void Storyboard::partsAreDrawn()
 {
-    QFETCH(QByteArray, part);
+    QFETCH(QString, part);
     QFETCH(QString, drawn);
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("part")));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(part) == part.size() && file.flush());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(part.toLatin1()) == part.size() && file.flush());
     const Outcome outcome =
         smiltool({QStringLiteral("storyboard"), QStringLiteral("--parts"), folder.path(), QStringLiteral("-")},
                  "<smil><head><layout><root-layout width='184' height='160'/>"
