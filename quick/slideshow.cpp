@@ -10,6 +10,7 @@
 #include <QtQml/QQmlEngine>
 
 #include <algorithm>
+#include <utility>
 
 static const int mostBytes = 1024 * 1024; // of a SMIL; it comes from a stranger
 
@@ -62,7 +63,7 @@ void Slideshow::open()
         return;
     }
     m_parts.clear();
-    for (const QVariant &part : qAsConst(m_given)) {
+    for (const QVariant &part : std::as_const(m_given)) {
         m_parts.append(Part(part.toMap()));
     }
     bool decoded = m_smil.userType() == QMetaType::QString;
@@ -103,7 +104,7 @@ void Slideshow::setLength(int part, double seconds)
 void Slideshow::layTimes()
 {
     QList<SmilPart> headers;
-    for (const Part &part : qAsConst(m_parts)) {
+    for (const Part &part : std::as_const(m_parts)) {
         headers.append(part.headers);
     }
     m_show = SmilSlideshow(m_bytes, headers, m_options, 5, [this](int part) { return m_lengths.at(part); });
