@@ -285,9 +285,9 @@ public:
     ~SmilParts(); ///< Releases what no copy shares.
 
     /**
-     * Adds @p name, which is a Content-ID, a Content-Location or a file name, as a name of part @p part: verbatim, and
-     * *bare*. To make a name bare, these are dropped if they are there: first a quotation mark at its beginning and one
-     * at its end, then "cid:" in any letter case at its beginning, then "<" at its beginning and ">" at its end.
+     * Adds @p name, which is a Content-ID, a Content-Location or a file name, as a name of the part @p part, verbatim
+     * and *bare*. To make a name bare, these are dropped if they are there: first a quotation mark at its beginning and
+     * one at its end, then "cid:" in any letter case at its beginning, then "<" at its beginning and ">" at its end.
      *
      * A part may have several names. If a name is added for several parts, it means the first of them. A name that is
      * null or has nothing left when it is bare is not added, and neither is one for a negative @p part.
