@@ -3,7 +3,7 @@
 
 #include "check/findings.h"
 #include "base/bounds.h"
-#include "base/text.h"
+#include "base/escaping.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "base/bounds.h"
-#include "base/text.h"
+#include "base/escaping.h"
 #include "commands/commands.h"
 #include "input/content.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#include "base/text.h"
+#include "base/escaping.h"
 #include "drawing/frame.h"
 
 #include <QtCore/QRegularExpression>

@@ -3,7 +3,7 @@
 
 #include "input/message.h"
 #include "base/bounds.h"
-#include "base/text.h"
+#include "base/escaping.h"
 #include "input/content.h"
 
 #include <QtCore/QFile>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The smilparser authors
 // SPDX-License-Identifier: MIT
 
-#ifndef SMILTOOL_TEXT_H
-#define SMILTOOL_TEXT_H
+#ifndef SMILTOOL_ESCAPING_H
+#define SMILTOOL_ESCAPING_H
 
 #include <QtCore/QString>
 
