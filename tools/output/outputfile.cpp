@@ -28,13 +28,15 @@ QString createFile(const QString &name, const QByteArray &data)
     if (!out.open(unbuffered | QIODevice::NewOnly)) {
         return out.errorString();
     }
-    if (!writeAll(out, data)) {
-        const QString problem = out.errorString();
-        out.remove();
-        return problem;
+    if (writeAll(out, data)) {
+        out.close(); // which may fail, too
     }
-    out.close();
-    return out.error() == QFileDevice::NoError ? QString() : out.errorString();
+    if (out.error() == QFileDevice::NoError) {
+        return QString();
+    }
+    const QString problem = out.errorString();
+    out.remove();
+    return problem;
 }
 
 bool isSameFile(const QString &input, const QString &output)
