@@ -20,10 +20,9 @@ static QString findType(const SmilPart &headers, const QUrl &source, const QStri
     if (!found.isEmpty()) {
         return found.first().name();
     }
-    if (source.scheme() == QLatin1String("image")) {
-        return QStringLiteral("image/*");
-    }
-    return file.isEmpty() ? QString() : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
+    return source.scheme() == QLatin1String("image") ? QStringLiteral("image/*")
+        : file.isEmpty()                             ? QString()
+                                                     : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
 }
 
 Part::Part(const QVariantMap &fields)
@@ -34,8 +33,9 @@ Part::Part(const QVariantMap &fields)
     headers.location = fields.value(QStringLiteral("location")).toString();
     headers.name = fields.value(QStringLiteral("name")).toString();
     headers.type = fields.value(QStringLiteral("type")).toString().trimmed();
-    if (headers.type.isEmpty() || headers.type == QLatin1String("*/*")) {
-        headers.type = findType(headers, m_source, file());
+    const QString media = headers.type.section(u';', 0, 0).trimmed();
+    if (media.isEmpty() || media == QLatin1String("*/*")) {
+        headers.type.replace(0, media.size(), findType(headers, m_source, file()));
     }
 }
 

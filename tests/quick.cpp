@@ -119,7 +119,9 @@ static QVariantList parts(const QString &names)
         const QString member = each.contains(QLatin1String(":=")) ? QStringLiteral("text") : QStringLiteral("source");
         const QString value =
             sides.value(1, QUrl::fromLocalFile(QDir(folder()).filePath(each)).toString(QUrl::FullyEncoded));
-        parts.append(QVariantMap{{QStringLiteral("name"), sides.first()}, {member, value}});
+        const QString type = each.contains(u'=') ? QStringLiteral("*/*; charset=utf-8") : QString();
+        parts.append(
+            QVariantMap{{QStringLiteral("name"), sides.first()}, {QStringLiteral("type"), type}, {member, value}});
     }
     return parts;
 }
