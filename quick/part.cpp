@@ -6,6 +6,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QMimeDatabase>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QVersionNumber>
 #include <QtGui/QImageReader>
 
@@ -61,10 +62,8 @@ QString Part::name(const QString &otherwise) const
 QByteArray Part::content(int limit) const
 {
     QFile opened(file());
-    if (hasText()) {
-        return m_text.toUtf8().left(limit);
-    }
-    return !opened.fileName().isEmpty() && opened.open(QIODevice::ReadOnly) ? opened.read(limit) : QByteArray();
+    const bool isOpen = !hasText() && !opened.fileName().isEmpty() && opened.open(QIODevice::ReadOnly);
+    return isOpen ? opened.read(limit) : m_text.toUtf8().left(limit);
 }
 
 QString Part::text() const
@@ -90,7 +89,13 @@ bool Part::isPicture(int limit) const
     const QString path = file();
     QImageReader reader(path);
     const QSize size = !path.isEmpty() && formats.contains(reader.format()) ? reader.size() : QSize();
-    return !size.isEmpty() && size.width() <= limit / 4 / size.height();
+    bool isShown = !size.isEmpty() && size.width() <= limit / 4 / size.height();
+    // For "a.png", Qt Quick would open "a@2x.png" where pixels are small.
+    const auto dot = path.indexOf(QRegularExpression(QStringLiteral("(\\.9)?(\\.[^.]*)?$")));
+    for (int n = 2; n <= 9 && m_source.isLocalFile(); ++n) {
+        isShown = isShown && !QFile::exists(path.left(dot) + QStringLiteral("@%1x").arg(n) + path.mid(dot));
+    }
+    return isShown;
 }
 
 bool Part::moves() const
@@ -123,8 +128,7 @@ bool Part::isPlayable(bool asFilm) const
     if (path.isEmpty() || (asFilm && !films)) {
         return false;
     }
-    const QMimeDatabase types;
-    const QString type = types.mimeTypeForFile(path, QMimeDatabase::MatchContent).name();
+    const QString type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent).name();
     return (type.startsWith(QLatin1String("audio/")) || type == QLatin1String("application/ogg")
             || (films && type.startsWith(QLatin1String("video/"))))
         && !isPlaylist(path);

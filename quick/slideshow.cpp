@@ -162,20 +162,18 @@ void Slideshow::tick()
 
 void Slideshow::setPosition(double seconds)
 {
-    if (qIsNaN(seconds) || count() == 0) {
-        return;
+    if (!qIsNaN(seconds) && count() > 0) {
+        change([&] { goTo(slideAtTime(seconds, 0), seconds); });
+        m_stage->jump();
     }
-    change([&] { goTo(slideAtTime(seconds, 0), seconds); });
-    m_stage->jump();
 }
 
 void Slideshow::setSlide(int slide)
 {
-    if (slide < 0 || slide >= count()) {
-        return;
+    if (slide >= 0 && slide < count()) {
+        change([&] { goTo(slide, m_show.slide(slide).begin); });
+        m_stage->jump();
     }
-    change([&] { goTo(slide, m_show.slide(slide).begin); });
-    m_stage->jump();
 }
 
 void Slideshow::setPlaying(bool playing)
@@ -197,18 +195,16 @@ QString Slideshow::error() const
 
 QVariantList Slideshow::slides() const
 {
-    if (m_slides.isEmpty()) {
-        for (int i = 0; i < qMin(100, count()); ++i) {
-            const SmilSlide slide = slideAt(i);
-            QVariantList media;
-            for (int j = 0; j < qMin(32, int(slide.cues.size())); ++j) {
-                const Part part = m_parts.value(slide.parts.at(j));
-                QVariantMap medium = describe(slide.cues.at(j), slide.parts.at(j), part);
-                medium[QStringLiteral("text")] = shortened(part.text(), 1024);
-                media.append(medium);
-            }
-            m_slides.append(QVariant(media));
+    for (int i = int(m_slides.size()); i < qMin(100, count()); ++i) {
+        const SmilSlide slide = slideAt(i);
+        QVariantList media;
+        for (int j = 0; j < qMin(32, int(slide.cues.size())); ++j) {
+            const Part part = m_parts.value(slide.parts.at(j));
+            QVariantMap medium = describe(slide.cues.at(j), slide.parts.at(j), part);
+            medium[QStringLiteral("text")] = shortened(part.text(), 1024);
+            media.append(medium);
         }
+        m_slides.append(QVariant(media));
     }
     return m_slides;
 }
