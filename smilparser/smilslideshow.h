@@ -47,11 +47,12 @@ public:
     SmilRef::Type kind() const;
 
     /**
-     * The text that @p data is, which is the content of this part; null when @p data is null. It is decoded whole:
+     * The text that @p data is, which is the content of this part; empty when @p data is. It is decoded whole:
      *
      * - A byte order mark of UTF-8 or UTF-16 decides, and is dropped.
      * - Without one, the parameter "charset" of #type decides, with or without quotation marks and in any letter case,
-     *   if Qt knows that charset. What is wrong in it becomes U+FFFD. "utf-16" and "iso-10646-ucs-2" are big-endian.
+     *   if Qt knows that charset. What is wrong in it becomes U+FFFD; a character that is cut off at the end may be
+     *   left out. "utf-16" and "iso-10646-ucs-2" are big-endian.
      * - Without a charset, with one that Qt does not know, and with "us-ascii", "ascii", "ansi_x3.4-1968" or "utf-8",
      *   the text is UTF-8 if all of it can be, or else ISO-8859-1.
      *
