@@ -18,12 +18,10 @@ static QString findType(const SmilPart &headers, const QUrl &source, const QStri
     const QMimeDatabase types;
     const QString name = headers.name.isEmpty() ? headers.location : headers.name;
     const QList<QMimeType> found = types.mimeTypesForFileName(name);
-    if (!found.isEmpty()) {
-        return found.first().name();
-    }
-    return source.scheme() == QLatin1String("image") ? QStringLiteral("image/*")
-        : file.isEmpty()                             ? QString()
-                                                     : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
+    return !found.isEmpty()                         ? found.first().name()
+        : source.scheme() == QLatin1String("image") ? QStringLiteral("image/*")
+        : file.isEmpty()                            ? QString()
+                                                    : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
 }
 
 Part::Part(const QVariantMap &fields)
@@ -51,12 +49,11 @@ QString Part::file() const
 
 QString Part::name(const QString &otherwise) const
 {
-    for (const QString &name : {headers.name, headers.location, headers.contentId}) {
-        if (!name.isEmpty()) {
-            return shortened(name, 100).simplified();
-        }
+    QString name = otherwise;
+    for (const QString &said : {headers.contentId, headers.location, headers.name}) {
+        name = said.isEmpty() ? name : said;
     }
-    return shortened(otherwise, 100).simplified();
+    return shortened(name, 100).simplified();
 }
 
 QByteArray Part::content(int limit) const

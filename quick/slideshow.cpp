@@ -134,6 +134,7 @@ void Slideshow::goTo(int index, double position)
     m_position = qBound(0.0, position, duration());
     m_stage->setPosition(m_position);
     m_clock.start();
+    m_playing = m_playing && !isAtEnd();
     m_playing &&count() > 0 ? m_timer.start() : m_timer.stop();
 }
 
@@ -153,10 +154,6 @@ void Slideshow::tick()
     change([this] {
         const double position = m_position + m_clock.restart() / 1000.0;
         goTo(position < m_end || m_slide == count() - 1 ? m_slide : slideAtTime(position, m_slide + 1), position);
-        if (isAtEnd()) {
-            m_playing = false;
-            m_timer.stop();
-        }
     });
 }
 

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void messages();
     void playing();
     void turning();
+    void scrolling();
     void listed();
     void hugeTexts();
     void sounds();
@@ -281,6 +282,20 @@ void Quick::turning()
     }
     shown.set("controls", false);
     QVERIFY(shown.visible("label").isEmpty());
+}
+
+/** A long text is read by dragging it, which turns no page. */
+void Quick::scrolling()
+{
+    Shown shown(QString(), parts(QStringLiteral("text.txt, a.txt:=") + QStringLiteral("a ").repeated(4000)));
+    shown.set("slide", 1);
+    QVERIFY(QTest::qWaitForWindowExposed(&shown));
+    QTest::mousePress(&shown, Qt::LeftButton, {}, QPoint(100, 300));
+    for (int y = 300; y > 100; y -= 10) {
+        QTest::mouseMove(&shown, QPoint(100, y));
+    }
+    STEP(QTest::mouseRelease(&shown, Qt::LeftButton, {}, QPoint(100, 100)), "slide 1 of 2, 5 of 10 s");
+    QVERIFY2(shown.visible("contentY").first()->property("contentY").toDouble() > 0, "it moves");
 }
 
 /** What a chat lists. */
