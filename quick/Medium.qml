@@ -73,6 +73,8 @@ Rectangle {
         width: place.width
         height: Math.min(place.height, text.height)
         contentHeight: text.height
+        flickableDirection: Flickable.HorizontalAndVerticalFlick // so that no drag is a tap
+        boundsBehavior: Flickable.StopAtBounds
         visible: !place.isShown
 
         Rectangle {
@@ -92,6 +94,11 @@ Rectangle {
             font.pixelSize: place.letter
             Accessible.role: Accessible.StaticText
             Accessible.name: place.medium.is.alt || place.words
+
+            MouseArea {
+                anchors.fill: parent
+                onClicked: mouse => place.x + mouse.x < place.stage.size.width / 3 ? place.stage.slideshow.previous() : place.stage.slideshow.next()
+            }
         }
     }
 }

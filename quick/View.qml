@@ -24,6 +24,14 @@ Item {
         color: view.stage.background
         onWantedChanged: view.stage.size = wanted
 
+        Item {
+            anchors.fill: parent
+
+            TapHandler {
+                onTapped: point => point.position.x < screen.width / 3 ? view.slideshow.previous() : view.slideshow.next()
+            }
+        }
+
         Repeater {
             model: view.stage.seen
 
@@ -40,14 +48,6 @@ Item {
 
                 medium: modelData
                 stage: view.stage
-            }
-        }
-
-        Item {
-            anchors.fill: parent
-
-            TapHandler {
-                onTapped: point => point.position.x < screen.width / 3 ? view.slideshow.previous() : view.slideshow.next()
             }
         }
     }

@@ -18,11 +18,11 @@ Medium::Medium(const SmilCue &shown, int index, const Part &of, const QColor &ba
     , is(describe(cue, index, of))
 {
     const QColor paper = opaque(cue.background, background);
-    const QString colour = cue.params.value(QStringLiteral("color"));
+    const QString own = cue.params.value(QStringLiteral("foreground-color"));
     is[QStringLiteral("moves")] = of.moves();
     is[QStringLiteral("filled")] = opaque(cue.background).isValid(); // its whole area
     is[QStringLiteral("paper")] = paper;
-    is[QStringLiteral("ink")] = legible(opaque(cue.params.value(QStringLiteral("foreground-color"), colour)), paper);
+    is[QStringLiteral("ink")] = legible(opaque(own.isEmpty() ? cue.params.value(QStringLiteral("color")) : own), paper);
 }
 
 QVariantMap describe(const SmilCue &cue, int index, const Part &part)

@@ -6,6 +6,7 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QLibraryInfo>
 #include <QtCore/QMimeDatabase>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QVersionNumber>
 #include <QtGui/QImageReader>
 
@@ -17,13 +18,10 @@ static QString findType(const SmilPart &headers, const QUrl &source, const QStri
     const QMimeDatabase types;
     const QString name = headers.name.isEmpty() ? headers.location : headers.name;
     const QList<QMimeType> found = types.mimeTypesForFileName(name);
-    if (!found.isEmpty()) {
-        return found.first().name();
-    }
-    if (source.scheme() == QLatin1String("image")) {
-        return QStringLiteral("image/*");
-    }
-    return file.isEmpty() ? QString() : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
+    return !found.isEmpty()                         ? found.first().name()
+        : source.scheme() == QLatin1String("image") ? QStringLiteral("image/*")
+        : file.isEmpty()                            ? QString()
+                                                    : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
 }
 
 Part::Part(const QVariantMap &fields)
@@ -34,8 +32,9 @@ Part::Part(const QVariantMap &fields)
     headers.location = fields.value(QStringLiteral("location")).toString();
     headers.name = fields.value(QStringLiteral("name")).toString();
     headers.type = fields.value(QStringLiteral("type")).toString().trimmed();
-    if (headers.type.isEmpty() || headers.type == QLatin1String("*/*")) {
-        headers.type = findType(headers, m_source, file());
+    const QString media = headers.type.section(u';', 0, 0).trimmed();
+    if (media.isEmpty() || media == QLatin1String("*/*")) {
+        headers.type.replace(0, media.size(), findType(headers, m_source, file()));
     }
 }
 
@@ -50,21 +49,18 @@ QString Part::file() const
 
 QString Part::name(const QString &otherwise) const
 {
-    for (const QString &name : {headers.name, headers.location, headers.contentId}) {
-        if (!name.isEmpty()) {
-            return shortened(name, 100).simplified();
-        }
+    QString name = otherwise;
+    for (const QString &said : {headers.contentId, headers.location, headers.name}) {
+        name = said.isEmpty() ? name : said;
     }
-    return shortened(otherwise, 100).simplified();
+    return shortened(name, 100).simplified();
 }
 
 QByteArray Part::content(int limit) const
 {
     QFile opened(file());
-    if (hasText()) {
-        return m_text.toUtf8().left(limit);
-    }
-    return !opened.fileName().isEmpty() && opened.open(QIODevice::ReadOnly) ? opened.read(limit) : QByteArray();
+    const bool isOpen = !hasText() && !opened.fileName().isEmpty() && opened.open(QIODevice::ReadOnly);
+    return isOpen ? opened.read(limit) : m_text.toUtf8().left(limit);
 }
 
 QString Part::text() const
@@ -90,7 +86,13 @@ bool Part::isPicture(int limit) const
     const QString path = file();
     QImageReader reader(path);
     const QSize size = !path.isEmpty() && formats.contains(reader.format()) ? reader.size() : QSize();
-    return !size.isEmpty() && size.width() <= limit / 4 / size.height();
+    bool isShown = !size.isEmpty() && size.width() <= limit / 4 / size.height();
+    // For "a.png", Qt Quick would open "a@2x.png" where pixels are small.
+    const auto dot = path.indexOf(QRegularExpression(QStringLiteral("(\\.9)?(\\.[^.]*)?$")));
+    for (int n = 2; n <= 9 && m_source.isLocalFile(); ++n) {
+        isShown = isShown && !QFile::exists(path.left(dot) + QStringLiteral("@%1x").arg(n) + path.mid(dot));
+    }
+    return isShown;
 }
 
 bool Part::moves() const
@@ -123,8 +125,7 @@ bool Part::isPlayable(bool asFilm) const
     if (path.isEmpty() || (asFilm && !films)) {
         return false;
     }
-    const QMimeDatabase types;
-    const QString type = types.mimeTypeForFile(path, QMimeDatabase::MatchContent).name();
+    const QString type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent).name();
     return (type.startsWith(QLatin1String("audio/")) || type == QLatin1String("application/ogg")
             || (films && type.startsWith(QLatin1String("video/"))))
         && !isPlaylist(path);

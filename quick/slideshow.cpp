@@ -135,6 +135,7 @@ void Slideshow::goTo(int index, double position)
     m_position = qBound(0.0, position, duration());
     m_stage->setPosition(m_position);
     m_clock.start();
+    m_playing = m_playing && !isAtEnd();
     m_playing &&count() > 0 ? m_timer.start() : m_timer.stop();
 }
 
@@ -154,29 +155,23 @@ void Slideshow::tick()
     change([this] {
         const double position = m_position + m_clock.restart() / 1000.0;
         goTo(position < m_end || m_slide == count() - 1 ? m_slide : slideAtTime(position, m_slide + 1), position);
-        if (isAtEnd()) {
-            m_playing = false;
-            m_timer.stop();
-        }
     });
 }
 
 void Slideshow::setPosition(double seconds)
 {
-    if (qIsNaN(seconds) || count() == 0) {
-        return;
+    if (!qIsNaN(seconds) && count() > 0) {
+        change([&] { goTo(slideAtTime(seconds, 0), seconds); });
+        m_stage->jump();
     }
-    change([&] { goTo(slideAtTime(seconds, 0), seconds); });
-    m_stage->jump();
 }
 
 void Slideshow::setSlide(int slide)
 {
-    if (slide < 0 || slide >= count()) {
-        return;
+    if (slide >= 0 && slide < count()) {
+        change([&] { goTo(slide, m_show.slide(slide).begin); });
+        m_stage->jump();
     }
-    change([&] { goTo(slide, m_show.slide(slide).begin); });
-    m_stage->jump();
 }
 
 void Slideshow::setPlaying(bool playing)
@@ -198,18 +193,16 @@ QString Slideshow::error() const
 
 QVariantList Slideshow::slides() const
 {
-    if (m_slides.isEmpty()) {
-        for (int i = 0; i < qMin(100, count()); ++i) {
-            const SmilSlide slide = slideAt(i);
-            QVariantList media;
-            for (int j = 0; j < qMin(32, int(slide.cues.size())); ++j) {
-                const Part part = m_parts.value(slide.parts.at(j));
-                QVariantMap medium = describe(slide.cues.at(j), slide.parts.at(j), part);
-                medium[QStringLiteral("text")] = shortened(part.text(), 1024);
-                media.append(medium);
-            }
-            m_slides.append(QVariant(media));
+    for (int i = int(m_slides.size()); i < qMin(100, count()); ++i) {
+        const SmilSlide slide = slideAt(i);
+        QVariantList media;
+        for (int j = 0; j < qMin(32, int(slide.cues.size())); ++j) {
+            const Part part = m_parts.value(slide.parts.at(j));
+            QVariantMap medium = describe(slide.cues.at(j), slide.parts.at(j), part);
+            medium[QStringLiteral("text")] = shortened(part.text(), 1024);
+            media.append(medium);
         }
+        m_slides.append(QVariant(media));
     }
     return m_slides;
 }

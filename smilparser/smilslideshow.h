@@ -48,12 +48,13 @@ public:
     SmilRef::Type kind() const;
 
     /**
-     * Decodes @p data, the content of this part, into text. The result is null if @p data is null. All of it is
+     * Decodes @p data, the content of this part, into text. The result is empty if @p data is empty. All of it is
      * decoded:
      *
      * - A byte order mark of UTF-8 or UTF-16 decides, and is dropped.
      * - Without one, the parameter "charset" of #type decides, with or without quotation marks and in any letter case,
-     *   if Qt knows that charset. Malformed bytes become U+FFFD. "utf-16" and "iso-10646-ucs-2" are big-endian.
+     *   if Qt knows that charset. Malformed bytes become U+FFFD; a character that is cut off at the end may be left
+     *   out. "utf-16" and "iso-10646-ucs-2" are big-endian.
      * - Without a charset, with one that Qt does not know, and with "us-ascii", "ascii", "ansi_x3.4-1968" or "utf-8",
      *   the text is read as UTF-8 if all of it is valid UTF-8, and otherwise as ISO-8859-1.
      *

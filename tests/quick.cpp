@@ -32,6 +32,7 @@ private Q_SLOTS:
     void messages();
     void playing();
     void turning();
+    void scrolling();
     void listed();
     void hugeTexts();
     void sounds();
@@ -122,7 +123,9 @@ static QVariantList parts(const QString &names)
         const QString member = each.contains(QLatin1String(":=")) ? QStringLiteral("text") : QStringLiteral("source");
         const QString value =
             sides.value(1, QUrl::fromLocalFile(QDir(folder()).filePath(each)).toString(QUrl::FullyEncoded));
-        parts.append(QVariantMap{{QStringLiteral("name"), sides.first()}, {member, value}});
+        const QString type = each.contains(u'=') ? QStringLiteral("*/*; charset=utf-8") : QString();
+        parts.append(
+            QVariantMap{{QStringLiteral("name"), sides.first()}, {QStringLiteral("type"), type}, {member, value}});
     }
     return parts;
 }
@@ -282,6 +285,20 @@ void Quick::turning()
     }
     shown.set("controls", false);
     QVERIFY(shown.visible("label").isEmpty());
+}
+
+/** A long text is read by dragging it, which turns no page. */
+void Quick::scrolling()
+{
+    Shown shown(QString(), parts(QStringLiteral("text.txt, a.txt:=") + QStringLiteral("a ").repeated(4000)));
+    shown.set("slide", 1);
+    QVERIFY(QTest::qWaitForWindowExposed(&shown));
+    QTest::mousePress(&shown, Qt::LeftButton, {}, QPoint(100, 300));
+    for (int y = 300; y > 100; y -= 10) {
+        QTest::mouseMove(&shown, QPoint(100, y));
+    }
+    STEP(QTest::mouseRelease(&shown, Qt::LeftButton, {}, QPoint(100, 100)), "slide 1 of 2, 5 of 10 s");
+    QVERIFY2(shown.visible("contentY").first()->property("contentY").toDouble() > 0, "it moves");
 }
 
 /** What a chat lists. */

@@ -9,7 +9,7 @@
 /** What becomes of bytes that are not of their charset. */
 enum class Malformed {
     Stop, ///< the text ends at the first of them, with U+FFFD (Qt 6); Qt 5 replaces each
-    Replace ///< each becomes U+FFFD; Qt 5 may leave out a character that is cut off at the end
+    Replace ///< each becomes U+FFFD; a character that is cut off at the end may be left out
 };
 
 /** The text that @p bytes are in @p charset; null when Qt does not know that. */
