@@ -18,28 +18,21 @@ Medium::Medium(const SmilCue &shown, int index, const Part &of, const QColor &ba
     , is(describe(cue, index, of))
 {
     const QColor paper = opaque(cue.background, background);
-    const QString own = cue.params.value(QStringLiteral("foreground-color"));
+    const QColor wanted = opaque(cue.params.value(QStringLiteral("color")));
     is[QStringLiteral("moves")] = of.moves();
     is[QStringLiteral("filled")] = opaque(cue.background).isValid(); // its whole area
     is[QStringLiteral("paper")] = paper;
-    is[QStringLiteral("ink")] = legible(opaque(own.isEmpty() ? cue.params.value(QStringLiteral("color")) : own), paper);
+    is[QStringLiteral("ink")] = legible(opaque(cue.params.value(QStringLiteral("foreground-color")), wanted), paper);
 }
 
 QVariantMap describe(const SmilCue &cue, int index, const Part &part)
 {
     static const char *const kinds[] = {"text", "image", "audio", "video", "file"};
-    QVariantMap map;
-    map[QStringLiteral("kind")] = QLatin1String(kinds[cue.ref.type]);
-    map[QStringLiteral("part")] = index;
-    map[QStringLiteral("name")] = part.name(cue.ref.src);
-    map[QStringLiteral("alt")] = shortened(cue.alt, 1024);
-    map[QStringLiteral("source")] = part.source(cue.ref.type);
-    return map;
-}
-
-QRectF Medium::fitted(const QSizeF &picture, const QSizeF &room) const
-{
-    return SmilScreen::fitted(picture, QRectF(QPointF(), room), cue.fit);
+    return {{QStringLiteral("kind"), QLatin1String(kinds[cue.ref.type])},
+            {QStringLiteral("part"), index},
+            {QStringLiteral("name"), part.name(cue.ref.src)},
+            {QStringLiteral("alt"), shortened(cue.alt, 1024)},
+            {QStringLiteral("source"), part.source(cue.ref.type)}};
 }
 
 QColor opaque(const QString &text, const QColor &otherwise)

@@ -23,7 +23,10 @@ class Medium : public QObject
 public:
     Medium(const SmilCue &cue, int index, const Part &part, const QColor &background, QObject *parent);
 
-    Q_INVOKABLE QRectF fitted(const QSizeF &picture, const QSizeF &room) const; ///< where the picture is in that room
+    Q_INVOKABLE QRectF fitted(const QSizeF &picture, const QSizeF &room) const ///< where the picture is in that room
+    {
+        return SmilScreen::fitted(picture, QRectF(QPointF(), room), cue.fit);
+    }
 
     const SmilCue cue;
     const int part;

@@ -12,14 +12,14 @@
 
 #include <algorithm>
 
-/** By a name if one says it, else by the content of the file. */
-static QString findType(const SmilPart &headers, const QUrl &source, const QString &file)
+/** By a name if one says it, or else by the content of the file. */
+static QString findType(const SmilPart &headers, const QUrl &source, const QString &file, bool isText)
 {
     const QMimeDatabase types;
-    const QString name = headers.name.isEmpty() ? headers.location : headers.name;
-    const QList<QMimeType> found = types.mimeTypesForFileName(name);
+    const auto found = types.mimeTypesForFileName(headers.name.isEmpty() ? headers.location : headers.name);
     return !found.isEmpty()                         ? found.first().name()
         : source.scheme() == QLatin1String("image") ? QStringLiteral("image/*")
+        : isText                                    ? QStringLiteral("text/plain")
         : file.isEmpty()                            ? QString()
                                                     : types.mimeTypeForFile(file, QMimeDatabase::MatchContent).name();
 }
@@ -34,7 +34,7 @@ Part::Part(const QVariantMap &fields)
     headers.type = fields.value(QStringLiteral("type")).toString().trimmed();
     const QString media = headers.type.section(u';', 0, 0).trimmed();
     if (media.isEmpty() || media == QLatin1String("*/*")) {
-        headers.type.replace(0, media.size(), findType(headers, m_source, file()));
+        headers.type.replace(0, media.size(), findType(headers, m_source, file(), hasText()));
     }
 }
 
@@ -86,13 +86,14 @@ bool Part::isPicture(int limit) const
     const QString path = file();
     QImageReader reader(path);
     const QSize size = !path.isEmpty() && formats.contains(reader.format()) ? reader.size() : QSize();
-    bool isShown = !size.isEmpty() && size.width() <= limit / 4 / size.height();
     // For "a.png", Qt Quick would open "a@2x.png" where pixels are small.
     const auto dot = path.indexOf(QRegularExpression(QStringLiteral("(\\.9)?(\\.[^.]*)?$")));
     for (int n = 2; n <= 9 && m_source.isLocalFile(); ++n) {
-        isShown = isShown && !QFile::exists(path.left(dot) + QStringLiteral("@%1x").arg(n) + path.mid(dot));
+        if (QFile::exists(path.left(dot) + QStringLiteral("@%1x").arg(n) + path.mid(dot))) {
+            return false;
+        }
     }
-    return isShown;
+    return !size.isEmpty() && size.width() <= limit / 4 / size.height();
 }
 
 bool Part::moves() const
@@ -117,12 +118,12 @@ static bool isPlaylist(const QString &path)
         || (file.pos() > 0 && (file.peek(3) == "ID3" || (tag.at(5) & 0x10)));
 }
 
-bool Part::isPlayable(bool asFilm) const
+bool Part::isPlayable(int as) const
 {
     const QString path = m_source.isLocalFile() ? file() : QString();
     const QVersionNumber qt = QLibraryInfo::version();
     const bool films = qt.majorVersion() == 5 || qt >= QVersionNumber(6, 5); // Qt 6.4 corrupts memory with them
-    if (path.isEmpty() || (asFilm && !films)) {
+    if (path.isEmpty() || !(as == SmilRef::Audio || (films && as == SmilRef::Video))) {
         return false;
     }
     const QString type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchContent).name();
@@ -133,9 +134,8 @@ bool Part::isPlayable(bool asFilm) const
 
 QUrl Part::source(int as) const
 {
-    const bool isFilm = as == SmilRef::Video;
     const bool mayBe = as == SmilRef::Img ? m_source.scheme() == QLatin1String("image") || isPicture(128 * 1024 * 1024)
-                                          : (isFilm || as == SmilRef::Audio) && isPlayable(isFilm);
+                                          : isPlayable(as);
     return mayBe ? m_source : QUrl();
 }
 

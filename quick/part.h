@@ -29,7 +29,7 @@ public:
 private:
     QString file() const;
     bool isPicture(int limit) const;
-    bool isPlayable(bool asFilm) const;
+    bool isPlayable(int as) const;
 
     QUrl m_source;
     QString m_text;

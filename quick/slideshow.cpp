@@ -20,10 +20,11 @@ Slideshow::Slideshow(QQuickItem *parent)
 {
     setFlag(ItemIsFocusScope);
     setImplicitSize(240, 320);
-    m_timer.setInterval(50);
     connect(&m_timer, &QTimer::timeout, this, &Slideshow::tick);
-    // A player may report a length while it is being made: its delegate must stay as it is until then.
-    connect(m_stage, &Stage::lengthKnown, this, &Slideshow::setLength, Qt::QueuedConnection);
+    // Not at once: a player may report a length while it is being made, and others do so soon after.
+    m_lengthsTimer.setSingleShot(true);
+    connect(&m_lengthsTimer, &QTimer::timeout, this, &Slideshow::takeLengths);
+    connect(m_stage, &Stage::lengthKnown, this, &Slideshow::setLength);
 }
 
 void Slideshow::componentComplete()
@@ -88,10 +89,14 @@ void Slideshow::open()
 
 void Slideshow::setLength(int part, double seconds)
 {
-    if (m_lengths.value(part, seconds) == seconds) {
-        return;
+    if (m_lengths.value(part, seconds) != seconds) {
+        m_lengths[part] = seconds;
+        m_lengthsTimer.start(50);
     }
-    m_lengths[part] = seconds;
+}
+
+void Slideshow::takeLengths()
+{
     change([this] {
         const double played = m_position - m_begin;
         layTimes();
@@ -136,7 +141,7 @@ void Slideshow::goTo(int index, double position)
     m_stage->setPosition(m_position);
     m_clock.start();
     m_playing = m_playing && !isAtEnd();
-    m_playing &&count() > 0 ? m_timer.start() : m_timer.stop();
+    count() > 0 && m_playing ? m_timer.start(50) : m_timer.stop();
 }
 
 /** The slide that is shown then, from @p first on; of those that take no time, the last one. */

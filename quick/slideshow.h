@@ -68,6 +68,7 @@ private:
 
     void open(); ///< what is set
     void setLength(int part, double seconds);
+    void takeLengths();
     void layTimes();
     SmilSlide slideAt(int index) const;
     int slideAtTime(double seconds, int first) const;
@@ -86,9 +87,8 @@ private:
     int m_slide = -1;
     double m_begin = 0, m_end = 0; // of the slide
     double m_position = 0;
-    bool m_playing = false;
-    bool m_controls = true;
-    QTimer m_timer;
+    bool m_playing = false, m_controls = true;
+    QTimer m_timer, m_lengthsTimer;
     QElapsedTimer m_clock; // since the position was moved
     Stage *const m_stage;
 };

@@ -60,10 +60,8 @@ void Stage::setSlide(const SmilSlide &slide, const QList<Part> &parts)
     for (int i = 0; i < int(m_cues.size()); ++i) {
         const SmilCue &cue = m_cues.at(i);
         const int part = slide.parts.at(i);
-        m_media.append(take(pool, cue, part));
-        if (!m_media.last()) {
-            m_media.last() = new Medium(cue, part, parts.value(part), m_background, this);
-        }
+        Medium *const there = take(pool, cue, part);
+        m_media.append(there ? there : new Medium(cue, part, parts.value(part), m_background, this));
         m_media.last()->begin = cue.begin;
         (cue.ref.type == SmilRef::Audio ? heard : seen).append(m_media.last());
         texts += parts.value(part).text();

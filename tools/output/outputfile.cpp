@@ -28,14 +28,11 @@ QString createFile(const QString &name, const QByteArray &data)
     if (!out.open(unbuffered | QIODevice::NewOnly)) {
         return out.errorString();
     }
-    if (writeAll(out, data)) {
-        out.close(); // which may fail, too
+    const bool isWhole = writeAll(out, data) && (out.close(), out.error() == QFileDevice::NoError);
+    const QString problem = isWhole ? QString() : out.errorString();
+    if (!isWhole) {
+        out.remove();
     }
-    if (out.error() == QFileDevice::NoError) {
-        return QString();
-    }
-    const QString problem = out.errorString();
-    out.remove();
     return problem;
 }
 
