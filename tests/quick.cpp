@@ -9,6 +9,7 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickImageProvider>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickItemGrabResult>
 #include <QtQuick/QQuickView>
@@ -46,6 +47,15 @@ static QString folder()
     return QFINDTESTDATA("media");
 }
 
+/** An app's own pictures, all of which are there. */
+struct Memory : public QQuickImageProvider {
+    Memory()
+        : QQuickImageProvider(Image)
+    {
+    }
+    QImage requestImage(const QString &, QSize *, const QSize &) override { return QImage(9, 9, QImage::Format_RGB32); }
+};
+
 /** A slideshow in a window. Before the installed QML modules come those in a folder. */
 class Shown : public QQuickView
 {
@@ -55,6 +65,7 @@ public:
     {
         engine()->addImportPath(QStringLiteral(MODULE_DIR));
         engine()->addImportPath(modules);
+        engine()->addImageProvider(QStringLiteral("memory"), new Memory);
         setInitialProperties({{QStringLiteral("smil"), smil}, {QStringLiteral("parts"), parts}});
         setResizeMode(SizeRootObjectToView);
         resize(window);
