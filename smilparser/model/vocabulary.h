@@ -6,6 +6,8 @@
 
 #include <smilparser/smilparser.h>
 
+#include <utility>
+
 // The names of elements and attributes, each made once: Qt would make one at each look-up.
 
 extern const QString bodyElement;
@@ -58,9 +60,9 @@ template<typename Record, std::size_t Count>
 void readAttributes(const QDomElement &element, const Attribute<Record> (&attributes)[Count], Record &record)
 {
     for (const Attribute<Record> &attribute : attributes) {
-        const QString text = element.attribute(attribute.name, absent);
+        QString text = element.attribute(attribute.name, absent);
         if (attribute.text) {
-            record.*attribute.text = text;
+            record.*attribute.text = std::move(text);
         } else {
             record.*attribute.measure = SmilUnit(text);
         }

@@ -13,9 +13,10 @@
 Q_NEVER_INLINE static void readDuration(const QDomElement &element, SmilUnit &dur, SmilParser::ReadOptions options)
 {
     const QString text = element.attribute(durAttribute, absent);
-    SmilUnit clock;
-    clock.valid = options.testFlag(SmilParser::ClockDurations) && clock.convertClock(text);
-    dur = clock.valid ? clock : SmilUnit(text);
+    dur.valid = options.testFlag(SmilParser::ClockDurations) && dur.convertClock(text);
+    if (!dur.valid) {
+        dur = SmilUnit(text);
+    }
 }
 
 Q_NEVER_INLINE static void readRef(const QDomElement &element, int type, QList<SmilRef> &refs)
